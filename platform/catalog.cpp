@@ -1,0 +1,44 @@
+// Shared lookups of the catalog interface and the in-memory catalog.
+#include "platform/catalog.h"
+
+#include <strings.h>
+
+namespace morvane {
+
+static bool SameText(const std::string& a, const std::string& b) {
+  return a.size() == b.size() && strncasecmp(a.c_str(), b.c_str(), a.size()) == 0;
+}
+
+std::optional<QueryInfo> Catalog::QueryDef(const std::string& name) const {
+  for (auto& q : QueryDefs())
+    if (SameText(q.Name, name)) return q;
+  return std::nullopt;
+}
+
+std::optional<TableInfo> Catalog::TableDef(const std::string& name) const {
+  for (auto& t : TableDefs())
+    if (SameText(t.Name, name)) return t;
+  return std::nullopt;
+}
+
+std::vector<std::string> MemoryCatalog::ContainerDocuments(const std::string& container) const {
+  auto it = Containers.find(container);
+  return it == Containers.end() ? std::vector<std::string>{} : it->second;
+}
+
+std::optional<std::string> MemoryCatalog::Property(const std::string& name) const {
+  for (auto& [k, v] : Properties)
+    if (SameText(k, name)) return v;
+  return std::nullopt;
+}
+
+void MemoryCatalog::SetProperty(const std::string& name, const std::string& value) {
+  for (auto& [k, v] : Properties)
+    if (SameText(k, name)) {
+      v = value;
+      return;
+    }
+  Properties[name] = value;
+}
+
+}  // namespace morvane

@@ -1,0 +1,87 @@
+// The project model: what stands in for the development environment's
+// project object. It keeps the component list and the references, offers the
+// code-module operations on each component's file, and writes the project
+// file in VB6's own .vbp format.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/catalog.h"
+
+namespace morvane {
+
+enum class ComponentKind { Module, Class, Form, Designer, UserControl };
+
+// The code part of a component file: everything behind the designer block
+// and the Attribute lines. Each operation reads and writes the file, so the
+// file on disk is always the truth.
+class CodeModule {
+ public:
+  explicit CodeModule(std::filesystem::path file) : file_(std::move(file)) {}
+  int CountOfLines() const;
+  // Lines before the first procedure, as the VBA editor counts them.
+  int CountOfDeclarationLines() const;
+  std::string Lines(int start, int count) const;
+  void InsertLines(int line, const std::string& text);
+  void DeleteLines(int start, int count);
+  // Adds text to the end of the declarations section.
+  void AddFromString(const std::string& text);
+
+ private:
+  struct Split {
+    std::vector<std::string> head;
+    std::vector<std::string> code;
+  };
+  Split Read() const;
+  void Write(const Split& s) const;
+  std::filesystem::path file_;
+};
+
+struct ProjectComponent {
+  std::string Name;
+  ComponentKind Kind = ComponentKind::Module;
+  std::filesystem::path File;
+  CodeModule Code() const { return CodeModule(File); }
+};
+
+class ProjectModel {
+ public:
+  // Type 0 standard executable, 3 ActiveX control project.
+  explicit ProjectModel(int type = 0) : type_(type) {}
+
+  std::string Name;
+  // True when the components are listed as relative paths from the .vbp.
+  int Type() const { return type_; }
+
+  const std::vector<ProjectComponent>& Components() const { return components_; }
+  const ProjectComponent* Find(const std::string& name) const;
+  // Adds a file on disk; its kind and name come from its text (VB_Name, the
+  // form's or designer's Begin line). A class kept in a .bas is a class.
+  // Returns null when the file cannot be read. A component with the same
+  // name replaces the earlier one in place.
+  const ProjectComponent* AddFile(const std::filesystem::path& file);
+  void Remove(const std::string& name);
+
+  const std::vector<ReferenceInfo>& References() const { return references_; }
+  void AddFromGuid(const std::string& guid, int major, int minor);
+
+  // Records the request only: nothing can compile here.
+  void MakeCompiledFile() { compileRequested_ = true; }
+  bool CompileRequested() const { return compileRequested_; }
+
+  // Writes the .vbp (and remembers its path for later saves).
+  bool SaveAs(const std::filesystem::path& vbpFile, std::string* err);
+  // The text SaveAs writes, with component paths relative to `baseDir`.
+  std::string VbpText(const std::filesystem::path& baseDir) const;
+
+ private:
+  int type_;
+  std::vector<ProjectComponent> components_;
+  std::vector<ReferenceInfo> references_;
+  bool compileRequested_ = false;
+};
+
+}  // namespace morvane

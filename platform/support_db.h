@@ -1,0 +1,94 @@
+// The support database: one SQLite file, morvane.db, in the output directory.
+// It keeps the conversion analysis (tblReportOutput, tblStats, tblLog), the
+// scratch tables of the walkers (tblFields, tblPict) and the read-only mapping
+// tables (CustomControlMapping, mtm_tblActions, mtm_tblActionArgs,
+// mtm_tblLookups) seeded from the program's data directory.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+struct sqlite3;
+
+namespace morvane {
+
+struct ReportOutputRow {
+  std::string ModuleName;
+  long ReasonID = 0;
+  std::string CodeLine;
+  int LineNumber = 0;
+  std::string TranslatedLine;
+  std::string Routine;
+};
+
+struct StatsRow {
+  std::string ModuleName;
+  int TotalLines = 0;
+  int CommentLines = 0;
+  int LinesNotTranslated = 0;
+  int LinesPotentiallyConverted = 0;
+  int BlankLines = 0;
+  int SubCount = 0;
+  int ProcCount = 0;
+  int CtlCount = 0;
+  int CtlsPartiallyConverted = 0;
+  int CodeLines = 0;
+};
+
+struct LogRow {
+  long ErrorID = 0;
+  std::string Report;
+  std::string Location;
+  int ControlDeleted = 0;
+};
+
+struct FieldRow {
+  std::string FieldName;
+  int Type = 0;
+  std::string Form;
+};
+
+class SupportDatabase {
+ public:
+  // Opens (creating when needed) the database file and its schema. The
+  // mapping tables are seeded from `dataDir` when they are empty.
+  static std::unique_ptr<SupportDatabase> Open(const std::filesystem::path& file,
+                                               const std::filesystem::path& dataDir,
+                                               std::string* err);
+  ~SupportDatabase();
+  SupportDatabase(const SupportDatabase&) = delete;
+  SupportDatabase& operator=(const SupportDatabase&) = delete;
+
+  const std::filesystem::path& File() const { return file_; }
+  sqlite3* Handle() { return db_; }
+
+  // Runs SQL without results. False with the engine's message on failure.
+  bool Execute(const std::string& sql, std::string* err = nullptr);
+
+  // qryRptOutputDel and qryStatsDel: empty the analysis of an earlier run.
+  // tblLog is kept.
+  void ClearAnalysis();
+
+  bool AddReportOutput(const ReportOutputRow& row);
+  // Finds the row by ModuleName; writes each count only when it is not 0.
+  bool MergeStats(const StatsRow& row);
+  bool AddLog(const LogRow& row);
+
+  void ClearFields();  // "Delete * From tblFields"
+  bool AddField(const FieldRow& row);
+  std::optional<FieldRow> FindField(const std::string& fieldName) const;
+
+  std::vector<ReportOutputRow> ReportOutput() const;
+  std::vector<StatsRow> Stats() const;
+  std::vector<LogRow> Log() const;
+
+ private:
+  SupportDatabase() = default;
+  sqlite3* db_ = nullptr;
+  std::filesystem::path file_;
+};
+
+}  // namespace morvane
