@@ -1,0 +1,274 @@
+// The support database over SQLite: schema, seeding of the mapping tables
+// from the data directory, and the row writers of the analysis.
+#include "platform/support_db.h"
+
+#include <sqlite3.h>
+
+#include "platform/text_file.h"
+
+namespace morvane {
+
+namespace {
+
+// Table and column names are the ones the converters and the analysis
+// reports use. Every table that the walkers fill or read is here, also those
+// whose rows come later in a run.
+constexpr const char* kSchema = R"sql(
+CREATE TABLE IF NOT EXISTS tblReportOutput (
+  ID INTEGER PRIMARY KEY AUTOINCREMENT,
+  ModuleName TEXT, ReasonID INTEGER, CodeLine TEXT, LineNumber INTEGER,
+  TranslatedLine TEXT, Routine TEXT);
+CREATE TABLE IF NOT EXISTS tblStats (
+  ModuleName TEXT PRIMARY KEY, TotalLines INTEGER DEFAULT 0, CommentLines INTEGER DEFAULT 0,
+  LinesNotTranslated INTEGER DEFAULT 0, LinesPotentiallyConverted INTEGER DEFAULT 0,
+  BlankLines INTEGER DEFAULT 0, SubCount INTEGER DEFAULT 0, ProcCount INTEGER DEFAULT 0,
+  CtlCount INTEGER DEFAULT 0, CtlsPartiallyConverted INTEGER DEFAULT 0,
+  CodeLines INTEGER DEFAULT 0);
+CREATE TABLE IF NOT EXISTS tblLog (
+  ID INTEGER PRIMARY KEY AUTOINCREMENT,
+  ErrorID INTEGER, Report TEXT, Location TEXT, ControlDeleted INTEGER DEFAULT 0);
+CREATE TABLE IF NOT EXISTS tblFields (FieldName TEXT, Type INTEGER, Form TEXT);
+CREATE TABLE IF NOT EXISTS tblPict (ID INTEGER PRIMARY KEY, PictureData BLOB);
+CREATE TABLE IF NOT EXISTS CustomControlMapping (
+  AccessClassName TEXT PRIMARY KEY, VBType TEXT, ClassID TEXT, FileName TEXT);
+CREATE TABLE IF NOT EXISTS mtm_tblActions (
+  Action TEXT, ActionID INTEGER PRIMARY KEY, MapsTo TEXT, NumArgs INTEGER);
+CREATE TABLE IF NOT EXISTS mtm_tblActionArgs (
+  ActionID INTEGER, ArgNumber INTEGER, ArgumentType TEXT, LookupBase INTEGER,
+  AutoExpression TEXT, PRIMARY KEY (ActionID, ArgNumber));
+CREATE TABLE IF NOT EXISTS mtm_tblLookups (
+  LookupNumber INTEGER PRIMARY KEY, Value TEXT);
+)sql";
+
+// Mapping tables seeded from `<data>/<table>.tsv`: a header line with the
+// column names, then one tab-separated row per line; "#" starts a comment
+// line. "\t" inside a value cannot occur; an empty value is NULL.
+constexpr const char* kSeededTables[] = {
+    "CustomControlMapping",
+    "mtm_tblActions",
+    "mtm_tblActionArgs",
+    "mtm_tblLookups",
+};
+
+std::vector<std::string> SplitTabs(const std::string& line) {
+  std::vector<std::string> out(1);
+  for (char c : line) {
+    if (c == '\t')
+      out.emplace_back();
+    else
+      out.back() += c;
+  }
+  return out;
+}
+
+class Statement {
+ public:
+  Statement(sqlite3* db, const char* sql) { sqlite3_prepare_v2(db, sql, -1, &stmt_, nullptr); }
+  ~Statement() { sqlite3_finalize(stmt_); }
+  bool ok() const { return stmt_ != nullptr; }
+  Statement& Bind(int i, const std::string& v) {
+    sqlite3_bind_text(stmt_, i, v.data(), static_cast<int>(v.size()), SQLITE_TRANSIENT);
+    return *this;
+  }
+  Statement& Bind(int i, long long v) {
+    sqlite3_bind_int64(stmt_, i, v);
+    return *this;
+  }
+  bool Run() { return stmt_ && sqlite3_step(stmt_) == SQLITE_DONE; }
+  bool Next() { return stmt_ && sqlite3_step(stmt_) == SQLITE_ROW; }
+  std::string Text(int col) const {
+    auto p = reinterpret_cast<const char*>(sqlite3_column_text(stmt_, col));
+    return p ? std::string(p, static_cast<size_t>(sqlite3_column_bytes(stmt_, col))) : "";
+  }
+  long long Int(int col) const { return sqlite3_column_int64(stmt_, col); }
+  sqlite3_stmt* get() { return stmt_; }
+
+ private:
+  sqlite3_stmt* stmt_ = nullptr;
+};
+
+bool SeedTable(sqlite3* db, const std::filesystem::path& file, const std::string& table) {
+  {
+    std::string count_sql = "SELECT COUNT(*) FROM " + table;
+    Statement count(db, count_sql.c_str());
+    if (!count.Next() || count.Int(0) > 0) return true;
+  }
+  std::vector<std::string> lines;
+  if (!std::filesystem::exists(file) || !ReadTextLines(file, &lines, nullptr)) return true;
+  std::vector<std::string> columns;
+  std::string insert;
+  sqlite3_exec(db, "BEGIN", nullptr, nullptr, nullptr);
+  for (const auto& line : lines) {
+    if (line.empty() || line[0] == '#') continue;
+    auto fields = SplitTabs(line);
+    if (columns.empty()) {
+      columns = fields;
+      insert = "INSERT INTO " + table + " (";
+      for (size_t i = 0; i < columns.size(); ++i) insert += (i ? "," : "") + columns[i];
+      insert += ") VALUES (";
+      for (size_t i = 0; i < columns.size(); ++i) insert += i ? ",?" : "?";
+      insert += ")";
+      continue;
+    }
+    Statement st(db, insert.c_str());
+    for (size_t i = 0; i < columns.size(); ++i) {
+      if (i < fields.size() && !fields[i].empty()) st.Bind(static_cast<int>(i + 1), fields[i]);
+    }
+    st.Run();
+  }
+  sqlite3_exec(db, "COMMIT", nullptr, nullptr, nullptr);
+  return true;
+}
+
+}  // namespace
+
+std::unique_ptr<SupportDatabase> SupportDatabase::Open(const std::filesystem::path& file,
+                                                       const std::filesystem::path& dataDir,
+                                                       std::string* err) {
+  std::unique_ptr<SupportDatabase> db(new SupportDatabase());
+  db->file_ = file;
+  if (sqlite3_open(file.string().c_str(), &db->db_) != SQLITE_OK) {
+    if (err) *err = "cannot open the support database " + file.string();
+    return nullptr;
+  }
+  std::string why;
+  if (!db->Execute(kSchema, &why)) {
+    if (err) *err = "cannot create the support database " + file.string() + ": " + why;
+    return nullptr;
+  }
+  for (const char* table : kSeededTables)
+    SeedTable(db->db_, dataDir / (std::string(table) + ".tsv"), table);
+  return db;
+}
+
+SupportDatabase::~SupportDatabase() { sqlite3_close(db_); }
+
+bool SupportDatabase::Execute(const std::string& sql, std::string* err) {
+  char* msg = nullptr;
+  if (sqlite3_exec(db_, sql.c_str(), nullptr, nullptr, &msg) != SQLITE_OK) {
+    if (err) *err = msg ? msg : "unknown error";
+    sqlite3_free(msg);
+    return false;
+  }
+  return true;
+}
+
+void SupportDatabase::ClearAnalysis() {
+  Execute("DELETE FROM tblReportOutput");
+  Execute("DELETE FROM tblStats");
+}
+
+bool SupportDatabase::AddReportOutput(const ReportOutputRow& row) {
+  Statement st(db_,
+               "INSERT INTO tblReportOutput (ModuleName, ReasonID, CodeLine, LineNumber, "
+               "TranslatedLine, Routine) VALUES (?,?,?,?,?,?)");
+  return st.Bind(1, row.ModuleName)
+      .Bind(2, static_cast<long long>(row.ReasonID))
+      .Bind(3, row.CodeLine)
+      .Bind(4, static_cast<long long>(row.LineNumber))
+      .Bind(5, row.TranslatedLine)
+      .Bind(6, row.Routine)
+      .Run();
+}
+
+bool SupportDatabase::MergeStats(const StatsRow& row) {
+  {
+    Statement ins(db_, "INSERT OR IGNORE INTO tblStats (ModuleName) VALUES (?)");
+    if (!ins.Bind(1, row.ModuleName).Run()) return false;
+  }
+  const std::pair<const char*, int> fields[] = {
+      {"TotalLines", row.TotalLines},
+      {"CommentLines", row.CommentLines},
+      {"LinesNotTranslated", row.LinesNotTranslated},
+      {"LinesPotentiallyConverted", row.LinesPotentiallyConverted},
+      {"BlankLines", row.BlankLines},
+      {"SubCount", row.SubCount},
+      {"ProcCount", row.ProcCount},
+      {"CtlCount", row.CtlCount},
+      {"CtlsPartiallyConverted", row.CtlsPartiallyConverted},
+      {"CodeLines", row.CodeLines},
+  };
+  for (auto& [name, value] : fields) {
+    if (value == 0) continue;  // a count of 0 keeps what an earlier call wrote
+    std::string sql = std::string("UPDATE tblStats SET ") + name + " = ? WHERE ModuleName = ?";
+    Statement up(db_, sql.c_str());
+    if (!up.Bind(1, static_cast<long long>(value)).Bind(2, row.ModuleName).Run()) return false;
+  }
+  return true;
+}
+
+bool SupportDatabase::AddLog(const LogRow& row) {
+  Statement st(db_,
+               "INSERT INTO tblLog (ErrorID, Report, Location, ControlDeleted) VALUES (?,?,?,?)");
+  return st.Bind(1, static_cast<long long>(row.ErrorID))
+      .Bind(2, row.Report)
+      .Bind(3, row.Location)
+      .Bind(4, static_cast<long long>(row.ControlDeleted))
+      .Run();
+}
+
+void SupportDatabase::ClearFields() { Execute("DELETE FROM tblFields"); }
+
+bool SupportDatabase::AddField(const FieldRow& row) {
+  Statement st(db_, "INSERT INTO tblFields (FieldName, Type, Form) VALUES (?,?,?)");
+  return st.Bind(1, row.FieldName)
+      .Bind(2, static_cast<long long>(row.Type))
+      .Bind(3, row.Form)
+      .Run();
+}
+
+std::optional<FieldRow> SupportDatabase::FindField(const std::string& fieldName) const {
+  Statement st(db_,
+               "SELECT FieldName, Type, Form FROM tblFields WHERE FieldName = ? COLLATE NOCASE "
+               "LIMIT 1");
+  st.Bind(1, fieldName);
+  if (!st.Next()) return std::nullopt;
+  return FieldRow{st.Text(0), static_cast<int>(st.Int(1)), st.Text(2)};
+}
+
+std::vector<ReportOutputRow> SupportDatabase::ReportOutput() const {
+  std::vector<ReportOutputRow> rows;
+  Statement st(db_,
+               "SELECT ModuleName, ReasonID, CodeLine, LineNumber, TranslatedLine, Routine FROM "
+               "tblReportOutput ORDER BY ID");
+  while (st.Next())
+    rows.push_back({st.Text(0), static_cast<long>(st.Int(1)), st.Text(2),
+                    static_cast<int>(st.Int(3)), st.Text(4), st.Text(5)});
+  return rows;
+}
+
+std::vector<StatsRow> SupportDatabase::Stats() const {
+  std::vector<StatsRow> rows;
+  Statement st(db_,
+               "SELECT ModuleName, TotalLines, CommentLines, LinesNotTranslated, "
+               "LinesPotentiallyConverted, BlankLines, SubCount, ProcCount, CtlCount, "
+               "CtlsPartiallyConverted, CodeLines FROM tblStats ORDER BY rowid");
+  while (st.Next()) {
+    StatsRow r;
+    r.ModuleName = st.Text(0);
+    int* ints[] = {&r.TotalLines,
+                   &r.CommentLines,
+                   &r.LinesNotTranslated,
+                   &r.LinesPotentiallyConverted,
+                   &r.BlankLines,
+                   &r.SubCount,
+                   &r.ProcCount,
+                   &r.CtlCount,
+                   &r.CtlsPartiallyConverted,
+                   &r.CodeLines};
+    for (int i = 0; i < 10; ++i) *ints[i] = static_cast<int>(st.Int(i + 1));
+    rows.push_back(r);
+  }
+  return rows;
+}
+
+std::vector<LogRow> SupportDatabase::Log() const {
+  std::vector<LogRow> rows;
+  Statement st(db_, "SELECT ErrorID, Report, Location, ControlDeleted FROM tblLog ORDER BY ID");
+  while (st.Next())
+    rows.push_back(
+        {static_cast<long>(st.Int(0)), st.Text(1), st.Text(2), static_cast<int>(st.Int(3))});
+  return rows;
+}
+
+}  // namespace morvane
