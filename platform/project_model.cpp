@@ -1,0 +1,326 @@
+// The project model: component list, references, code-module operations on
+// component files, and the VB6 project file.
+#include "platform/project_model.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstdio>
+
+#include "platform/text_file.h"
+
+namespace morvane {
+
+namespace {
+
+bool StartsWith(const std::string& s, const char* prefix) { return s.rfind(prefix, 0) == 0; }
+
+std::string Trimmed(const std::string& s) {
+  size_t b = s.find_first_not_of(" \t");
+  if (b == std::string::npos) return "";
+  size_t e = s.find_last_not_of(" \t");
+  return s.substr(b, e - b + 1);
+}
+
+bool StartsWithWordNoCase(const std::string& s, const std::string& word) {
+  if (s.size() < word.size()) return false;
+  for (size_t i = 0; i < word.size(); ++i)
+    if (std::tolower(static_cast<unsigned char>(s[i])) !=
+        std::tolower(static_cast<unsigned char>(word[i])))
+      return false;
+  return true;
+}
+
+// A Sub, Function or Property header, with its optional scope words.
+bool IsProcedureHeader(const std::string& raw) {
+  std::string s = Trimmed(raw);
+  for (const char* scope : {"Public ", "Private ", "Friend ", "Static "}) {
+    if (StartsWithWordNoCase(s, scope))
+      s = Trimmed(s.substr(std::char_traits<char>::length(scope)));
+  }
+  if (StartsWithWordNoCase(s, "Static ")) s = Trimmed(s.substr(7));
+  return StartsWithWordNoCase(s, "Sub ") || StartsWithWordNoCase(s, "Function ") ||
+         StartsWithWordNoCase(s, "Property ");
+}
+
+// Lines before the first procedure; the comment lines directly above the
+// first procedure belong to it, as in the VBA editor.
+int DeclarationLineCount(const std::vector<std::string>& code) {
+  size_t first = code.size();
+  for (size_t i = 0; i < code.size(); ++i)
+    if (IsProcedureHeader(code[i])) {
+      first = i;
+      break;
+    }
+  if (first == code.size()) return static_cast<int>(code.size());
+  size_t n = first;
+  while (n > 0 && Trimmed(code[n - 1]).rfind('\'', 0) == 0) --n;
+  return static_cast<int>(n);
+}
+
+// Index of the first code line: behind the VERSION line, Object= lines, the
+// designer or class header block, and the Attribute lines.
+size_t CodeStart(const std::vector<std::string>& lines) {
+  size_t i = 0;
+  while (i < lines.size()) {
+    const std::string t = Trimmed(lines[i]);
+    if (StartsWith(t, "VERSION ") || StartsWith(t, "Object =") || StartsWith(t, "Object=") ||
+        StartsWith(t, "Attribute ")) {
+      ++i;
+    } else if (t == "BEGIN") {  // class header
+      while (i < lines.size() && Trimmed(lines[i]) != "END") ++i;
+      ++i;
+    } else if (StartsWith(t, "Begin ") && i < lines.size()) {  // designer block
+      int depth = 0;
+      for (; i < lines.size(); ++i) {
+        const std::string d = Trimmed(lines[i]);
+        if (StartsWith(d, "Begin ") || d == "Begin" || StartsWith(d, "BeginProperty ")) ++depth;
+        if (d == "End" || d == "EndProperty") --depth;
+        if (depth == 0) break;
+      }
+      ++i;
+    } else {
+      break;
+    }
+  }
+  return std::min(i, lines.size());
+}
+
+std::string AttributeName(const std::vector<std::string>& lines) {
+  for (const auto& l : lines) {
+    std::string t = Trimmed(l);
+    if (StartsWith(t, "Attribute VB_Name")) {
+      size_t q1 = t.find('"');
+      size_t q2 = t.rfind('"');
+      if (q1 != std::string::npos && q2 > q1) return t.substr(q1 + 1, q2 - q1 - 1);
+    }
+  }
+  return "";
+}
+
+}  // namespace
+
+CodeModule::Split CodeModule::Read() const {
+  std::vector<std::string> lines;
+  ReadTextLines(file_, &lines, nullptr);
+  size_t start = CodeStart(lines);
+  Split s;
+  s.head.assign(lines.begin(), lines.begin() + static_cast<long>(start));
+  s.code.assign(lines.begin() + static_cast<long>(start), lines.end());
+  return s;
+}
+
+void CodeModule::Write(const Split& s) const {
+  std::vector<std::string> all = s.head;
+  all.insert(all.end(), s.code.begin(), s.code.end());
+  WriteTextLines(file_, all, nullptr);
+}
+
+int CodeModule::CountOfLines() const { return static_cast<int>(Read().code.size()); }
+
+int CodeModule::CountOfDeclarationLines() const { return DeclarationLineCount(Read().code); }
+
+std::string CodeModule::Lines(int start, int count) const {
+  Split s = Read();
+  std::string out;
+  for (int i = start; i < start + count && i >= 1 && i <= static_cast<int>(s.code.size()); ++i) {
+    if (i > start) out += "\r\n";
+    out += s.code[static_cast<size_t>(i - 1)];
+  }
+  return out;
+}
+
+void CodeModule::InsertLines(int line, const std::string& text) {
+  Split s = Read();
+  size_t at = static_cast<size_t>(std::clamp(line, 1, static_cast<int>(s.code.size()) + 1) - 1);
+  auto add = SplitLines(text);
+  if (text.empty()) add.assign(1, "");
+  s.code.insert(s.code.begin() + static_cast<long>(at), add.begin(), add.end());
+  Write(s);
+}
+
+void CodeModule::DeleteLines(int start, int count) {
+  Split s = Read();
+  if (start < 1 || count < 1 || start > static_cast<int>(s.code.size())) return;
+  size_t b = static_cast<size_t>(start - 1);
+  size_t e = std::min(s.code.size(), b + static_cast<size_t>(count));
+  s.code.erase(s.code.begin() + static_cast<long>(b), s.code.begin() + static_cast<long>(e));
+  Write(s);
+}
+
+void CodeModule::AddFromString(const std::string& text) {
+  Split s = Read();
+  auto add = SplitLines(text);
+  size_t at = static_cast<size_t>(DeclarationLineCount(s.code));
+  s.code.insert(s.code.begin() + static_cast<long>(at), add.begin(), add.end());
+  Write(s);
+}
+
+const ProjectComponent* ProjectModel::Find(const std::string& name) const {
+  for (const auto& c : components_)
+    if (c.Name.size() == name.size() && StartsWithWordNoCase(c.Name, name)) return &c;
+  return nullptr;
+}
+
+const ProjectComponent* ProjectModel::AddFile(const std::filesystem::path& file) {
+  std::vector<std::string> lines;
+  if (!ReadTextLines(file, &lines, nullptr)) return nullptr;
+  ProjectComponent c;
+  c.File = file;
+  c.Kind = ComponentKind::Module;
+  for (size_t i = 0; i < lines.size() && i < 40; ++i) {
+    std::string t = Trimmed(lines[i]);
+    if (StartsWith(t, "VERSION 1.0 CLASS")) {
+      c.Kind = ComponentKind::Class;
+      break;
+    }
+    if (StartsWith(t, "Begin VB.Form") || StartsWith(t, "Begin VB.MDIForm")) {
+      c.Kind = ComponentKind::Form;
+      break;
+    }
+    if (StartsWith(t, "Begin VB.UserControl")) {
+      c.Kind = ComponentKind::UserControl;
+      break;
+    }
+    if (StartsWith(t, "Begin {")) {
+      c.Kind = ComponentKind::Designer;
+      break;
+    }
+  }
+  c.Name = AttributeName(lines);
+  if (c.Name.empty()) c.Name = file.stem().string();
+  for (auto& existing : components_) {
+    if (existing.Name == c.Name) {
+      existing = c;
+      return &existing;
+    }
+  }
+  components_.push_back(c);
+  return &components_.back();
+}
+
+void ProjectModel::Remove(const std::string& name) {
+  const ProjectComponent* c = Find(name);
+  if (!c) return;
+  components_.erase(components_.begin() + (c - components_.data()));
+}
+
+void ProjectModel::AddFromGuid(const std::string& guid, int major, int minor) {
+  references_.push_back({"", guid, major, minor});
+}
+
+namespace {
+
+struct KnownReference {
+  const char* guid;
+  const char* file;
+  const char* description;
+};
+
+// Type libraries the project file names by path and title; any other
+// reference is written with its GUID and version alone.
+constexpr KnownReference kKnownReferences[] = {
+    {"{00020430-0000-0000-C000-000000000046}", "C:\\WINDOWS\\System32\\stdole2.tlb",
+     "OLE Automation"},
+    {"{00000205-0000-0010-8000-00AA006D2EA4}",
+     "C:\\Program Files\\Common Files\\System\\ado\\msado25.tlb",
+     "Microsoft ActiveX Data Objects 2.5 Library"},
+    {"{00025E01-0000-0000-C000-000000000046}",
+     "C:\\Program Files\\Common Files\\Microsoft Shared\\DAO\\dao360.dll",
+     "Microsoft DAO 3.6 Object Library"},
+    {"{000204EF-0000-0000-C000-000000000046}",
+     "C:\\Program Files\\Common Files\\Microsoft Shared\\VBA\\VBA6\\VBE6.DLL",
+     "Visual Basic For Applications"},
+    {"{4AFFC9A0-5F99-101B-AF4E-00AA003F0F07}",
+     "C:\\Program Files\\Microsoft Office\\Office\\MSACC9.OLB",
+     "Microsoft Access 9.0 Object Library"},
+};
+
+std::string HexVersion(int major, int minor) {
+  char buf[32];
+  std::snprintf(buf, sizeof buf, "%x.%x", major, minor);
+  return buf;
+}
+
+std::string RelativeTo(const std::filesystem::path& file, const std::filesystem::path& base) {
+  std::error_code ec;
+  auto rel = std::filesystem::relative(file, base, ec);
+  std::string s = (ec || rel.empty()) ? file.string() : rel.string();
+  std::replace(s.begin(), s.end(), '/', '\\');
+  return s;
+}
+
+}  // namespace
+
+std::string ProjectModel::VbpText(const std::filesystem::path& baseDir) const {
+  std::vector<std::string> out;
+  out.push_back(type_ == 3 ? "Type=Control" : "Type=Exe");
+  for (const auto& r : references_) {
+    const KnownReference* known = nullptr;
+    for (const auto& k : kKnownReferences)
+      if (StartsWithWordNoCase(r.Guid, k.guid) &&
+          r.Guid.size() == std::char_traits<char>::length(k.guid))
+        known = &k;
+    out.push_back("Reference=*\\G" + r.Guid + "#" + HexVersion(r.Major, r.Minor) + "#0#" +
+                  (known ? known->file : "") + "#" + (known ? known->description : r.Name));
+  }
+  for (const auto& c : components_) {
+    std::string rel = RelativeTo(c.File, baseDir);
+    switch (c.Kind) {
+      case ComponentKind::Module:
+        out.push_back("Module=" + c.Name + "; " + rel);
+        break;
+      case ComponentKind::Class:
+        out.push_back("Class=" + c.Name + "; " + rel);
+        break;
+      case ComponentKind::Form:
+        out.push_back("Form=" + rel);
+        break;
+      case ComponentKind::Designer:
+        out.push_back("Designer=" + rel);
+        break;
+      case ComponentKind::UserControl:
+        out.push_back("UserControl=" + rel);
+        break;
+    }
+  }
+  const std::string name = Name.empty() ? "Project1" : Name;
+  if (type_ != 3) out.push_back("Startup=\"Sub Main\"");
+  out.push_back("HelpFile=\"\"");
+  out.push_back("Title=\"" + name + "\"");
+  out.push_back(std::string("ExeName32=\"") + name + (type_ == 3 ? ".ocx\"" : ".exe\""));
+  out.push_back("Command32=\"\"");
+  out.push_back("Name=\"" + name + "\"");
+  out.push_back("HelpContextID=\"0\"");
+  out.push_back("CompatibleMode=\"0\"");
+  for (const char* line : {"MajorVer=1",
+                           "MinorVer=0",
+                           "RevisionVer=0",
+                           "AutoIncrementVer=0",
+                           "ServerSupportFiles=0",
+                           "CompilationType=0",
+                           "OptimizationType=0",
+                           "FavorPentiumPro(tm)=0",
+                           "CodeViewDebugInfo=0",
+                           "NoAliasing=0",
+                           "BoundsCheck=0",
+                           "OverflowCheck=0",
+                           "FlPointCheck=0",
+                           "FDIVCheck=0",
+                           "UnroundedFP=0",
+                           "StartMode=0",
+                           "Unattended=0",
+                           "Retained=0",
+                           "ThreadPerObject=0",
+                           "MaxNumberOfThreads=1",
+                           "",
+                           "[MS Transaction Server]",
+                           "AutoRefresh=1"})
+    out.push_back(line);
+  return JoinCrLf(out);
+}
+
+bool ProjectModel::SaveAs(const std::filesystem::path& vbpFile, std::string* err) {
+  return WriteFileBytes(vbpFile, VbpText(vbpFile.parent_path()), err);
+}
+
+}  // namespace morvane
