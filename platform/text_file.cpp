@@ -72,8 +72,7 @@ bool WriteFileBytes(const std::filesystem::path& path, std::string_view bytes, s
   return WriteWithMode(path, bytes, std::ios::trunc, err);
 }
 
-bool AppendFileBytes(const std::filesystem::path& path, std::string_view bytes,
-                     std::string* err) {
+bool AppendFileBytes(const std::filesystem::path& path, std::string_view bytes, std::string* err) {
   return WriteWithMode(path, bytes, std::ios::app, err);
 }
 

@@ -39,17 +39,17 @@ struct ConversionSession {
   bool SsOptionSet = false;
   bool DatePicker = true;
   // Window values that are read directly by the steps that need them.
-  bool WantRelativePaths = true;   // chkRelativePaths
-  bool WantSsOptionSet = false;    // chkSSOption
-  bool WantDatePicker = true;      // chkDTPicker
-  std::string WorkgroupFile;       // txtMDW
+  bool WantRelativePaths = true;  // chkRelativePaths
+  bool WantSsOptionSet = false;   // chkSSOption
+  bool WantDatePicker = true;     // chkDTPicker
+  std::string WorkgroupFile;      // txtMDW
 
   std::string OptionWord;
   int OptionWordLength = 0;
 
   // Objects of the run. The session does not own them.
-  Catalog* SourceDb = nullptr;        // DAO view of the working copy
-  SourceTree* AccessApp = nullptr;    // stands in for Access: designs and module code
+  Catalog* SourceDb = nullptr;      // DAO view of the working copy
+  SourceTree* AccessApp = nullptr;  // stands in for Access: designs and module code
   SupportDatabase* SupportDb = nullptr;
   ProjectModel* ActiveProject = nullptr;
   UserInterface* Ui = nullptr;
