@@ -27,6 +27,8 @@ CREATE TABLE IF NOT EXISTS tblStats (
 CREATE TABLE IF NOT EXISTS tblLog (
   ID INTEGER PRIMARY KEY AUTOINCREMENT,
   ErrorID INTEGER, Report TEXT, Location TEXT, ControlDeleted INTEGER DEFAULT 0);
+CREATE TABLE IF NOT EXISTS tblRunNotes (
+  ID INTEGER PRIMARY KEY AUTOINCREMENT, Object TEXT, Note TEXT);
 CREATE TABLE IF NOT EXISTS tblFields (FieldName TEXT, Type INTEGER, Form TEXT);
 CREATE TABLE IF NOT EXISTS tblPict (ID INTEGER PRIMARY KEY, PictureData BLOB);
 CREATE TABLE IF NOT EXISTS CustomControlMapping (
@@ -205,6 +207,20 @@ bool SupportDatabase::AddLog(const LogRow& row) {
       .Bind(3, row.Location)
       .Bind(4, static_cast<long long>(row.ControlDeleted))
       .Run();
+}
+
+void SupportDatabase::ClearRunNotes() { Execute("DELETE FROM tblRunNotes"); }
+
+bool SupportDatabase::AddRunNote(const std::string& object, const std::string& note) {
+  Statement st(db_, "INSERT INTO tblRunNotes (Object, Note) VALUES (?,?)");
+  return st.Bind(1, object).Bind(2, note).Run();
+}
+
+std::vector<std::pair<std::string, std::string>> SupportDatabase::RunNotes() const {
+  std::vector<std::pair<std::string, std::string>> rows;
+  Statement st(db_, "SELECT Object, Note FROM tblRunNotes ORDER BY ID");
+  while (st.Next()) rows.emplace_back(st.Text(0), st.Text(1));
+  return rows;
 }
 
 void SupportDatabase::ClearFields() { Execute("DELETE FROM tblFields"); }

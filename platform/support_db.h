@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 struct sqlite3;
@@ -80,6 +81,12 @@ class SupportDatabase {
   void ClearFields();  // "Delete * From tblFields"
   bool AddField(const FieldRow& row);
   std::optional<FieldRow> FindField(const std::string& fieldName) const;
+
+  // Notes of the run: what it could not do (an object without an export, a
+  // converter or stage this build does not have), one row each.
+  void ClearRunNotes();
+  bool AddRunNote(const std::string& object, const std::string& note);
+  std::vector<std::pair<std::string, std::string>> RunNotes() const;
 
   std::vector<ReportOutputRow> ReportOutput() const;
   std::vector<StatsRow> Stats() const;

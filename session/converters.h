@@ -35,6 +35,8 @@ class FormConverter {
   virtual void ConvertForm(ConversionSession& s, const std::string& name) = 0;
   virtual void ProcessHints(ConversionSession& s, const std::string& name) = 0;
   virtual void AddDatasheetGrids(ConversionSession& s, const std::string& name) = 0;
+  // The form's RecordSource as its design gives it.
+  virtual std::string RecordSource(ConversionSession& s, const std::string& name) = 0;
 };
 
 class ReportConverter {

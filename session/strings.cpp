@@ -51,17 +51,22 @@ constexpr Entry kEnglish[] = {
     {kMsgSummaryObjects, "Converted %1 object(s): %2 form(s), %3 report(s), %4 module(s)%5."},
     {kMsgSummaryLines, "Lines: %1 translated, %2 to review, %3 not translated."},
     {kMsgSummaryAnalysis, "Conversion analysis: %1"},
-    {kMsgNotBuiltForms, "Form conversion is not available in this version; the form was not "
-                        "converted."},
-    {kMsgNotBuiltReports, "Report conversion is not available in this version; the report was "
-                          "not converted."},
-    {kMsgNotBuiltMacros, "Macro conversion is not available in this version; the macros were "
-                         "not converted."},
+    {kMsgNotBuiltForms,
+     "Form conversion is not available in this version; the form was not "
+     "converted."},
+    {kMsgNotBuiltReports,
+     "Report conversion is not available in this version; the report was "
+     "not converted."},
+    {kMsgNotBuiltMacros,
+     "Macro conversion is not available in this version; the macros were "
+     "not converted."},
     {kMsgNotBuiltStage, "Translation stage not available in this version: %1"},
-    {kMsgObjectNotInSource, "The catalog lists %1 \"%2\" but the source tree has no export of it; "
-                            "it was not converted."},
-    {kMsgConversionCodeMissing, "The conversion code base text %1 is missing; "
-                                "MorvaneConversionCode.bas was not written."},
+    {kMsgObjectNotInSource,
+     "The catalog lists %1 \"%2\" but the source tree has no export of it; "
+     "it was not converted."},
+    {kMsgConversionCodeMissing,
+     "The conversion code base text %1 is missing; "
+     "MorvaneConversionCode.bas was not written."},
     {kCapStartTranslation, "Start &Translation"},
     {kCapProject, "&Project"},
     {kCapListControls, "List &Controls"},
