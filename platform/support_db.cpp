@@ -209,6 +209,12 @@ bool SupportDatabase::AddLog(const LogRow& row) {
       .Run();
 }
 
+int SupportDatabase::CountRows(const std::string& table) const {
+  std::string sql = "SELECT COUNT(*) FROM \"" + table + "\"";
+  Statement st(db_, sql.c_str());
+  return st.Next() ? static_cast<int>(st.Int(0)) : -1;
+}
+
 void SupportDatabase::ClearRunNotes() { Execute("DELETE FROM tblRunNotes"); }
 
 bool SupportDatabase::AddRunNote(const std::string& object, const std::string& note) {

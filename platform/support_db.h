@@ -78,6 +78,9 @@ class SupportDatabase {
   bool MergeStats(const StatsRow& row);
   bool AddLog(const LogRow& row);
 
+  // Rows of a table of the schema; -1 when the table cannot be read.
+  int CountRows(const std::string& table) const;
+
   void ClearFields();  // "Delete * From tblFields"
   bool AddField(const FieldRow& row);
   std::optional<FieldRow> FindField(const std::string& fieldName) const;
