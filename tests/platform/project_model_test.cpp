@@ -1,0 +1,115 @@
+// The project model: components by file content, code-module operations and
+// the project file text.
+#include "platform/project_model.h"
+
+#include <gtest/gtest.h>
+
+#include "support/temp_dir.h"
+
+namespace morvane {
+namespace {
+
+using test::Crlf;
+using test::ReadFile;
+using test::TempDir;
+using test::WriteFile;
+
+TEST(ProjectModel, TellsComponentKindsFromTheirText) {
+  TempDir dir;
+  WriteFile(dir / "basA.bas", Crlf("Attribute VB_Name = \"basA\"\nOption Explicit\n"));
+  WriteFile(dir / "clsB.bas", Crlf("VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1  'True\nEND\n"
+                                   "Attribute VB_Name = \"clsB\"\n"));
+  WriteFile(dir / "frmC.frm", Crlf("VERSION 5.00\nBegin VB.Form frmC\n   Caption = \"C\"\nEnd\n"
+                                   "Attribute VB_Name = \"frmC\"\n"));
+  WriteFile(dir / "rptD.dsr",
+            Crlf("VERSION 5.00\nBegin {78E93846-85FD-11D0-8487-00A0C90DC8A9} rptD\nEnd\n"
+                 "Attribute VB_Name = \"rptD\"\n"));
+  ProjectModel p;
+  p.Name = "Orders";
+  for (auto f : {"basA.bas", "clsB.bas", "frmC.frm", "rptD.dsr"}) ASSERT_TRUE(p.AddFile(dir / f));
+  EXPECT_EQ(p.AddFile(dir / "missing.bas"), nullptr);
+  p.AddFromGuid("{00000205-0000-0010-8000-00AA006D2EA4}", 2, 5);
+  p.AddFromGuid("{12345678-0000-0000-0000-000000000000}", 10, 1);
+
+  const std::string vbp = p.VbpText(dir.path());
+  EXPECT_EQ(vbp.substr(0, 10), "Type=Exe\r\n");
+  EXPECT_NE(vbp.find("Reference=*\\G{00000205-0000-0010-8000-00AA006D2EA4}#2.5#0#"),
+            std::string::npos);
+  EXPECT_NE(vbp.find("#Microsoft ActiveX Data Objects 2.5 Library\r\n"), std::string::npos);
+  EXPECT_NE(vbp.find("Reference=*\\G{12345678-0000-0000-0000-000000000000}#a.1#0##"),
+            std::string::npos);
+  const auto module = vbp.find("Module=basA; basA.bas\r\n");
+  const auto cls = vbp.find("Class=clsB; clsB.bas\r\n");
+  const auto form = vbp.find("Form=frmC.frm\r\n");
+  const auto designer = vbp.find("Designer=rptD.dsr\r\n");
+  ASSERT_NE(module, std::string::npos);
+  ASSERT_NE(cls, std::string::npos);
+  ASSERT_NE(form, std::string::npos);
+  ASSERT_NE(designer, std::string::npos);
+  EXPECT_TRUE(module < cls && cls < form && form < designer);
+  EXPECT_NE(vbp.find("Startup=\"Sub Main\"\r\n"), std::string::npos);
+  EXPECT_NE(vbp.find("Name=\"Orders\"\r\n"), std::string::npos);
+  EXPECT_NE(vbp.find("ExeName32=\"Orders.exe\"\r\n"), std::string::npos);
+}
+
+TEST(ProjectModel, AddingAComponentAgainReplacesItInPlace) {
+  TempDir dir;
+  WriteFile(dir / "a.bas", Crlf("Attribute VB_Name = \"A\"\n"));
+  WriteFile(dir / "b.bas", Crlf("Attribute VB_Name = \"B\"\n"));
+  ProjectModel p;
+  p.AddFile(dir / "a.bas");
+  p.AddFile(dir / "b.bas");
+  p.AddFile(dir / "a.bas");
+  ASSERT_EQ(p.Components().size(), 2u);
+  EXPECT_EQ(p.Components()[0].Name, "A");
+  p.Remove("a");
+  ASSERT_EQ(p.Components().size(), 1u);
+  EXPECT_EQ(p.Components()[0].Name, "B");
+}
+
+TEST(CodeModule, WorksOnTheCodeBehindTheHeader) {
+  TempDir dir;
+  const auto file = dir / "frmC.frm";
+  WriteFile(file, Crlf("VERSION 5.00\n"
+                       "Begin VB.Form frmC\n"
+                       "   Begin VB.TextBox txt\n"
+                       "   End\n"
+                       "End\n"
+                       "Attribute VB_Name = \"frmC\"\n"
+                       "Attribute VB_Exposed = False\n"
+                       "Option Explicit\n"
+                       "Dim x As Integer\n"
+                       "' Loads the form\n"
+                       "Private Sub Form_Load()\n"
+                       "End Sub\n"));
+  CodeModule code(file);
+  EXPECT_EQ(code.CountOfLines(), 5);
+  EXPECT_EQ(code.CountOfDeclarationLines(), 2);
+  EXPECT_EQ(code.Lines(1, 2), "Option Explicit\r\nDim x As Integer");
+
+  code.AddFromString("Private msFilter as string");
+  EXPECT_EQ(code.Lines(3, 1), "Private msFilter as string");
+  code.InsertLines(code.CountOfLines() + 1, "\r\nProperty Get Filter() as string\r\nEnd Property");
+  EXPECT_EQ(code.CountOfLines(), 9);
+  EXPECT_EQ(code.Lines(8, 2), "Property Get Filter() as string\r\nEnd Property");
+  code.DeleteLines(1, 1);
+  EXPECT_EQ(code.Lines(1, 1), "Dim x As Integer");
+  // The designer block and attributes are untouched.
+  EXPECT_EQ(ReadFile(file).substr(0, 13), "VERSION 5.00\r");
+  EXPECT_NE(ReadFile(file).find("Attribute VB_Exposed = False\r\nDim x As Integer\r\n"),
+            std::string::npos);
+}
+
+TEST(ProjectModel, SavesTheProjectFileWithCrLf) {
+  TempDir dir;
+  ProjectModel p;
+  p.Name = "Orders";
+  std::string err;
+  ASSERT_TRUE(p.SaveAs(dir / "Orders.vbp", &err)) << err;
+  const std::string text = ReadFile(dir / "Orders.vbp");
+  EXPECT_EQ(text.find('\n'), text.find("\r\n") + 1);
+  EXPECT_FALSE(p.SaveAs(dir / "no" / "such" / "dir.vbp", &err));
+}
+
+}  // namespace
+}  // namespace morvane
