@@ -1,0 +1,291 @@
+// The module translator's main loop: output files and names, the designer
+// gate, the counters of tblStats, form code marks, and the worked example of a
+// form's open event.
+#include "translator/module_translator.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "translator/translator_harness.h"
+
+namespace morvane {
+namespace {
+
+using test::FormDesigner;
+using test::Translation;
+using Lines = std::vector<std::string>;
+
+TEST(TranslateCode, NamesTheOutputAfterTheInputLessPrefixAndExtension) {
+  struct FileCase {
+    int mode;
+    const char* input;
+    const char* name;
+    const char* output;
+  };
+  const FileCase cases[] = {
+      {kModeForm, "form_Main.frm", "Main", "Main.frm"},
+      {kModeModule, "MODU_Order Details.TXT", "Order Details", "Order Details.bas"},
+      {kModeReport, "REPT_rptSales.txt", "rptSales", "rptSales.dsr"},
+      {kModeModule, "Modu_MacroCode.txt", "MacroCode", "MacroCode.bas"},
+  };
+  for (const auto& c : cases) {
+    Translation t;
+    t.Run({"Option Explicit"}, c.mode, c.input);
+    EXPECT_EQ(t.name, c.name);
+    EXPECT_TRUE(std::filesystem::exists(t.Dir() / c.output)) << c.output;
+    EXPECT_EQ(t.Stats().ModuleName, c.name);
+  }
+}
+
+TEST(TranslateCode, WritesCrLfLinesAndLeavesTheInputAlone) {
+  Translation t;
+  const std::string input = "Option Explicit\nDoCmd.Beep\n";  // LF only, as after git
+  test::WriteFile(t.Dir() / "MODU_basA.txt", input);
+  std::string path = (t.Dir() / "MODU_basA.txt").string();
+  TranslateCode(t.s, path, kModeModule);
+  EXPECT_EQ(test::ReadFile(t.Dir() / "basA.bas"), "Option Explicit\r\nBeep\r\n");
+  EXPECT_EQ(test::ReadFile(t.Dir() / "MODU_basA.txt"), input);
+}
+
+TEST(TranslateCode, DeletesTheOutputOfAnEarlierRunFirst) {
+  Translation t;
+  test::WriteFile(t.Dir() / "basA.txt", "left over");
+  test::WriteFile(t.Dir() / "basA.bas", "stale\r\nstale\r\nstale\r\n");
+  test::WriteFile(t.Dir() / "MODU_basA.txt", "Option Explicit\r\n");
+  std::string path = (t.Dir() / "MODU_basA.txt").string();
+  TranslateCode(t.s, path, kModeModule);
+  EXPECT_FALSE(std::filesystem::exists(t.Dir() / "basA.txt"));
+  EXPECT_EQ(test::ReadFile(t.Dir() / "basA.bas"), "Option Explicit\r\n");
+}
+
+TEST(TranslateCode, AMissingInputWritesNothing) {
+  Translation t;
+  std::string path = (t.Dir() / "MODU_basGone.txt").string();
+  TranslateCode(t.s, path, kModeModule);
+  EXPECT_EQ(path, "basGone");
+  EXPECT_FALSE(std::filesystem::exists(t.Dir() / "basGone.bas"));
+  EXPECT_TRUE(t.Db().Stats().empty());
+}
+
+TEST(TranslateCode, WorksWithoutASupportDatabase) {
+  Translation t;
+  t.s.SupportDb = nullptr;
+  EXPECT_EQ(
+      t.Run({"DoCmd.CancelEvent", "Application.Echo False"}),
+      (Lines{"Cancel = True\t'MORVANE DoCmd.CancelEvent", "'MORVANE Application.Echo False"}));
+  EXPECT_TRUE(t.Db().ReportOutput().empty());
+  EXPECT_TRUE(t.Db().Stats().empty());
+}
+
+TEST(TranslateCode, CountsEveryKindOfLine) {
+  Translation t;
+  auto out = t.Run({
+      "Attribute VB_Name = \"basA\"",
+      "Option Compare Database",
+      "Option Explicit",
+      "",
+      "    ",
+      "   ' a comment",
+      "Private Sub Form_Open(Cancel As Integer)",
+      "DoCmd.CancelEvent",
+      "Application.Echo False",
+      "End Sub",
+      "Function F()",
+      "End Function",
+      "Set db = CurrentDb",
+      "Call AddItem(Application.Name)",
+  });
+  EXPECT_EQ(out, (Lines{
+                     "Attribute VB_Name = \"basA\"", "", "Option Explicit", "", "", "' a comment",
+                     "Private Function Form_Open() as Integer",
+                     "Cancel = True\t'MORVANE DoCmd.CancelEvent", "'MORVANE Application.Echo False",
+                     "End Function", "Function F()", "End Function", "",
+                     "Call AddItem(Application.Name)",  // written as it came
+                 }));
+  StatsRow stats = t.Stats();
+  EXPECT_EQ(stats.TotalLines, 14);
+  EXPECT_EQ(stats.CommentLines, 1);
+  EXPECT_EQ(stats.BlankLines, 3) << "two empty lines and the deleted Set db line";
+  EXPECT_EQ(stats.LinesNotTranslated, 1);
+  EXPECT_EQ(stats.LinesPotentiallyConverted, 1);
+  EXPECT_EQ(stats.SubCount, 1);
+  EXPECT_EQ(stats.ProcCount, 1);
+  EXPECT_EQ(stats.CodeLines, 12) << "CodeLines starts at -2";
+  EXPECT_EQ(stats.CtlCount, 0);
+}
+
+TEST(TranslateCode, CodeLinesStartAtMinusTwo) {
+  // The first line of a module is line -1, its third line 1.
+  Translation t;
+  t.Run({"Application.Echo False", "", "DoCmd.Beep 1"});
+  auto rows = t.Rows();
+  ASSERT_EQ(rows.size(), 2u);
+  EXPECT_EQ(rows[0].LineNumber, -1);
+  EXPECT_EQ(rows[1].LineNumber, 1);
+  EXPECT_EQ(rows[1].CodeLine, "DoCmd.Beep 1");
+  EXPECT_EQ(rows[1].Routine, "");
+}
+
+TEST(TranslateCode, CallAddItemLinesAreNotTranslated) {
+  Translation t;
+  EXPECT_EQ(t.Run({"Call AddItems(DoCmd.Beep)", "call additem(Application.Name)"}),
+            (Lines{"Call AddItems(DoCmd.Beep)", "call additem(Application.Name)"}));
+  EXPECT_TRUE(t.Rows().empty());
+  EXPECT_EQ(t.Stats().CommentLines, 0);
+}
+
+TEST(TranslateCode, CountersStopAtTheSixteenBitLimit) {
+  Translation t;
+  t.Run(Lines(33000, ""));
+  StatsRow stats = t.Stats();
+  EXPECT_EQ(stats.TotalLines, 32767);
+  EXPECT_EQ(stats.BlankLines, 32767);
+  EXPECT_EQ(stats.CodeLines, 32767);
+}
+
+TEST(DesignerGate, CopiesTheDesignerBlockOfAForm) {
+  Translation t;
+  auto out = t.Run(
+      {
+          "VERSION 5.00",
+          "Begin VB.Form Main",
+          "   Caption = \"DoCmd.Beep\"",
+          "   Begin VB.CommandButton cmdGo",
+          "      Caption = \"Go\"",
+          "   End",
+          "   BeginProperty Font",
+          "      Name = \"Arial\"",
+          "   EndProperty",
+          "End",
+          "Attribute VB_Name = \"Main\"",
+          "DoCmd.Beep",
+      },
+      kModeForm, "form_Main.frm");
+  EXPECT_EQ(out, (Lines{
+                     "VERSION 5.00",
+                     "Begin VB.Form Main",
+                     "Caption = \"DoCmd.Beep\"",  // unindented, otherwise as it came
+                     "Begin VB.CommandButton cmdGo",
+                     "Caption = \"Go\"",
+                     "End",
+                     "BeginProperty Font",
+                     "Name = \"Arial\"",
+                     "EndProperty",
+                     "End",
+                     "Attribute VB_Name = \"Main\"",
+                     "Beep",
+                 }));
+  StatsRow stats = t.Stats();
+  EXPECT_EQ(stats.TotalLines, 12);
+  // The closing End counts as a code line: End -1, Attribute 0, Beep 1.
+  EXPECT_EQ(stats.CodeLines, 1);
+}
+
+TEST(DesignerGate, AFormWithoutDesignerBlockIsCopiedWhole) {
+  Translation t;
+  EXPECT_EQ(t.Run({"DoCmd.Beep", "Application.Quit"}, kModeForm, "form_Main.frm"),
+            (Lines{"DoCmd.Beep", "Application.Quit"}));
+  EXPECT_EQ(t.Stats().CodeLines, -2);
+}
+
+TEST(DesignerGate, AModuleHasNoDesignerBlockButHonoursOpenBegins) {
+  Translation t;
+  // A class module's BEGIN has no blank behind it, so it opens nothing.
+  EXPECT_EQ(t.Run({"VERSION 1.0 CLASS", "BEGIN", "MultiUse = -1  'True", "End", "DoCmd.Beep"}),
+            (Lines{"VERSION 1.0 CLASS", "BEGIN", "MultiUse = -1  'True", "End", "Beep"}));
+  EXPECT_EQ(t.Stats().CodeLines, 3);
+
+  Translation open;
+  EXPECT_EQ(open.Run({"Begin Transaction", "DoCmd.Beep", "End", "DoCmd.Beep"}),
+            (Lines{"Begin Transaction", "DoCmd.Beep", "End", "Beep"}));
+}
+
+TEST(FormCodeMarks, NameTheDataControlOfTheCodeBetweenThem) {
+  Translation t;
+  auto input = FormDesigner("Main");
+  input.insert(input.end(), {
+                                "'MORVANE Form Code for Sub 1",
+                                "Me.REQUERY",
+                                "'MORVANE End Form Code for Sub 1",
+                                "Me.REQUERY",
+                            });
+  auto out = t.Run(input, kModeForm, "form_Main.frm");
+  EXPECT_EQ(Lines(out.begin() + 5, out.end()), (Lines{
+                                                   "'MORVANE Form Code for Sub 1",
+                                                   "Me.datSub_1.Recordset.Requery",
+                                                   "Me.datSub_1.Refresh",
+                                                   "'MORVANE End Form Code for Sub 1",
+                                                   "Me.datMain.Recordset.Requery",
+                                                   "Me.datMain.Refresh",
+                                               }));
+  EXPECT_EQ(t.Stats().CommentLines, 2) << "the marks are comments too";
+}
+
+TEST(WorkedExample, AFormsOpenEvent) {
+  // Form "Main" with "Orders" selected and no field named "Total".
+  Translation t;
+  auto input = FormDesigner("Main");
+  input.insert(input.end(), {
+                                "Private Sub Form_Open(Cancel As Integer)",
+                                "    DoCmd.OpenForm \"Orders\"",
+                                "    If Me!Total > 0 Then Cancel = True",
+                                "End Sub",
+                            });
+  auto out = t.Run(input, kModeForm, "form_Main.frm");
+  ASSERT_EQ(out.size(), 9u);
+  EXPECT_EQ(Lines(out.begin() + 5, out.end()),
+            (Lines{
+                "Private Function Form_Open() as Integer",
+                "Orders.Show\t'MORVANE DoCmd.OpenForm \"Orders\"",
+                // The Me! reference is left to the Me rules, which are not built
+                // yet; with them this line reads "If Me.Total > 0 Then ...".
+                "If Me!Total > 0 Then Form_Open = True",
+                "End Function",
+            }));
+  auto rows = t.Rows();
+  ASSERT_EQ(rows.size(), 1u);
+  EXPECT_EQ(rows[0].ModuleName, "Main");
+  EXPECT_EQ(rows[0].ReasonID, 7);
+  EXPECT_EQ(rows[0].CodeLine, "DoCmd.OpenForm \"Orders\"");
+  EXPECT_EQ(rows[0].LineNumber, 2);
+  EXPECT_EQ(rows[0].TranslatedLine, "Orders.Show");
+  EXPECT_EQ(rows[0].Routine, "Private Sub Form_Open(");
+  StatsRow stats = t.Stats();
+  EXPECT_EQ(stats.TotalLines, 9);
+  EXPECT_EQ(stats.SubCount, 1);
+  EXPECT_EQ(stats.LinesPotentiallyConverted, 1);
+  EXPECT_EQ(stats.CodeLines, 4);
+}
+
+TEST(WorkedExample, CloseOfTheFormItself) {
+  for (bool listed : {true, false}) {
+    Translation t;
+    if (!listed) t.s.FormList = {""};
+    auto input = FormDesigner("Order_Details");
+    input.push_back("DoCmd.Close acForm, Me.Name");
+    auto out = t.Run(input, kModeForm, "form_Order_Details.frm");
+    EXPECT_EQ(out.back(), std::string(listed ? "Unload Order_Details"
+                                             : "Unload GetFormFromName(Order_Details)") +
+                              "\t'MORVANE DoCmd.Close acForm, Me.Name");
+    ASSERT_EQ(t.Rows().size(), 1u);
+    EXPECT_EQ(t.Rows()[0].TranslatedLine, "Unload Order_Details");
+  }
+}
+
+TEST(TranslateCode, AModuleConvertedTwiceKeepsOneStatsRow) {
+  Translation t;
+  t.Run({"DoCmd.Beep 1", "DoCmd.CancelEvent"});
+  t.Run({"Option Explicit"});
+  auto rows = t.Db().Stats();
+  ASSERT_EQ(rows.size(), 1u);
+  EXPECT_EQ(rows[0].TotalLines, 1);
+  // A count of 0 does not overwrite what the first run wrote.
+  EXPECT_EQ(rows[0].LinesNotTranslated, 1);
+  EXPECT_EQ(rows[0].LinesPotentiallyConverted, 1);
+}
+
+}  // namespace
+}  // namespace morvane

@@ -1,0 +1,27 @@
+// Rule outcomes: Kept and Marked lines and their analysis rows.
+#include "translator/rule_outcomes.h"
+
+#include "session/conversion_session.h"
+#include "translator/analysis_writers.h"
+
+namespace morvane {
+
+void ReportRule(ModuleTranslation& t, int reason, const std::string& line,
+                const std::string& translated) {
+  ReportLine(t.Session, t.ModuleName, reason, line, t.CodeLines, translated, t.CurrentRoutine);
+}
+
+void Kept(ModuleTranslation& t, std::string& line, const std::string& newText, int reason,
+          const std::string& translated, bool count) {
+  ReportRule(t, reason, line, translated);
+  if (count) Bump(t.LinesPotentiallyConverted);
+  line = newText + "\t" + std::string(kCommentMark) + line;
+}
+
+void Marked(ModuleTranslation& t, std::string& line, int reason) {
+  ReportRule(t, reason, line, std::string());
+  Bump(t.LinesNotTranslated);
+  line = std::string(kCommentMark) + line;
+}
+
+}  // namespace morvane
