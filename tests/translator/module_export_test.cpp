@@ -1,0 +1,278 @@
+// Module export from an in-memory source tree, and the move of declaration
+// blocks in a finished form.
+#include "translator/module_export.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <utility>
+
+#include "platform/project_model.h"
+#include "platform/source_tree.h"
+#include "platform/text_file.h"
+#include "session/conversion_session.h"
+#include "session/converters.h"
+#include "support/temp_dir.h"
+#include "translator/module_translator.h"
+
+namespace morvane {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class FakeSourceTree : public SourceTree {
+ public:
+  void Add(AccessObjectKind kind, const std::string& name, int type, Lines code, int declarations) {
+    ModuleCode m;
+    m.Type = type;
+    m.Code = std::move(code);
+    m.CountOfDeclarationLines = declarations;
+    modules_[{kind, name}] = m;
+  }
+  const std::filesystem::path& Root() const override { return root_; }
+  const std::vector<SourceObject>& Objects() const override { return objects_; }
+  bool LoadModule(AccessObjectKind kind, const std::string& name, ModuleCode* out,
+                  std::string* err) const override {
+    auto it = modules_.find({kind, name});
+    if (it == modules_.end()) {
+      if (err) *err = "no module " + name;
+      return false;
+    }
+    *out = it->second;
+    return true;
+  }
+  bool LoadMacroText(const std::string&, std::vector<std::string>*, std::string*) const override {
+    return false;
+  }
+  std::unique_ptr<MemoryCatalog> BuildCatalog() const override {
+    return std::make_unique<MemoryCatalog>();
+  }
+  const std::vector<std::string>& Warnings() const override { return warnings_; }
+
+ private:
+  std::map<std::pair<AccessObjectKind, std::string>, ModuleCode> modules_;
+  std::filesystem::path root_;
+  std::vector<SourceObject> objects_;
+  std::vector<std::string> warnings_;
+};
+
+class ModuleExport : public ::testing::Test {
+ protected:
+  ModuleExport() {
+    s.OutputPath = dir.path().string() + "/";
+    s.AccessApp = &tree;
+  }
+  std::string Output(const std::string& fileName) { return test::ReadFile(dir / fileName); }
+
+  test::TempDir dir;
+  FakeSourceTree tree;
+  ConversionSession s;
+};
+
+TEST_F(ModuleExport, AStandardModuleGetsItsOwnFileUnderItsSafeName) {
+  tree.Add(AccessObjectKind::Module, "Order Details", 0,
+           {"Option Compare Database", "Option Explicit", "Public Sub A()", "End Sub"}, 2);
+  ExportModuleText(s, "Order Details", kModeModule);
+  EXPECT_EQ(Output("MODU_Order Details.txt"), test::Crlf("Attribute VB_Name = \"Order_Details\"\n"
+                                                         "Option Compare Database\n"
+                                                         "Option Explicit\n"
+                                                         "Public Sub A()\n"
+                                                         "End Sub\n"));
+  EXPECT_EQ(s.ConvertedNames, (Lines{"Order_Details"}));
+}
+
+TEST_F(ModuleExport, AClassModuleGetsTheClassHeader) {
+  tree.Add(AccessObjectKind::Module, "clsA", 1, {"Option Explicit"}, 1);
+  for (bool vb5 : {false, true}) {
+    s.IsVb5 = vb5;
+    s.ConvertedNames.clear();
+    ExportModuleText(s, "clsA", kModeModule);
+    std::string expected = "VERSION 1.0 CLASS\nBEGIN\nMultiUse = -1  'True\n";
+    if (!vb5)
+      expected +=
+          "Persistable = 0\nDataBindingBehavior = 0\nDataSourceBehavior = 0\n"
+          "MTSTransactionMode = 0\n";
+    expected +=
+        "End\n"
+        "Attribute VB_Name = \"clsA\"\n"
+        "Attribute VB_GlobalNameSpace = False\n"
+        "Attribute VB_Creatable = True\n"
+        "Attribute VB_PredeclaredId = False\n"
+        "Attribute VB_Exposed = False\n"
+        "Option Explicit\n";
+    EXPECT_EQ(Output("MODU_clsA.txt"), test::Crlf(expected)) << "IsVb5 " << vb5;
+  }
+}
+
+TEST_F(ModuleExport, TheClassHeaderPassesTheTranslatorAsCode) {
+  tree.Add(AccessObjectKind::Module, "clsA", 1, {"Option Explicit", "DoCmd.Beep"}, 1);
+  ExportModuleText(s, "clsA", kModeModule);
+  std::string path = (dir / "MODU_clsA.txt").string();
+  TranslateCode(s, path, kModeModule);
+  Lines out;
+  ASSERT_TRUE(ReadTextLines(dir / "clsA.bas", &out, nullptr));
+  ASSERT_EQ(out.size(), 15u);
+  EXPECT_EQ(out[0], "VERSION 1.0 CLASS");
+  EXPECT_EQ(out[7], "End");
+  EXPECT_EQ(out.back(), "Beep");
+}
+
+TEST_F(ModuleExport, AModuleNameInUseGetsAnAForEachCollision) {
+  struct NameCase {
+    Lines inUse;
+    const char* module;
+    const char* unique;
+  };
+  const NameCase cases[] = {
+      {{}, "x", "x"},
+      {{"Orders"}, "x", "x"},
+      {{"x"}, "x", "xA"},
+      {{"X"}, "x", "xA"},  // compared without regard to case
+      {{"x", "xA"}, "x", "xAA"},
+      {{"xA", "x"}, "x", "xA"},  // each entry is tested once, in order
+      {{"Order_Details"}, "Order Details", "Order_DetailsA"},
+  };
+  for (const auto& c : cases) {
+    tree.Add(AccessObjectKind::Module, c.module, 0, {"Option Explicit"}, 1);
+    s.ConvertedNames = c.inUse;
+    ExportModuleText(s, c.module, kModeModule);
+    Lines expectedNames = c.inUse;
+    expectedNames.push_back(c.unique);
+    EXPECT_EQ(s.ConvertedNames, expectedNames) << c.module;
+    Lines lines = SplitLines(Output(std::string("MODU_") + c.module + ".txt"));
+    ASSERT_FALSE(lines.empty());
+    EXPECT_EQ(lines[0], std::string("Attribute VB_Name = \"") + c.unique + "\"");
+  }
+}
+
+TEST_F(ModuleExport, AFormsCodeIsAppendedBehindAnEmptyLine) {
+  struct FormCase {
+    Lines code;
+    int declarations;
+    const char* appended;
+  };
+  const FormCase cases[] = {
+      {{"Option Explicit", "Private Sub Form_Load()", "End Sub"},
+       1,
+       "Attribute VB_Name = \"Order_Details\"\nOption Explicit\n\nPrivate Sub Form_Load()\n"
+       "End Sub\n"},
+      // An empty declarations section still gets the empty line.
+      {{"Private Sub Form_Load()", "End Sub"},
+       0,
+       "Attribute VB_Name = \"Order_Details\"\n\nPrivate Sub Form_Load()\nEnd Sub\n"},
+  };
+  for (const auto& c : cases) {
+    tree.Add(AccessObjectKind::Form, "Order Details", 1, c.code, c.declarations);
+    s.CurrentFile = (dir / "Order_Details.frm").string();
+    test::WriteFile(s.CurrentFile, "VERSION 5.00\r\nBegin VB.Form Order_Details\r\nEnd\r\n");
+    s.ConvertedNames = {"Orders", "Order_Details"};
+    ExportModuleText(s, "Order Details", kModeForm);
+    EXPECT_EQ(
+        Output("Order_Details.frm"),
+        test::Crlf(std::string("VERSION 5.00\nBegin VB.Form Order_Details\nEnd\n") + c.appended));
+    EXPECT_EQ(s.ConvertedNames.size(), 2u) << "forms are named by the driver";
+  }
+}
+
+TEST_F(ModuleExport, AReportsCodeIsAppendedUnderItsSafeName) {
+  tree.Add(AccessObjectKind::Report, "Sales Report", 1,
+           {"Option Explicit", "Private Sub Report_Open(Cancel As Integer)", "End Sub"}, 1);
+  s.CurrentFile = (dir / "Sales_Report.dsr").string();
+  test::WriteFile(s.CurrentFile, "VERSION 5.00\r\n");
+  ExportModuleText(s, "Sales Report", kModeReport);
+  EXPECT_EQ(Output("Sales_Report.dsr"),
+            test::Crlf("VERSION 5.00\nAttribute VB_Name = \"Sales_Report\"\nOption Explicit\n"
+                       "Private Sub Report_Open(Cancel As Integer)\nEnd Sub\n"));
+}
+
+TEST_F(ModuleExport, AMissingModuleWritesNothing) {
+  ExportModuleText(s, "basNone", kModeModule);
+  EXPECT_FALSE(std::filesystem::exists(dir / "MODU_basNone.txt"));
+  EXPECT_TRUE(s.ConvertedNames.empty());
+  s.AccessApp = nullptr;
+  ExportModuleText(s, "basNone", kModeModule);
+  EXPECT_FALSE(std::filesystem::exists(dir / "MODU_basNone.txt"));
+}
+
+// The code part of a component file, after the designer block and the
+// Attribute lines.
+Lines CodeOf(const std::filesystem::path& file) {
+  CodeModule code(file);
+  Lines lines = SplitLines(code.Lines(1, code.CountOfLines()));
+  lines.resize(static_cast<size_t>(code.CountOfLines()));
+  return lines;
+}
+
+TEST_F(ModuleExport, DeclarationBlocksMoveIntoTheDeclarationsSection) {
+  const auto file = dir / "Main.frm";
+  test::WriteFile(file, test::Crlf("VERSION 5.00\n"
+                                   "Begin VB.Form Main\n"
+                                   "End\n"
+                                   "Attribute VB_Name = \"Main\"\n"
+                                   "Option Explicit\n"
+                                   "Dim a As Integer\n"
+                                   "Private Sub Form_Load()\n"
+                                   "End Sub\n"
+                                   "'MORVANE Declarations Code for lstA\n"
+                                   "Dim a As Integer\n"
+                                   "Dim b As Integer\n"
+                                   "'MORVANE End Declarations Code for lstA\n"
+                                   "Dim c As Integer\n"
+                                   "Private Sub cmdGo_Click()\n"
+                                   "End Sub\n"));
+  ProjectModel project;
+  ASSERT_TRUE(project.AddFile(file));
+  s.ActiveProject = &project;
+  s.CurrentFile = file.string();
+  MoveDeclarationBlocks(s);
+  EXPECT_EQ(CodeOf(file), (Lines{
+                              "Option Explicit",
+                              "Dim a As Integer",
+                              "'MORVANE Declarations Code for lstA",
+                              "Dim b As Integer",
+                              "'MORVANE End Declarations Code for lstA",
+                              "Dim c As Integer",  // the line behind the end mark goes too
+                              "Private Sub Form_Load()",
+                              "End Sub",
+                              "Private Sub cmdGo_Click()",
+                              "End Sub",
+                          }));
+  EXPECT_TRUE(test::ReadFile(file).starts_with("VERSION 5.00\r\nBegin VB.Form Main\r\n"));
+}
+
+TEST_F(ModuleExport, DuplicateDeclarationsGoButEmptyLinesStay) {
+  const auto file = dir / "Main.frm";
+  test::WriteFile(file, test::Crlf("VERSION 5.00\n"
+                                   "Begin VB.Form Main\n"
+                                   "End\n"
+                                   "Attribute VB_Name = \"Main\"\n"
+                                   "Option Explicit\n"
+                                   "\n"
+                                   "Dim a As Integer\n"
+                                   "\n"
+                                   "Dim a As Integer\n"
+                                   "dim a as integer\n"  // compared exactly
+                                   "Dim a As Integer\n"
+                                   "Private Sub Form_Load()\n"
+                                   "Dim a As Integer\n"
+                                   "End Sub\n"));
+  ProjectModel project;
+  ASSERT_TRUE(project.AddFile(file));
+  s.ActiveProject = &project;
+  s.CurrentFile = file.string();
+  MoveDeclarationBlocks(s);
+  EXPECT_EQ(CodeOf(file), (Lines{
+                              "Option Explicit",
+                              "",
+                              "Dim a As Integer",
+                              "",
+                              "dim a as integer",
+                              "Private Sub Form_Load()",
+                              // The bound is read before the deletions, so the
+                              // lines that move up into it are looked at too.
+                              "End Sub",
+                          }));
+}
+
+}  // namespace
+}  // namespace morvane
