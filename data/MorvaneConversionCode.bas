@@ -1,0 +1,424 @@
+Attribute VB_Name = "MorvaneConversionCode"
+' Run-time support for a project converted from Microsoft Access.
+'
+' The converted code calls this module for what Access offered and Visual
+' Basic lacks. The converter appends to it GetFormFromName for the converted
+' forms, Sub Main (which opens the database and shows the first form), and
+' those helpers the code really calls: list filling, SysCmdVB,
+' OptionGroupValue and the domain aggregate functions.
+Option Explicit
+
+' The one database of the application, opened by Sub Main. Every CurrentDb
+' of the Access code has become this variable. Nothing when the project was
+' converted from an Access data project.
+Public db As DAO.Database
+' The workspace a secured database is opened in (see Sub Main).
+Public wks As DAO.Workspace
+' The ADO connection that list filling and the data environment use.
+Public pConn As ADODB.Connection
+
+' State of Eval while it reads one expression.
+Private mstrEvalText As String
+Private mlngEvalPos As Long
+
+' Returns token number lngIndex (from 1) of strText, the tokens being
+' separated by strDelimiter; Null past the last token. An empty text has no
+' tokens, and a delimiter at the very end does not start an empty token, so
+' "a;b;" holds two tokens. Tokens are returned as they stand, blanks and
+' quotes included.
+Public Function GetToken(ByVal strText As String, ByVal lngIndex As Long, ByVal strDelimiter As String) As Variant
+    Dim lngStart As Long
+    Dim lngEnd As Long
+    Dim lngToken As Long
+
+    GetToken = Null
+    If Len(strText) = 0 Or Len(strDelimiter) = 0 Or lngIndex < 1 Then Exit Function
+    lngStart = 1
+    For lngToken = 1 To lngIndex - 1
+        lngEnd = InStr(lngStart, strText, strDelimiter)
+        If lngEnd = 0 Then Exit Function
+        lngStart = lngEnd + Len(strDelimiter)
+    Next lngToken
+    If lngStart > Len(strText) Then Exit Function
+    lngEnd = InStr(lngStart, strText, strDelimiter)
+    If lngEnd = 0 Then lngEnd = Len(strText) + 1
+    GetToken = Mid$(strText, lngStart, lngEnd - lngStart)
+End Function
+
+' The first value that an SQL statement returns, read over the ADO
+' connection; Null when it returns no row. The domain aggregate functions use
+' it when no DAO database is open.
+Private Function DomainLookupAdo(ByVal strSql As String) As Variant
+    Dim rec As ADODB.Recordset
+
+    Set rec = New ADODB.Recordset
+    rec.Open strSql, pConn, adOpenForwardOnly, adLockReadOnly
+    If rec.EOF Then
+        DomainLookupAdo = Null
+    Else
+        DomainLookupAdo = rec(0).Value
+    End If
+    rec.Close
+End Function
+
+' ---------------------------------------------------------------------------
+' Eval: works out an expression given as text at run time. The converted
+' macros hand over conditions and arguments that could not be rewritten into
+' Visual Basic when the project was made.
+'
+' Understood, with Visual Basic's precedence (highest first):
+'   literals   numbers (12, 1.5, 2E3, &H1F), strings in double quotes with ""
+'              for a quote inside, dates between # signs (#12/31/2001#,
+'              month first), True, False, Null
+'   functions  Date, Now and Time, with or without ()
+'   ( )        grouping
+'   ^          power
+'   - +        sign
+'   * /        multiplication and division
+'   \          integer division
+'   Mod        remainder
+'   + -        addition and subtraction
+'   &          concatenation
+'   = <> < > <= >=   comparison
+'   Not, And, Or, Xor
+'
+' Limits: no names. Fields, controls, variables, Forms!... and Me!...
+' references, and calls of any other function (IIf, Nz, DLookup, ...) are not
+' understood, and neither are Like, Is, Eqv and Imp. Such an expression, and
+' any text that is not a complete expression, raises error
+' vbObjectError + 31005. Null takes part in operations by Visual Basic's
+' own rules.
+' ---------------------------------------------------------------------------
+Public Function Eval(ByVal strExpr As String) As Variant
+    mstrEvalText = strExpr
+    mlngEvalPos = 1
+    Eval = EvalXor()
+    EvalSkipBlanks
+    If mlngEvalPos <= Len(mstrEvalText) Then EvalFail
+End Function
+
+Private Sub EvalFail()
+    Err.Raise vbObjectError + 31005, "Eval", "Cannot evaluate the expression: " & mstrEvalText
+End Sub
+
+Private Sub EvalSkipBlanks()
+    Do While mlngEvalPos <= Len(mstrEvalText)
+        Select Case Mid$(mstrEvalText, mlngEvalPos, 1)
+            Case " ", vbTab
+                mlngEvalPos = mlngEvalPos + 1
+            Case Else
+                Exit Do
+        End Select
+    Loop
+End Sub
+
+Private Function EvalIsNameChar(ByVal strChar As String) As Boolean
+    EvalIsNameChar = (strChar Like "[A-Za-z0-9_]")
+End Function
+
+' Takes the operator symbol strSymbol when it comes next.
+Private Function EvalSymbol(ByVal strSymbol As String) As Boolean
+    EvalSkipBlanks
+    If Mid$(mstrEvalText, mlngEvalPos, Len(strSymbol)) = strSymbol Then
+        mlngEvalPos = mlngEvalPos + Len(strSymbol)
+        EvalSymbol = True
+    End If
+End Function
+
+' Takes the keyword strWord when it comes next as a whole word.
+Private Function EvalWord(ByVal strWord As String) As Boolean
+    EvalSkipBlanks
+    If StrComp(Mid$(mstrEvalText, mlngEvalPos, Len(strWord)), strWord, vbTextCompare) = 0 Then
+        If Not EvalIsNameChar(Mid$(mstrEvalText, mlngEvalPos + Len(strWord), 1)) Then
+            mlngEvalPos = mlngEvalPos + Len(strWord)
+            EvalWord = True
+        End If
+    End If
+End Function
+
+Private Function EvalXor() As Variant
+    Dim vntValue As Variant
+
+    vntValue = EvalOr()
+    Do While EvalWord("Xor")
+        vntValue = vntValue Xor EvalOr()
+    Loop
+    EvalXor = vntValue
+End Function
+
+Private Function EvalOr() As Variant
+    Dim vntValue As Variant
+
+    vntValue = EvalAnd()
+    Do While EvalWord("Or")
+        vntValue = vntValue Or EvalAnd()
+    Loop
+    EvalOr = vntValue
+End Function
+
+Private Function EvalAnd() As Variant
+    Dim vntValue As Variant
+
+    vntValue = EvalNot()
+    Do While EvalWord("And")
+        vntValue = vntValue And EvalNot()
+    Loop
+    EvalAnd = vntValue
+End Function
+
+Private Function EvalNot() As Variant
+    Dim lngNots As Long
+    Dim vntValue As Variant
+
+    Do While EvalWord("Not")
+        lngNots = lngNots + 1
+    Loop
+    vntValue = EvalCompare()
+    If lngNots Mod 2 = 1 Then vntValue = Not vntValue
+    EvalNot = vntValue
+End Function
+
+Private Function EvalCompare() As Variant
+    Dim vntValue As Variant
+    Dim vntRight As Variant
+
+    vntValue = EvalConcat()
+    Do
+        If EvalSymbol("<>") Then
+            vntRight = EvalConcat()
+            vntValue = (vntValue <> vntRight)
+        ElseIf EvalSymbol("<=") Then
+            vntRight = EvalConcat()
+            vntValue = (vntValue <= vntRight)
+        ElseIf EvalSymbol(">=") Then
+            vntRight = EvalConcat()
+            vntValue = (vntValue >= vntRight)
+        ElseIf EvalSymbol("=") Then
+            vntRight = EvalConcat()
+            vntValue = (vntValue = vntRight)
+        ElseIf EvalSymbol("<") Then
+            vntRight = EvalConcat()
+            vntValue = (vntValue < vntRight)
+        ElseIf EvalSymbol(">") Then
+            vntRight = EvalConcat()
+            vntValue = (vntValue > vntRight)
+        Else
+            Exit Do
+        End If
+    Loop
+    EvalCompare = vntValue
+End Function
+
+Private Function EvalConcat() As Variant
+    Dim vntValue As Variant
+
+    vntValue = EvalAdd()
+    Do While EvalSymbol("&")
+        vntValue = vntValue & EvalAdd()
+    Loop
+    EvalConcat = vntValue
+End Function
+
+Private Function EvalAdd() As Variant
+    Dim vntValue As Variant
+
+    vntValue = EvalMod()
+    Do
+        If EvalSymbol("+") Then
+            vntValue = vntValue + EvalMod()
+        ElseIf EvalSymbol("-") Then
+            vntValue = vntValue - EvalMod()
+        Else
+            Exit Do
+        End If
+    Loop
+    EvalAdd = vntValue
+End Function
+
+Private Function EvalMod() As Variant
+    Dim vntValue As Variant
+
+    vntValue = EvalIntDiv()
+    Do While EvalWord("Mod")
+        vntValue = vntValue Mod EvalIntDiv()
+    Loop
+    EvalMod = vntValue
+End Function
+
+Private Function EvalIntDiv() As Variant
+    Dim vntValue As Variant
+
+    vntValue = EvalMul()
+    Do While EvalSymbol("\")
+        vntValue = vntValue \ EvalMul()
+    Loop
+    EvalIntDiv = vntValue
+End Function
+
+Private Function EvalMul() As Variant
+    Dim vntValue As Variant
+
+    vntValue = EvalSign()
+    Do
+        If EvalSymbol("*") Then
+            vntValue = vntValue * EvalSign()
+        ElseIf EvalSymbol("/") Then
+            vntValue = vntValue / EvalSign()
+        Else
+            Exit Do
+        End If
+    Loop
+    EvalMul = vntValue
+End Function
+
+' A sign binds less tightly than ^, so -2 ^ 2 is -4 as in Visual Basic.
+Private Function EvalSign() As Variant
+    Dim blnNegative As Boolean
+    Dim vntValue As Variant
+
+    Do
+        If EvalSymbol("-") Then
+            blnNegative = Not blnNegative
+        ElseIf Not EvalSymbol("+") Then
+            Exit Do
+        End If
+    Loop
+    vntValue = EvalPower()
+    If blnNegative Then vntValue = -vntValue
+    EvalSign = vntValue
+End Function
+
+Private Function EvalPower() As Variant
+    Dim vntValue As Variant
+
+    vntValue = EvalPrimary()
+    Do While EvalSymbol("^")
+        If EvalSymbol("-") Then
+            vntValue = vntValue ^ -EvalPrimary()
+        Else
+            vntValue = vntValue ^ EvalPrimary()
+        End If
+    Loop
+    EvalPower = vntValue
+End Function
+
+Private Function EvalPrimary() As Variant
+    Dim strChar As String
+
+    EvalSkipBlanks
+    If mlngEvalPos > Len(mstrEvalText) Then EvalFail
+    strChar = Mid$(mstrEvalText, mlngEvalPos, 1)
+    If strChar = "(" Then
+        mlngEvalPos = mlngEvalPos + 1
+        EvalPrimary = EvalXor()
+        If Not EvalSymbol(")") Then EvalFail
+    ElseIf strChar Like "[0-9.]" Then
+        EvalPrimary = EvalNumber(True)
+    ElseIf EvalSymbol("&H") Then
+        EvalPrimary = EvalNumber(False)
+    ElseIf strChar = """" Then
+        EvalPrimary = EvalString()
+    ElseIf strChar = "#" Then
+        EvalPrimary = EvalDate()
+    ElseIf EvalWord("True") Then
+        EvalPrimary = True
+    ElseIf EvalWord("False") Then
+        EvalPrimary = False
+    ElseIf EvalWord("Null") Then
+        EvalPrimary = Null
+    ElseIf EvalWord("Date") Then
+        EvalEmptyArguments
+        EvalPrimary = Date
+    ElseIf EvalWord("Now") Then
+        EvalEmptyArguments
+        EvalPrimary = Now
+    ElseIf EvalWord("Time") Then
+        EvalEmptyArguments
+        EvalPrimary = Time
+    Else
+        EvalFail
+    End If
+End Function
+
+' Takes an optional "()" behind Date, Now or Time.
+Private Sub EvalEmptyArguments()
+    If EvalSymbol("(") Then
+        If Not EvalSymbol(")") Then EvalFail
+    End If
+End Sub
+
+' A decimal number, or the digits of a hexadecimal one whose "&H" has been
+' taken. Val reads both the same way on every locale.
+Private Function EvalNumber(ByVal blnDecimal As Boolean) As Variant
+    Dim lngStart As Long
+
+    lngStart = mlngEvalPos
+    If blnDecimal Then
+        Do While Mid$(mstrEvalText, mlngEvalPos, 1) Like "[0-9.]"
+            mlngEvalPos = mlngEvalPos + 1
+        Loop
+        If Mid$(mstrEvalText, mlngEvalPos, 1) Like "[Ee]" Then
+            mlngEvalPos = mlngEvalPos + 1
+            If Mid$(mstrEvalText, mlngEvalPos, 1) Like "[+-]" Then mlngEvalPos = mlngEvalPos + 1
+            Do While Mid$(mstrEvalText, mlngEvalPos, 1) Like "[0-9]"
+                mlngEvalPos = mlngEvalPos + 1
+            Loop
+        End If
+        If Mid$(mstrEvalText, lngStart, mlngEvalPos - lngStart) = "." Then EvalFail
+        EvalNumber = Val(Mid$(mstrEvalText, lngStart, mlngEvalPos - lngStart))
+    Else
+        Do While Mid$(mstrEvalText, mlngEvalPos, 1) Like "[0-9A-Fa-f]"
+            mlngEvalPos = mlngEvalPos + 1
+        Loop
+        If mlngEvalPos = lngStart Then EvalFail
+        EvalNumber = Val("&H" & Mid$(mstrEvalText, lngStart, mlngEvalPos - lngStart))
+    End If
+End Function
+
+Private Function EvalString() As Variant
+    Dim strValue As String
+    Dim strChar As String
+
+    mlngEvalPos = mlngEvalPos + 1
+    Do
+        If mlngEvalPos > Len(mstrEvalText) Then EvalFail
+        strChar = Mid$(mstrEvalText, mlngEvalPos, 1)
+        mlngEvalPos = mlngEvalPos + 1
+        If strChar = """" Then
+            If Mid$(mstrEvalText, mlngEvalPos, 1) <> """" Then Exit Do
+            mlngEvalPos = mlngEvalPos + 1
+        End If
+        strValue = strValue & strChar
+    Loop
+    EvalString = strValue
+End Function
+
+' A date literal, month first as in Visual Basic code: #m/d/yyyy#, with an
+' optional time behind a blank.
+Private Function EvalDate() As Variant
+    Dim lngEnd As Long
+    Dim strText As String
+    Dim strTime As String
+    Dim vntParts As Variant
+    Dim vntDate As Variant
+
+    lngEnd = InStr(mlngEvalPos + 1, mstrEvalText, "#")
+    If lngEnd = 0 Then EvalFail
+    strText = Trim$(Mid$(mstrEvalText, mlngEvalPos + 1, lngEnd - mlngEvalPos - 1))
+    mlngEvalPos = lngEnd + 1
+    If InStr(strText, " ") > 0 Then
+        strTime = Mid$(strText, InStr(strText, " ") + 1)
+        strText = Left$(strText, InStr(strText, " ") - 1)
+    End If
+    vntParts = Split(strText, "/")
+    If UBound(vntParts) = 2 Then
+        vntDate = DateSerial(Val(vntParts(2)), Val(vntParts(0)), Val(vntParts(1)))
+        If Len(strTime) > 0 Then vntDate = vntDate + TimeValue(strTime)
+    ElseIf Len(strTime) > 0 Then
+        vntDate = CDate(strText & " " & strTime)
+    Else
+        vntDate = CDate(strText)
+    End If
+    EvalDate = vntDate
+End Function
+
