@@ -1,0 +1,608 @@
+// The VB6 structural checker: reads a file's header by its kind, then walks
+// the code as VB6 reads it (logical lines, statements) and keeps a stack of
+// open blocks.
+#include "support/vb6_checker.h"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+#include "platform/text_file.h"
+#include "session/naming.h"
+
+namespace morvane::test {
+
+namespace {
+
+enum class FileKind { Module, Class, Form, UserControl, Designer };
+
+bool IsNameChar(char c) {
+  const auto u = static_cast<unsigned char>(c);
+  return (u >= '0' && u <= '9') || (u >= 'A' && u <= 'Z') || (u >= 'a' && u <= 'z') || c == '_' ||
+         u >= 128;
+}
+
+bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+
+std::string_view Trim(std::string_view text) {
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+// The word at the start of `text` (a leading "#" belongs to it), and the rest
+// behind it with its leading blanks removed.
+std::pair<std::string, std::string_view> SplitWord(std::string_view text) {
+  text = Trim(text);
+  size_t end = (!text.empty() && text.front() == '#') ? 1 : 0;
+  while (end < text.size() && IsNameChar(text[end])) ++end;
+  return {ToLower(text.substr(0, end)), Trim(text.substr(end))};
+}
+
+// One line of text with its string literals emptied, so that keywords and
+// separators inside them cannot count, and without its comment.
+struct MaskedLine {
+  std::string code;
+  std::string_view comment;  // from the apostrophe on; empty when there is none
+  bool hasComment = false;
+  bool openString = false;
+};
+
+// A "#" starts a date literal where a value may stand: behind an operator,
+// an opening parenthesis, a comma or at the start.
+bool StartsDateLiteral(std::string_view line, size_t pos) {
+  size_t before = pos;
+  while (before > 0 && IsBlank(line[before - 1])) --before;
+  if (before > 0 && std::string_view("=<>(,+-*/&").find(line[before - 1]) == std::string_view::npos)
+    return false;
+  if (before == 0) return false;  // a "#" at the start is a directive
+  const size_t close = line.find('#', pos + 1);
+  if (close == std::string_view::npos || close == pos + 1) return false;
+  for (size_t i = pos + 1; i < close; ++i)
+    if (std::string_view("0123456789/:.- APMapm").find(line[i]) == std::string_view::npos)
+      return false;
+  return true;
+}
+
+MaskedLine Mask(std::string_view line) {
+  MaskedLine m;
+  size_t i = 0;
+  while (i < line.size()) {
+    const char c = line[i];
+    if (c == '"') {
+      size_t j = i + 1;
+      bool closed = false;
+      while (j < line.size()) {
+        if (line[j] == '"') {
+          if (j + 1 < line.size() && line[j + 1] == '"') {
+            j += 2;
+            continue;
+          }
+          closed = true;
+          break;
+        }
+        ++j;
+      }
+      m.code += "\"\"";
+      if (!closed) {
+        m.openString = true;
+        return m;
+      }
+      i = j + 1;
+    } else if (c == '#' && StartsDateLiteral(line, i)) {
+      const size_t close = line.find('#', i + 1);
+      m.code += "#0#";
+      i = close + 1;
+    } else if (c == '\'') {
+      m.hasComment = true;
+      m.comment = line.substr(i);
+      return m;
+    } else {
+      m.code += c;
+      ++i;
+    }
+  }
+  return m;
+}
+
+bool EndsWithContinuation(std::string_view text) {
+  text = Trim(text);
+  if (text.empty() || text.back() != '_') return false;
+  return text.size() == 1 || IsBlank(text[text.size() - 2]);
+}
+
+// The statements of a logical line: split at ":" (not ":=").
+std::vector<std::string> SplitStatements(std::string_view code) {
+  std::vector<std::string> statements;
+  std::string current;
+  for (size_t i = 0; i < code.size(); ++i) {
+    if (code[i] == ':' && (i + 1 >= code.size() || code[i + 1] != '=')) {
+      statements.emplace_back(Trim(current));
+      current.clear();
+    } else {
+      current += code[i];
+    }
+  }
+  statements.emplace_back(Trim(current));
+  return statements;
+}
+
+// Position just behind the keyword "Then" in masked code, if any.
+std::optional<size_t> FindThen(std::string_view code) {
+  for (size_t p = FindNoCase(code, "then"); p != std::string::npos;
+       p = FindNoCase(code, "then", p + 1)) {
+    const bool startOk = p == 0 || !IsNameChar(code[p - 1]);
+    const bool endOk = p + 4 >= code.size() || !IsNameChar(code[p + 4]);
+    if (startOk && endOk) return p + 4;
+  }
+  return std::nullopt;
+}
+
+bool IsVbNameLine(std::string_view line) {
+  line = Trim(line);
+  constexpr std::string_view kStart = "Attribute VB_Name = \"";
+  return line.size() > kStart.size() + 1 && line.substr(0, kStart.size()) == kStart &&
+         line.back() == '"';
+}
+
+bool StartsWithWord(std::string_view line, std::string_view word) {
+  line = Trim(line);
+  return line.size() >= word.size() && line.substr(0, word.size()) == word &&
+         (line.size() == word.size() || IsBlank(line[word.size()]));
+}
+
+// "Key = value", "Key(3) = value" as the designer blocks hold them.
+bool IsPropertyLine(std::string_view line) {
+  line = Trim(line);
+  size_t i = 0;
+  while (i < line.size() && (IsNameChar(line[i]) || line[i] == '.')) ++i;
+  if (i == 0) return false;
+  if (i < line.size() && line[i] == '(') {
+    const size_t close = line.find(')', i);
+    if (close == std::string_view::npos) return false;
+    i = close + 1;
+  }
+  while (i < line.size() && IsBlank(line[i])) ++i;
+  return i < line.size() && line[i] == '=';
+}
+
+constexpr std::string_view kModuleLevelWords[] = {
+    "option",     "dim",       "private", "public",  "global", "const",  "declare", "event",
+    "implements", "attribute", "defbool", "defbyte", "defint", "deflng", "defcur",  "defsng",
+    "defdbl",     "defdec",    "defdate", "defstr",  "defobj", "defvar",
+};
+
+constexpr std::string_view kModifiers[] = {"public", "private", "friend", "static", "global"};
+
+bool IsModifier(const std::string& word) {
+  return std::find(std::begin(kModifiers), std::end(kModifiers), word) != std::end(kModifiers);
+}
+
+std::string KindName(const std::string& word) {
+  if (word == "sub") return "Sub";
+  if (word == "function") return "Function";
+  if (word == "property") return "Property";
+  if (word == "type") return "Type";
+  if (word == "enum") return "Enum";
+  if (word == "if") return "If";
+  if (word == "select") return "Select";
+  if (word == "with") return "With";
+  return word;
+}
+
+struct Open {
+  std::string kind;  // "If", "For", "Do", "Select", "With", "While", "#If", "Sub", ...
+  size_t line;
+};
+
+std::string CloserOf(const std::string& kind) {
+  if (kind == "For") return "Next";
+  if (kind == "Do") return "Loop";
+  if (kind == "While") return "Wend";
+  if (kind == "#If") return "#End If";
+  return "End " + kind;
+}
+
+class Checker {
+ public:
+  explicit Checker(std::vector<std::string> lines) : lines_(std::move(lines)) {}
+
+  std::vector<std::string> Run(FileKind kind) {
+    size_t codeStart = 0;
+    switch (kind) {
+      case FileKind::Module:
+        codeStart = ModuleHeader();
+        break;
+      case FileKind::Class:
+        codeStart = ClassHeader();
+        break;
+      default:
+        codeStart = DesignerHeader(kind);
+        break;
+    }
+    if (codeStart <= lines_.size()) Code(codeStart);
+    std::stable_sort(problems_.begin(), problems_.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    std::vector<std::string> out;
+    for (const auto& [line, text] : problems_)
+      out.push_back("line " + std::to_string(line + 1) + ": " + text);
+    return out;
+  }
+
+ private:
+  static constexpr size_t kStop = static_cast<size_t>(-1);
+
+  void Problem(size_t line, std::string text) { problems_.emplace_back(line, std::move(text)); }
+
+  std::string_view LineAt(size_t i) const {
+    return i < lines_.size() ? std::string_view(lines_[i]) : std::string_view();
+  }
+
+  // Attribute VB_Name and the Attribute lines behind it; returns the first
+  // line after them.
+  size_t AttributeLines(size_t i) {
+    if (!IsVbNameLine(LineAt(i))) {
+      Problem(i, "expected Attribute VB_Name = \"<name>\"");
+      return kStop;
+    }
+    ++i;
+    while (i < lines_.size() && StartsWithWord(lines_[i], "Attribute")) ++i;
+    return i;
+  }
+
+  size_t ModuleHeader() { return AttributeLines(0); }
+
+  size_t ClassHeader() {
+    if (Trim(LineAt(0)) != "VERSION 1.0 CLASS") {
+      Problem(0, "expected VERSION 1.0 CLASS");
+      return kStop;
+    }
+    if (Trim(LineAt(1)) != "BEGIN") {
+      Problem(1, "expected BEGIN");
+      return kStop;
+    }
+    size_t i = 2;
+    for (; i < lines_.size() && Trim(lines_[i]) != "END"; ++i)
+      if (!IsPropertyLine(lines_[i])) Problem(i, "unexpected line in the class header");
+    if (i >= lines_.size()) {
+      Problem(1, "BEGIN without END");
+      return kStop;
+    }
+    return AttributeLines(i + 1);
+  }
+
+  size_t DesignerHeader(FileKind kind) {
+    if (Trim(LineAt(0)) != "VERSION 5.00") {
+      Problem(0, "expected VERSION 5.00");
+      return kStop;
+    }
+    size_t i = 1;
+    while (i < lines_.size() && StartsWithWord(lines_[i], "Object")) ++i;
+    // "Begin <type> <name>"
+    const auto [begin, rest] = SplitWord(LineAt(i));
+    const std::string typeText(rest.substr(0, rest.find_first_of(" \t")));
+    bool typeOk = begin == "begin" && !typeText.empty() && rest.size() > typeText.size();
+    if (typeOk && kind == FileKind::Form)
+      typeOk = typeText == "VB.Form" || typeText == "VB.MDIForm";
+    if (typeOk && kind == FileKind::UserControl) typeOk = typeText == "VB.UserControl";
+    if (!typeOk) {
+      Problem(i, kind == FileKind::Form ? "expected Begin VB.Form or Begin VB.MDIForm <name>"
+                                        : "expected the designer's Begin line");
+      return kStop;
+    }
+    const size_t opened = i;
+    int depth = 1;
+    int propertyDepth = 0;
+    for (++i; i < lines_.size(); ++i) {
+      const std::string_view t = Trim(lines_[i]);
+      if (t == "End") {
+        if (--depth == 0) break;
+      } else if (StartsWithWord(t, "Begin")) {
+        ++depth;
+      } else if (StartsWithWord(t, "BeginProperty")) {
+        ++propertyDepth;
+      } else if (t == "EndProperty") {
+        if (--propertyDepth < 0) {
+          Problem(i, "EndProperty without BeginProperty");
+          propertyDepth = 0;
+        }
+      } else if (!IsPropertyLine(t)) {
+        Problem(i, "unexpected line in the designer block");
+      }
+    }
+    if (i >= lines_.size()) {
+      Problem(opened, "designer block without its End");
+      return kStop;
+    }
+    if (propertyDepth > 0) Problem(i, "BeginProperty without EndProperty");
+    return AttributeLines(i + 1);
+  }
+
+  // --- Code ---------------------------------------------------------------
+
+  void Code(size_t i) {
+    while (i < lines_.size()) {
+      const size_t start = i;
+      std::string code;
+      while (true) {
+        const std::string_view raw = lines_[i];
+        if (StartsWithWord(raw, "Attribute")) break;  // procedure attributes
+        const MaskedLine m = Mask(raw);
+        if (m.openString) Problem(i, "string literal without its closing quote");
+        if (m.hasComment) {
+          code += m.code;
+          // A comment that ends in " _" goes on into the next line.
+          std::string_view comment = m.comment;
+          while (EndsWithContinuation(comment) && i + 1 < lines_.size()) comment = lines_[++i];
+          break;
+        }
+        if (EndsWithContinuation(m.code) && i + 1 < lines_.size()) {
+          std::string_view part = Trim(m.code);
+          part.remove_suffix(1);
+          code += std::string(part) + " ";
+          ++i;
+          continue;
+        }
+        code += m.code;
+        break;
+      }
+      ++i;
+      LogicalLine(start, code);
+    }
+    AtEnd();
+  }
+
+  void LogicalLine(size_t line, std::string_view code) {
+    std::vector<std::string> statements = SplitStatements(code);
+    // A line number in front of the first statement.
+    std::string& first = statements.front();
+    size_t digits = 0;
+    while (digits < first.size() && first[digits] >= '0' && first[digits] <= '9') ++digits;
+    if (digits > 0 && (digits == first.size() || IsBlank(first[digits])))
+      first = std::string(Trim(std::string_view(first).substr(digits)));
+    for (size_t k = 0; k < statements.size(); ++k) {
+      std::string rest;
+      for (size_t r = k + 1; r < statements.size(); ++r) rest += statements[r];
+      if (!Statement(line, statements[k], rest)) break;
+    }
+  }
+
+  // Returns false when the statement takes the rest of the line with it
+  // (single-line If, Rem).
+  bool Statement(size_t line, std::string_view statement, std::string_view restOfLine) {
+    auto [w1, after1] = SplitWord(statement);
+    if (w1.empty()) return true;
+    const auto [w2, after2] = SplitWord(after1);
+    if (w1 == "rem") return false;
+
+    if (typeBlock_) {
+      if (w1 == "end" && (w2 == "type" || w2 == "enum")) {
+        if (KindName(w2) != typeBlock_->kind)
+          Problem(line, "End " + KindName(w2) + " closes the " + typeBlock_->kind +
+                            " opened on line " + std::to_string(typeBlock_->line + 1));
+        typeBlock_.reset();
+      }
+      return true;  // members
+    }
+    if (w1.front() == '#') return Directive(line, w1, w2);
+
+    if (const auto header = ProcedureStart(statement)) {
+      if (procedure_) {
+        Problem(line, header->kind + " inside the " + procedure_->kind + " opened on line " +
+                          std::to_string(procedure_->line + 1));
+        CloseOpenBlocks();
+      }
+      // Two procedures of one name do not compile ("Ambiguous name detected").
+      const auto [seen, added] = procedureNames_.emplace(header->key, line);
+      if (!added)
+        Problem(line, "second procedure named " + header->key.substr(0, header->key.find('/')) +
+                          " (the first is on line " + std::to_string(seen->second + 1) + ")");
+      procedure_ = Open{header->kind, line};
+      return true;
+    }
+    if (w1 == "end" && (w2 == "sub" || w2 == "function" || w2 == "property")) {
+      EndProcedure(line, KindName(w2));
+      return true;
+    }
+
+    if (!procedure_) {
+      std::string word = w1;
+      std::string_view behind = after1;
+      while (IsModifier(word)) std::tie(word, behind) = SplitWord(behind);
+      if (word == "type" || word == "enum") {
+        typeBlock_ = Open{KindName(word), line};
+      } else if (std::find(std::begin(kModuleLevelWords), std::end(kModuleLevelWords), w1) ==
+                 std::end(kModuleLevelWords)) {
+        Problem(line, "statement outside a procedure: " + std::string(Trim(statement)));
+      }
+      return true;
+    }
+
+    if (w1 == "type" || w1 == "enum" || (IsModifier(w1) && (w2 == "type" || w2 == "enum"))) {
+      Problem(line, KindName(w1 == "type" || w1 == "enum" ? w1 : w2) + " inside a procedure");
+    } else if (w1 == "if") {
+      const auto then = FindThen(statement);
+      if (!then) {
+        Problem(line, "If without Then");
+      } else if (!Trim(statement.substr(*then)).empty() || !Trim(restOfLine).empty()) {
+        return false;  // single-line If: the rest of the line is its body
+      } else {
+        blocks_.push_back({"If", line});
+      }
+    } else if (w1 == "elseif") {
+      Expect(line, "If", "ElseIf");
+    } else if (w1 == "else") {
+      Expect(line, "If", "Else");
+      // "Else If x Then" is Else followed by a nested If.
+      if (!after1.empty()) return Statement(line, after1, restOfLine);
+    } else if (w1 == "select") {
+      if (w2 != "case") Problem(line, "Select without Case");
+      blocks_.push_back({"Select", line});
+    } else if (w1 == "case") {
+      Expect(line, "Select", "Case");
+    } else if (w1 == "for") {
+      blocks_.push_back({"For", line});
+    } else if (w1 == "next") {
+      const size_t count = after1.empty() ? 1 : std::count(after1.begin(), after1.end(), ',') + 1;
+      for (size_t n = 0; n < count; ++n) Close(line, "For", "Next");
+    } else if (w1 == "do") {
+      blocks_.push_back({"Do", line});
+    } else if (w1 == "loop") {
+      Close(line, "Do", "Loop");
+    } else if (w1 == "while") {
+      blocks_.push_back({"While", line});
+    } else if (w1 == "wend") {
+      Close(line, "While", "Wend");
+    } else if (w1 == "with") {
+      blocks_.push_back({"With", line});
+    } else if (w1 == "end") {
+      if (w2 == "if" || w2 == "select" || w2 == "with") {
+        const std::string kind = KindName(w2);
+        Close(line, kind, "End " + kind);
+      } else if (w2 == "type" || w2 == "enum") {
+        Problem(line, "End " + KindName(w2) + " without " + KindName(w2));
+      } else if (!w2.empty()) {
+        Problem(line, "unknown End statement");
+      }
+    } else if (w1 == "exit") {
+      ExitStatement(line, w2);
+    }
+    return true;
+  }
+
+  bool Directive(size_t line, const std::string& w1, const std::string& w2) {
+    if (w1 == "#if") {
+      conditional_.push_back({"#If", line});
+    } else if (w1 == "#elseif" || w1 == "#else") {
+      if (conditional_.empty())
+        Problem(line, (w1 == "#else" ? "#Else" : "#ElseIf") + std::string(" without #If"));
+    } else if (w1 == "#end" && w2 == "if") {
+      if (conditional_.empty())
+        Problem(line, "#End If without #If");
+      else
+        conditional_.pop_back();
+    }
+    return true;
+  }
+
+  struct ProcedureHeader {
+    std::string kind;  // "Sub", "Function" or "Property"
+    std::string key;   // the name in lower case, with "/get", "/let", "/set" for a property
+  };
+
+  static std::optional<ProcedureHeader> ProcedureStart(std::string_view statement) {
+    auto [word, rest] = SplitWord(statement);
+    while (IsModifier(word)) std::tie(word, rest) = SplitWord(rest);
+    if (word != "sub" && word != "function" && word != "property") return std::nullopt;
+    ProcedureHeader header{KindName(word), ""};
+    auto [name, behind] = SplitWord(rest);
+    if (word == "property") {
+      const std::string accessor = name;
+      std::tie(name, behind) = SplitWord(behind);
+      header.key = name + "/" + accessor;
+    } else {
+      header.key = name;
+    }
+    return header;
+  }
+
+  void Expect(size_t line, const std::string& kind, const std::string& what) {
+    if (blocks_.empty() || blocks_.back().kind != kind)
+      Problem(line, what + " without " + (kind == "If" ? "a block If" : "Select Case"));
+  }
+
+  void Close(size_t line, const std::string& kind, const std::string& closer) {
+    auto match = std::find_if(blocks_.rbegin(), blocks_.rend(),
+                              [&kind](const Open& o) { return o.kind == kind; });
+    if (match == blocks_.rend()) {
+      Problem(line, closer + " without " + kind);
+      return;
+    }
+    // Blocks opened inside the one being closed were never closed.
+    const size_t keep = static_cast<size_t>(blocks_.rend() - match) - 1;
+    while (blocks_.size() > keep + 1) {
+      Unclosed(blocks_.back());
+      blocks_.pop_back();
+    }
+    blocks_.pop_back();
+  }
+
+  void Unclosed(const Open& o) { Problem(o.line, o.kind + " without " + CloserOf(o.kind)); }
+
+  void CloseOpenBlocks() {
+    for (const auto& o : blocks_) Unclosed(o);
+    blocks_.clear();
+  }
+
+  void EndProcedure(size_t line, const std::string& kind) {
+    if (!procedure_) {
+      Problem(line, "End " + kind + " without " + kind);
+      return;
+    }
+    if (procedure_->kind != kind)
+      Problem(line, "End " + kind + " closes the " + procedure_->kind + " opened on line " +
+                        std::to_string(procedure_->line + 1));
+    CloseOpenBlocks();
+    procedure_.reset();
+  }
+
+  void ExitStatement(size_t line, const std::string& w2) {
+    if (w2 == "sub" || w2 == "function" || w2 == "property") {
+      if (procedure_ && procedure_->kind != KindName(w2))
+        Problem(line, "Exit " + KindName(w2) + " inside a " + procedure_->kind);
+    } else if (w2 == "for" || w2 == "do") {
+      const std::string kind = w2 == "for" ? "For" : "Do";
+      if (std::none_of(blocks_.begin(), blocks_.end(),
+                       [&kind](const Open& o) { return o.kind == kind; }))
+        Problem(line, "Exit " + kind + " outside a " + kind + " loop");
+    }
+  }
+
+  void AtEnd() {
+    if (typeBlock_)
+      Problem(typeBlock_->line, typeBlock_->kind + " without End " + typeBlock_->kind);
+    if (procedure_) {
+      CloseOpenBlocks();
+      Problem(procedure_->line, procedure_->kind + " without End " + procedure_->kind);
+    }
+    for (const auto& o : conditional_) Unclosed(o);
+  }
+
+  std::vector<std::string> lines_;
+  std::vector<std::pair<size_t, std::string>> problems_;
+  std::optional<Open> procedure_;
+  std::optional<Open> typeBlock_;
+  std::vector<Open> blocks_;
+  std::vector<Open> conditional_;
+  std::map<std::string, size_t> procedureNames_;
+};
+
+std::string Extension(const std::string& fileName) {
+  const size_t dot = fileName.find_last_of('.');
+  const size_t slash = fileName.find_last_of("/\\");
+  if (dot == std::string::npos || (slash != std::string::npos && dot < slash)) return "";
+  return ToLower(fileName.substr(dot));
+}
+
+}  // namespace
+
+std::vector<std::string> CheckVb6Structure(const std::string& fileName, const std::string& text) {
+  std::vector<std::string> lines = SplitLines(text);
+  const std::string first = lines.empty() ? "" : std::string(Trim(lines.front()));
+  const std::string ext = Extension(fileName);
+  FileKind kind = FileKind::Module;
+  if (first == "VERSION 1.0 CLASS" || ext == ".cls") {
+    kind = FileKind::Class;
+  } else if (ext == ".frm") {
+    kind = FileKind::Form;
+  } else if (ext == ".ctl") {
+    kind = FileKind::UserControl;
+  } else if (ext == ".dsr" || (ext != ".bas" && first == "VERSION 5.00")) {
+    kind = FileKind::Designer;
+  }
+  return Checker(std::move(lines)).Run(kind);
+}
+
+}  // namespace morvane::test

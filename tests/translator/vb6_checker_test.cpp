@@ -1,0 +1,208 @@
+// Tests of the VB6 structural checker that the other tests run over the text
+// the converters write: each case is a small file and the exact problems
+// expected of it.
+#include "support/vb6_checker.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "support/temp_dir.h"
+
+namespace morvane::test {
+namespace {
+
+struct Case {
+  const char* name;
+  const char* fileName;
+  const char* text;  // "\n" line ends; checked with CR LF
+  std::vector<std::string> problems;
+};
+
+void RunCases(const std::vector<Case>& cases) {
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    EXPECT_EQ(CheckVb6Structure(c.fileName, Crlf(c.text)), c.problems);
+  }
+}
+
+TEST(Vb6Checker, BlocksInsideProcedures) {
+  RunCases({
+      {"every block kind, balanced",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nOption Explicit\nPrivate x As Integer\n\n"
+       "Public Function F(a As Integer) As Integer\n"
+       "    Dim i As Integer\n"
+       "    If a > 1 Then\n        a = 1\n    ElseIf a < 0 Then\n        a = 0\n    Else\n"
+       "        a = 2\n    End If\n"
+       "    For i = 1 To 3\n        Do While i < 2\n            Exit Do\n        Loop\n"
+       "    Next i\n"
+       "    Select Case a\n        Case 1\n            With Me\n            End With\n"
+       "        Case Else\n    End Select\n"
+       "    While a > 0\n        a = a - 1\n    Wend\n"
+       "    Do\n    Loop Until a = 0\n"
+       "    For Each x In y\n    Next\n"
+       "End Function\n",
+       {}},
+      {"an If without End If",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n    If x Then\n        y = 1\nEnd Sub\n",
+       {"line 3: If without End If"}},
+      {"a stray End Sub",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\nEnd Sub\nEnd Sub\n",
+       {"line 4: End Sub without Sub"}},
+      {"a Sub inside a Sub",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n    x = 1\nSub B()\nEnd Sub\n",
+       {"line 4: Sub inside the Sub opened on line 2"}},
+      {"a Sub that never ends",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n    For i = 1 To 2\n",
+       {"line 2: Sub without End Sub", "line 3: For without Next"}},
+      {"End Function closing a Sub",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\nEnd Function\n",
+       {"line 3: End Function closes the Sub opened on line 2"}},
+      {"closers without openers",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n    Loop\n    Next\n    Wend\n    End Select\n"
+       "    Case 1\n    Else\nEnd Sub\n",
+       {"line 3: Loop without Do", "line 4: Next without For", "line 5: Wend without While",
+        "line 6: End Select without Select", "line 7: Case without Select Case",
+        "line 8: Else without a block If"}},
+      {"crossed blocks",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n    If a Then\n        For i = 1 To 2\n    End If\n"
+       "        Next\nEnd Sub\n",
+       {"line 4: For without Next", "line 6: Next without For"}},
+      {"Next with two counters closes two loops",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n    For i = 1 To 2\n        For j = 1 To 2\n"
+       "    Next j, i\nEnd Sub\n",
+       {}},
+      {"Exit statements must fit",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nFunction A()\n    Exit Sub\n    Exit For\n    Exit Function\n"
+       "End Function\n",
+       {"line 3: Exit Sub inside a Function", "line 4: Exit For outside a For loop"}},
+      {"two procedures of one name",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nFunction DSum()\nEnd Function\n\nPublic Function DSum()\n"
+       "End Function\nProperty Get P()\nEnd Property\nProperty Let P(v)\nEnd Property\n",
+       {"line 5: second procedure named dsum (the first is on line 2)"}},
+  });
+}
+
+TEST(Vb6Checker, ReadsLinesAsVb6Does) {
+  RunCases({
+      {"single-line If forms",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n    If x Then y = 1\n    If x Then y = 1 Else y = 2\n"
+       "    If x Then Exit Sub\n    If x Then a = 1: b = 2\n    If x Then: b = 2\n"
+       "    If x Then ' a comment keeps the block form\n    End If\nEnd Sub\n",
+       {}},
+      {"Else If opens a nested If, ElseIf does not",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n    If a Then\n        x = 1\n    Else If b Then\n"
+       "        x = 2\n    End If\n    If a Then\n    ElseIf b Then\n    End If\nEnd Sub\n",
+       {"line 3: If without End If"}},
+      {"keywords in strings and comments do not count",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n    s = \"End Sub\"\n    t = \"If a Then \"\" : "
+       "Loop\"\n"
+       "    ' End Sub\n'MORVANE If x Then\n    Rem For i = 1 To 2\nEnd Sub\n",
+       {}},
+      {"continuation lines make one line",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n    If a And _\n        b Then\n    End If\n"
+       "    x = F(1, _\n        2)\nEnd Sub\n",
+       {}},
+      {"a comment ending in a continuation swallows the next line",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n    ' note _\nEnd Sub\n",
+       {"line 2: Sub without End Sub"}},
+      {"labels, line numbers, named arguments and date literals",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n    On Error GoTo Fail\n10  x = 1\n"
+       "    MsgBox Prompt:=\"a\", Title:=\"b\"\n    d = #1/2/2001 10:30:00 PM#\n"
+       "    Print #1, d\n    Exit Sub\nFail: If x Then\n    End If\nEnd Sub\n",
+       {}},
+      {"conditional compilation",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n#If Win16 Then\n    x = 1\n#Else\n    x = 2\n#End If\n"
+       "#If A Then\nEnd Sub\n",
+       {"line 8: #If without #End If"}},
+      {"an unterminated string",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n    s = \"abc\nEnd Sub\n",
+       {"line 3: string literal without its closing quote"}},
+      {"module level holds declarations only",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nOption Explicit\nPrivate Declare Function T Lib \"k\" () As "
+       "Long\n"
+       "Public Type R\n    A As Integer\nEnd Type\nPrivate Enum E\n    One = 1\nEnd Enum\n"
+       "Const C = 1\nx = 1\nIf a Then\n",
+       {"line 11: statement outside a procedure: x = 1",
+        "line 12: statement outside a procedure: If a Then"}},
+      {"Type inside a procedure, Type without End Type",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n    Type T\nEnd Sub\nType U\n    A As Long\n",
+       {"line 3: Type inside a procedure", "line 5: Type without End Type"}},
+  });
+}
+
+TEST(Vb6Checker, FileHeaders) {
+  RunCases({
+      {"a module must name itself",
+       "m.bas",
+       "Option Explicit\n",
+       {"line 1: expected Attribute VB_Name = \"<name>\""}},
+      {"a class module in a .cls",
+       "c.cls",
+       "VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1  'True\nEND\nAttribute VB_Name = \"c\"\n"
+       "Attribute VB_Exposed = False\nOption Explicit\n",
+       {}},
+      {"a class kept in a .bas",
+       "c.bas",
+       "VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1  'True\nEND\nAttribute VB_Name = \"c\"\n",
+       {}},
+      {"a class header without END",
+       "c.cls",
+       "VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1  'True\n",
+       {"line 2: BEGIN without END"}},
+      {"a form with Object lines and nested controls",
+       "f.frm",
+       "VERSION 5.00\nObject = \"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0\"; \"MSCOMCTL.OCX\"\n"
+       "Begin VB.Form frmA\n   Caption = \"A\"\n   BeginProperty Font \n      Name = \"Arial\"\n"
+       "   EndProperty\n   Begin VB.Frame fra\n      Begin VB.Label lbl\n         Index = 0\n"
+       "      End\n   End\nEnd\nAttribute VB_Name = \"frmA\"\nAttribute VB_PredeclaredId = True\n"
+       "Private Sub Form_Load()\nEnd Sub\n",
+       {}},
+      {"a form without VERSION",
+       "f.frm",
+       "Begin VB.Form frmA\nEnd\nAttribute VB_Name = \"frmA\"\n",
+       {"line 1: expected VERSION 5.00"}},
+      {"a form whose designer is not a form",
+       "f.frm",
+       "VERSION 5.00\nBegin VB.Label frmA\nEnd\nAttribute VB_Name = \"frmA\"\n",
+       {"line 2: expected Begin VB.Form or Begin VB.MDIForm <name>"}},
+      {"a designer block that never ends",
+       "f.frm",
+       "VERSION 5.00\nBegin VB.Form frmA\n   Begin VB.Label l\n   End\n",
+       {"line 2: designer block without its End"}},
+      {"a form without its name attribute",
+       "f.frm",
+       "VERSION 5.00\nBegin VB.MDIForm frmA\nEnd\nOption Explicit\n",
+       {"line 4: expected Attribute VB_Name = \"<name>\""}},
+      {"stray text in a designer block",
+       "r.dsr",
+       "VERSION 5.00\nBegin {78E93846-85FD-11D0-8487-00A0C90DC8A9} rptA\n   Caption = \"x\"\n"
+       "   Sub A()\nEnd\nAttribute VB_Name = \"rptA\"\n",
+       {"line 4: unexpected line in the designer block"}},
+  });
+}
+
+}  // namespace
+}  // namespace morvane::test
