@@ -66,8 +66,10 @@ size_t CodeStart(const std::vector<std::string>& lines) {
     if (StartsWith(t, "VERSION ") || StartsWith(t, "Object =") || StartsWith(t, "Object=") ||
         StartsWith(t, "Attribute ")) {
       ++i;
-    } else if (t == "BEGIN") {  // class header
-      while (i < lines.size() && Trimmed(lines[i]) != "END") ++i;
+    } else if (t == "BEGIN") {  // class header, closed by "END" or "End"
+      while (i < lines.size() &&
+             !(Trimmed(lines[i]).size() == 3 && StartsWithWordNoCase(Trimmed(lines[i]), "end")))
+        ++i;
       ++i;
     } else if (StartsWith(t, "Begin ") && i < lines.size()) {  // designer block
       int depth = 0;

@@ -134,6 +134,9 @@ std::unique_ptr<SupportDatabase> SupportDatabase::Open(const std::filesystem::pa
     return nullptr;
   }
   std::string why;
+  // The analysis is rebuilt by every run, so losing the last rows to a crash
+  // costs nothing, while a sync per row costs most of a run's time.
+  db->Execute("PRAGMA synchronous = OFF; PRAGMA journal_mode = MEMORY;");
   if (!db->Execute(kSchema, &why)) {
     if (err) *err = "cannot create the support database " + file.string() + ": " + why;
     return nullptr;

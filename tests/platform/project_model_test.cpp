@@ -113,3 +113,21 @@ TEST(ProjectModel, SavesTheProjectFileWithCrLf) {
 
 }  // namespace
 }  // namespace morvane
+
+namespace morvane {
+namespace {
+
+TEST(CodeModule, AClassHeaderClosedByEndInEitherCase) {
+  for (const char* end : {"END", "End"}) {
+    test::TempDir dir;
+    test::WriteFile(dir / "c.bas",
+                    test::Crlf(std::string("VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1  'True\n") +
+                               end + "\nAttribute VB_Name = \"c\"\nOption Explicit\n"));
+    CodeModule code(dir / "c.bas");
+    EXPECT_EQ(code.CountOfLines(), 1) << end;
+    EXPECT_EQ(code.Lines(1, 1), "Option Explicit") << end;
+  }
+}
+
+}  // namespace
+}  // namespace morvane
