@@ -259,12 +259,13 @@ class Checker {
       Problem(0, "expected VERSION 1.0 CLASS");
       return kStop;
     }
-    if (Trim(LineAt(1)) != "BEGIN") {
+    // VB6 writes BEGIN and END; some export tools write End.
+    if (!EqualsNoCase(Trim(LineAt(1)), "BEGIN")) {
       Problem(1, "expected BEGIN");
       return kStop;
     }
     size_t i = 2;
-    for (; i < lines_.size() && Trim(lines_[i]) != "END"; ++i)
+    for (; i < lines_.size() && !EqualsNoCase(Trim(lines_[i]), "END"); ++i)
       if (!IsPropertyLine(lines_[i])) Problem(i, "unexpected line in the class header");
     if (i >= lines_.size()) {
       Problem(1, "BEGIN without END");

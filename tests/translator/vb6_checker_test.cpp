@@ -164,9 +164,9 @@ TEST(Vb6Checker, FileHeaders) {
        "VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1  'True\nEND\nAttribute VB_Name = \"c\"\n"
        "Attribute VB_Exposed = False\nOption Explicit\n",
        {}},
-      {"a class kept in a .bas",
+      {"a class kept in a .bas, its header closed by End",
        "c.bas",
-       "VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1  'True\nEND\nAttribute VB_Name = \"c\"\n",
+       "VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1  'True\nEnd\nAttribute VB_Name = \"c\"\n",
        {}},
       {"a class header without END",
        "c.cls",
