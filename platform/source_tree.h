@@ -17,8 +17,8 @@ enum class AccessObjectKind { Form, Report, Macro, Module, Query };
 
 struct SourceObject {
   AccessObjectKind Kind = AccessObjectKind::Module;
-  std::string Name;              // Windows-1252
-  std::filesystem::path File;    // the export that holds the object
+  std::string Name;                // Windows-1252
+  std::filesystem::path File;      // the export that holds the object
   std::filesystem::path CodeFile;  // separate code-behind file, when the layout has one
 };
 
@@ -45,6 +45,9 @@ class SourceTree {
   virtual ~SourceTree() = default;
 
   virtual const std::filesystem::path& Root() const = 0;
+  // The layout the tree was read as ("flat", "folders", ...), empty when the
+  // implementation has none.
+  virtual std::string Layout() const { return {}; }
   virtual const std::vector<SourceObject>& Objects() const = 0;
   // Names of one kind, in catalog order (by name, without regard to case).
   std::vector<std::string> Names(AccessObjectKind kind) const;

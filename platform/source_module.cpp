@@ -1,0 +1,139 @@
+// Module code of the source tree: stripping export headers and counting the
+// declarations section.
+#include "platform/source_module.h"
+
+#include "platform/source_text.h"
+
+namespace morvane {
+
+using source_text::IEquals;
+using source_text::IStartsWith;
+using source_text::Trim;
+
+std::string ModuleCode::Lines(int start, int count) const {
+  std::string out;
+  if (count < 1) return out;
+  int first = start < 1 ? 1 : start;
+  int last = start + count - 1;
+  if (last > CountOfLines()) last = CountOfLines();
+  for (int i = first; i <= last; ++i) {
+    if (i > first) out += "\r\n";
+    out += Code[static_cast<size_t>(i - 1)];
+  }
+  return out;
+}
+
+namespace {
+
+constexpr std::string_view kScopeWords[] = {"Public ", "Private ", "Friend "};
+constexpr std::string_view kProcWords[] = {"Sub ", "Function ", "Property Get ", "Property Let ",
+                                           "Property Set "};
+
+bool EatWord(std::string_view* text, std::string_view word) {
+  if (!IStartsWith(*text, word)) return false;
+  text->remove_prefix(word.size());
+  *text = Trim(*text);
+  return true;
+}
+
+bool IsCommentOrBlank(std::string_view line) {
+  std::string_view t = Trim(line);
+  return t.empty() || t[0] == '\'' || IEquals(t, "Rem") || IStartsWith(t, "Rem ");
+}
+
+bool ContinuesOnNextLine(std::string_view line) {
+  std::string_view t = Trim(line);
+  return t.size() >= 2 && t.back() == '_' && (t[t.size() - 2] == ' ' || t[t.size() - 2] == '\t');
+}
+
+bool IsAttributeLine(std::string_view line) { return IStartsWith(line, "Attribute "); }
+
+// `Attribute Name.VB_UserMemId = 0` and the like inside a procedure: the
+// editor hides them as it hides the module's own Attribute lines.
+bool IsMemberAttributeLine(std::string_view line) {
+  if (!IsAttributeLine(line)) return false;
+  std::string_view rest = Trim(line.substr(10));
+  size_t dot = rest.find('.');
+  size_t blank = rest.find_first_of(" =");
+  return dot != std::string_view::npos && dot < blank && IStartsWith(rest.substr(dot + 1), "VB_");
+}
+
+void AppendCode(const std::vector<std::string>& lines, size_t from, ModuleCode* out) {
+  for (size_t i = from; i < lines.size(); ++i)
+    if (!IsMemberAttributeLine(lines[i])) out->Code.push_back(lines[i]);
+  out->CountOfDeclarationLines = CountDeclarationLines(out->Code);
+}
+
+}  // namespace
+
+bool IsProcedureHeader(std::string_view line) {
+  std::string_view t = Trim(line);
+  for (auto w : kScopeWords)
+    if (EatWord(&t, w)) break;
+  EatWord(&t, "Static ");
+  for (auto w : kProcWords)
+    if (IStartsWith(t, w)) return true;
+  return false;
+}
+
+int CountDeclarationLines(const std::vector<std::string>& code) {
+  size_t header = 0;
+  while (header < code.size() && !(IsProcedureHeader(code[header]) &&
+                                   (header == 0 || !ContinuesOnNextLine(code[header - 1]))))
+    ++header;
+  if (header == code.size()) return static_cast<int>(code.size());
+  size_t start = header;
+  while (start > 0 && IsCommentOrBlank(code[start - 1]) &&
+         !(start >= 2 && ContinuesOnNextLine(code[start - 2])))
+    --start;
+  return static_cast<int>(start);
+}
+
+std::string VbNameOf(std::string_view line) {
+  std::string_view t = Trim(line);
+  if (!IStartsWith(t, "Attribute VB_Name")) return {};
+  size_t q1 = t.find('"');
+  size_t q2 = t.rfind('"');
+  if (q1 == std::string_view::npos || q2 <= q1) return {};
+  return std::string(t.substr(q1 + 1, q2 - q1 - 1));
+}
+
+ModuleCode ModuleFromExport(const std::vector<std::string>& lines, std::string* vbName) {
+  ModuleCode out;
+  size_t i = 0;
+  if (vbName) vbName->clear();
+  if (i < lines.size() && IStartsWith(Trim(lines[i]), "VERSION 1.0 CLASS")) {
+    out.Type = 1;
+    ++i;
+    if (i < lines.size() && IEquals(Trim(lines[i]), "BEGIN")) {
+      while (i < lines.size() && !IEquals(Trim(lines[i]), "END")) ++i;
+      if (i < lines.size()) ++i;
+    }
+  }
+  for (; i < lines.size() && IsAttributeLine(lines[i]); ++i) {
+    std::string name = VbNameOf(lines[i]);
+    if (!name.empty() && vbName) *vbName = name;
+  }
+  AppendCode(lines, i, &out);
+  return out;
+}
+
+bool HasCodeBehind(const std::vector<std::string>& lines) {
+  for (const auto& l : lines)
+    if (Trim(l) == "CodeBehindForm") return true;
+  return false;
+}
+
+ModuleCode CodeBehindFromDesign(const std::vector<std::string>& lines) {
+  ModuleCode out;
+  out.Type = 1;
+  size_t i = 0;
+  while (i < lines.size() && Trim(lines[i]) != "CodeBehindForm") ++i;
+  if (i == lines.size()) return out;
+  ++i;
+  while (i < lines.size() && IsAttributeLine(lines[i])) ++i;
+  AppendCode(lines, i, &out);
+  return out;
+}
+
+}  // namespace morvane

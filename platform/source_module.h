@@ -1,0 +1,38 @@
+// Module text out of an export: the code lines as the VBA editor shows them
+// (no class header, no Attribute lines), the module type, and the count of
+// declaration lines.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/source_tree.h"
+
+namespace morvane {
+
+// True for a line that opens a procedure: Sub, Function or Property
+// Get/Let/Set, optionally after Public/Private/Friend and Static.
+bool IsProcedureHeader(std::string_view line);
+
+// The number of lines before the first procedure. Comment and blank lines
+// directly above the first procedure belong to it, not to the declarations,
+// as the VBA editor draws the procedure separator under the last declaration.
+// A module without procedures is all declarations.
+int CountDeclarationLines(const std::vector<std::string>& code);
+
+// A standard or class module's export. `vbName` receives the value of
+// `Attribute VB_Name` (empty when the file has none).
+ModuleCode ModuleFromExport(const std::vector<std::string>& lines, std::string* vbName);
+
+// The code behind of a form or report text: the lines after the
+// CodeBehindForm line, without its Attribute lines. Empty when there is none.
+ModuleCode CodeBehindFromDesign(const std::vector<std::string>& lines);
+
+// Whether the design text has a CodeBehindForm line.
+bool HasCodeBehind(const std::vector<std::string>& lines);
+
+// The value of an `Attribute VB_Name = "..."` line, or empty.
+std::string VbNameOf(std::string_view line);
+
+}  // namespace morvane

@@ -1,0 +1,373 @@
+// Query exports: SQL text, the design grid and the DAO query type.
+//
+// A query export names the query's kind in `Operation =` (the grid's query
+// type: 1 select, 2 make-table, 3 append, 4 update, 5 delete, 6 crosstab,
+// 7 data definition, 8 pass-through, 9 union) and describes the grid in
+// blocks: `Begin InputTables` (Name, Alias), `Begin OutputColumns` (Alias,
+// Expression), `Begin Joins` (LeftTable, RightTable, Expression, Flag
+// 1 inner / 2 left / 3 right), `Begin OrderBy` (Expression, Flag 1 for
+// descending), `Begin Groups` (Expression, GroupLevel), and the lines
+// `Where =` and `Having =`. `Option =` carries flags: 2 DISTINCT,
+// 8 DISTINCTROW.
+#include "platform/source_query.h"
+
+#include <cstdlib>
+
+#include "platform/catalog.h"
+#include "platform/source_text.h"
+
+namespace morvane {
+
+using source_text::IEquals;
+using source_text::IStartsWith;
+using source_text::Trim;
+
+namespace {
+
+struct OperationType {
+  int Operation;
+  int Type;  // DaoQueryType
+};
+
+constexpr OperationType kOperationTypes[] = {
+    {1, kDbQSelect}, {2, kDbQMakeTable},      {3, kDbQAppend},
+    {4, kDbQUpdate}, {5, kDbQDelete},         {6, kDbQCrosstab},
+    {7, kDbQDDL},    {8, kDbQSQLPassThrough}, {9, kDbQSetOperation},
+};
+
+struct VerbType {
+  std::string_view Verb;
+  int Type;
+};
+
+// The leading word of the statement; SELECT ... INTO and UNION are told
+// apart after this table.
+constexpr VerbType kVerbTypes[] = {
+    {"INSERT", kDbQAppend},      {"UPDATE", kDbQUpdate}, {"DELETE", kDbQDelete},
+    {"TRANSFORM", kDbQCrosstab}, {"CREATE", kDbQDDL},    {"ALTER", kDbQDDL},
+    {"DROP", kDbQDDL},
+};
+
+constexpr int kOptionDistinct = 2;
+constexpr int kOptionDistinctRow = 8;
+
+// Position of `word` as a whole word outside quotes and brackets, or npos.
+size_t FindWord(std::string_view sql, std::string_view word) {
+  char quote = 0;
+  int bracket = 0;
+  for (size_t i = 0; i + word.size() <= sql.size(); ++i) {
+    char c = sql[i];
+    if (quote) {
+      if (c == quote) quote = 0;
+      continue;
+    }
+    if (c == '"' || c == '\'') {
+      quote = c;
+      continue;
+    }
+    if (c == '[') ++bracket;
+    if (c == ']' && bracket > 0) --bracket;
+    if (bracket) continue;
+    auto isWordChar = [](char ch) {
+      return (ch >= 'A' && ch <= 'Z') || (ch >= 'a' && ch <= 'z') || (ch >= '0' && ch <= '9') ||
+             ch == '_';
+    };
+    if (IEquals(sql.substr(i, word.size()), word) && (i == 0 || !isWordChar(sql[i - 1])) &&
+        (i + word.size() == sql.size() || !isWordChar(sql[i + word.size()])))
+      return i;
+  }
+  return std::string_view::npos;
+}
+
+std::string Bracketed(const std::string& name) {
+  bool plain = !name.empty() && !(name[0] >= '0' && name[0] <= '9');
+  for (unsigned char c : name)
+    if (!((c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_' ||
+          c >= 0x80))
+      plain = false;
+  return plain ? name : "[" + name + "]";
+}
+
+struct Table {
+  std::string Name, Alias;
+  std::string Ref() const { return Alias.empty() ? Name : Alias; }
+  std::string Text() const {
+    return Alias.empty() ? Bracketed(Name) : Bracketed(Name) + " AS " + Bracketed(Alias);
+  }
+};
+struct Column {
+  std::string Expression, Alias;
+};
+struct Join {
+  std::string Left, Right, Expression;
+  int Flag = 1;
+};
+struct Order {
+  std::string Expression;
+  bool Descending = false;
+};
+
+struct Grid {
+  int Operation = 0;
+  int Option = 0;
+  std::string Where, Having;
+  std::vector<Table> Tables;
+  std::vector<Column> Columns;
+  std::vector<Join> Joins;
+  std::vector<Order> Orders;
+  std::vector<std::string> Groups;
+};
+
+std::string KeyOf(std::string_view line) {
+  size_t eq = line.find('=');
+  return eq == std::string_view::npos ? std::string() : std::string(Trim(line.substr(0, eq)));
+}
+
+std::string NumberText(std::string_view line) {
+  size_t eq = line.find('=');
+  return std::string(Trim(line.substr(eq + 1)));
+}
+
+// Reads one grid block from the line after `Begin <Block>` to its `End`.
+void ReadBlock(const std::vector<std::string>& lines, size_t* i, std::string_view block, Grid* g) {
+  Column column;
+  Join join;
+  Order order;
+  for (++*i; *i < lines.size(); ++*i) {
+    std::string_view t = Trim(lines[*i]);
+    if (t == "End") return;
+    if (IStartsWith(t, "Begin")) {  // nested blocks are not part of the grid
+      int depth = 1;
+      while (depth > 0 && ++*i < lines.size()) {
+        std::string_view u = Trim(lines[*i]);
+        if (u == "End") --depth;
+        if (IStartsWith(u, "Begin")) ++depth;
+      }
+      continue;
+    }
+    std::string key = KeyOf(t);
+    if (key.empty()) continue;
+    if (block == "InputTables") {
+      if (key == "Name") g->Tables.push_back({QuotedValueAt(lines, i), {}});
+      if (key == "Alias" && !g->Tables.empty()) g->Tables.back().Alias = QuotedValueAt(lines, i);
+    } else if (block == "OutputColumns") {
+      if (key == "Alias") column.Alias = QuotedValueAt(lines, i);
+      if (key == "Expression") {
+        column.Expression = QuotedValueAt(lines, i);
+        g->Columns.push_back(column);
+        column = Column();
+      }
+    } else if (block == "Joins") {
+      if (key == "LeftTable") join.Left = QuotedValueAt(lines, i);
+      if (key == "RightTable") join.Right = QuotedValueAt(lines, i);
+      if (key == "Expression") join.Expression = QuotedValueAt(lines, i);
+      if (key == "Flag") {
+        join.Flag = std::atoi(NumberText(t).c_str());
+        g->Joins.push_back(join);
+        join = Join();
+      }
+    } else if (block == "OrderBy") {
+      if (key == "Expression") order.Expression = QuotedValueAt(lines, i);
+      if (key == "Flag") {
+        order.Descending = std::atoi(NumberText(t).c_str()) == 1;
+        g->Orders.push_back(order);
+        order = Order();
+      }
+    } else if (block == "Groups") {
+      if (key == "Expression") g->Groups.push_back(QuotedValueAt(lines, i));
+    }
+  }
+}
+
+const Table* TableByRef(const Grid& g, const std::string& ref) {
+  for (const auto& t : g.Tables)
+    if (IEquals(t.Ref(), ref) || IEquals(t.Name, ref)) return &t;
+  return nullptr;
+}
+
+std::string TableText(const Grid& g, const std::string& ref) {
+  const Table* t = TableByRef(g, ref);
+  return t ? t->Text() : Bracketed(ref);
+}
+
+// FROM clause: joined tables nest left to right, as Access writes them;
+// tables in no join follow, separated by commas.
+std::string FromClause(const Grid& g) {
+  std::vector<std::string> parts;
+  std::vector<std::string> joined;
+  std::string chain;
+  for (size_t j = 0; j < g.Joins.size(); ++j) {
+    const Join& jn = g.Joins[j];
+    const char* kind = jn.Flag == 2   ? " LEFT JOIN "
+                       : jn.Flag == 3 ? " RIGHT JOIN "
+                                      : " INNER JOIN ";
+    if (chain.empty()) {
+      chain = TableText(g, jn.Left);
+      joined.push_back(jn.Left);
+    } else {
+      chain = "(" + chain + ")";
+    }
+    chain += kind + TableText(g, jn.Right) + " ON " + jn.Expression;
+    joined.push_back(jn.Right);
+  }
+  if (!chain.empty()) parts.push_back(chain);
+  for (const auto& t : g.Tables) {
+    bool inJoin = false;
+    for (const auto& r : joined)
+      if (IEquals(r, t.Ref()) || IEquals(r, t.Name)) inJoin = true;
+    if (!inJoin) parts.push_back(t.Text());
+  }
+  std::string out;
+  for (size_t i = 0; i < parts.size(); ++i) out += (i ? ", " : "") + parts[i];
+  return out;
+}
+
+std::string Joined(const std::vector<std::string>& items) {
+  std::string out;
+  for (size_t i = 0; i < items.size(); ++i) out += (i ? ", " : "") + items[i];
+  return out;
+}
+
+std::string TailClauses(const Grid& g) {
+  std::string out;
+  if (!g.Where.empty()) out += "\r\nWHERE " + g.Where;
+  if (!g.Groups.empty()) out += "\r\nGROUP BY " + Joined(g.Groups);
+  if (!g.Having.empty()) out += "\r\nHAVING " + g.Having;
+  std::vector<std::string> orders;
+  for (const auto& o : g.Orders) orders.push_back(o.Expression + (o.Descending ? " DESC" : ""));
+  if (!orders.empty()) out += "\r\nORDER BY " + Joined(orders);
+  return out;
+}
+
+std::string SelectSql(const Grid& g) {
+  std::vector<std::string> cols;
+  for (const auto& c : g.Columns)
+    cols.push_back(c.Alias.empty() ? c.Expression : c.Expression + " AS " + Bracketed(c.Alias));
+  std::string sql = "SELECT ";
+  if (g.Option & kOptionDistinctRow)
+    sql += "DISTINCTROW ";
+  else if (g.Option & kOptionDistinct)
+    sql += "DISTINCT ";
+  sql += cols.empty() ? "*" : Joined(cols);
+  sql += "\r\nFROM " + FromClause(g) + TailClauses(g) + ";";
+  return sql;
+}
+
+std::string DeleteSql(const Grid& g) {
+  std::vector<std::string> cols;
+  for (const auto& c : g.Columns) cols.push_back(c.Expression);
+  std::string sql = "DELETE ";
+  if (g.Option & kOptionDistinctRow) sql += "DISTINCTROW ";
+  sql += cols.empty() ? "*" : Joined(cols);
+  return sql + "\r\nFROM " + FromClause(g) + TailClauses(g) + ";";
+}
+
+}  // namespace
+
+std::string QuotedValueAt(const std::vector<std::string>& lines, size_t* index) {
+  std::string raw;
+  auto takePiece = [&raw](std::string_view text) {
+    size_t q = text.find('"');
+    if (q == std::string_view::npos) return;
+    for (size_t k = q + 1; k < text.size(); ++k) {
+      if (text[k] == '"') {
+        if (k + 1 < text.size() && text[k + 1] == '"') {
+          raw += '"';
+          ++k;
+          continue;
+        }
+        return;
+      }
+      raw += text[k];
+    }
+  };
+  std::string_view first = lines[*index];
+  size_t eq = first.find('=');
+  takePiece(eq == std::string_view::npos ? first : first.substr(eq + 1));
+  while (*index + 1 < lines.size()) {
+    std::string_view next = Trim(lines[*index + 1]);
+    if (next.empty() || next[0] != '"') break;
+    takePiece(next);
+    ++*index;
+  }
+  std::string out;
+  for (size_t k = 0; k < raw.size(); ++k) {
+    if (raw.compare(k, 4, "\\015") == 0) {
+      out += '\r';
+      k += 3;
+    } else if (raw.compare(k, 4, "\\012") == 0) {
+      out += '\n';
+      k += 3;
+    } else {
+      out += raw[k];
+    }
+  }
+  return out;
+}
+
+int QueryTypeOfSql(std::string_view sql) {
+  std::string_view s = Trim(sql);
+  while (!s.empty() && (s[0] == '\r' || s[0] == '\n' || s[0] == '(')) s = Trim(s.substr(1));
+  if (IStartsWith(s, "PARAMETERS")) {
+    size_t semi = s.find(';');
+    if (semi != std::string_view::npos) s = s.substr(semi + 1);
+    while (!s.empty() && (s[0] == '\r' || s[0] == '\n' || s[0] == ' ' || s[0] == '\t'))
+      s.remove_prefix(1);
+  }
+  for (const auto& v : kVerbTypes)
+    if (FindWord(s, v.Verb) == 0) return v.Type;
+  if (FindWord(s, "SELECT") == 0) {
+    if (FindWord(s, "UNION") != std::string_view::npos) return kDbQSetOperation;
+    size_t into = FindWord(s, "INTO");
+    size_t from = FindWord(s, "FROM");
+    if (into != std::string_view::npos && (from == std::string_view::npos || into < from))
+      return kDbQMakeTable;
+  }
+  return kDbQSelect;
+}
+
+int QueryTypeOf(int operation, std::string_view sql) {
+  for (const auto& o : kOperationTypes)
+    if (o.Operation == operation) return o.Type;
+  return QueryTypeOfSql(sql);
+}
+
+QueryExport QueryFromExport(const std::vector<std::string>& lines, std::string* note) {
+  QueryExport out;
+  Grid g;
+  bool hasGrid = false;
+  for (size_t i = 0; i < lines.size(); ++i) {
+    std::string_view t = Trim(lines[i]);
+    if (IStartsWith(t, "dbMemo \"SQL\"")) {
+      out.Sql = QuotedValueAt(lines, &i);
+      continue;
+    }
+    if (IStartsWith(t, "Begin ")) {
+      std::string block(Trim(t.substr(6)));
+      hasGrid = true;
+      ReadBlock(lines, &i, block, &g);
+      continue;
+    }
+    std::string key = KeyOf(t);
+    if (key == "Operation") g.Operation = std::atoi(NumberText(t).c_str());
+    if (key == "Option") g.Option = std::atoi(NumberText(t).c_str());
+    if (key == "Where") g.Where = QuotedValueAt(lines, &i);
+    if (key == "Having") g.Having = QuotedValueAt(lines, &i);
+  }
+  out.Operation = g.Operation;
+  while (!out.Sql.empty() && (out.Sql.back() == '\n' || out.Sql.back() == '\r')) out.Sql.pop_back();
+  if (!out.Sql.empty() || !hasGrid) return out;
+  if (g.Operation == 1 || g.Operation == 0) {
+    out.Sql = SelectSql(g);
+    out.FromGrid = true;
+  } else if (g.Operation == 5) {
+    out.Sql = DeleteSql(g);
+    out.FromGrid = true;
+  } else if (note) {
+    *note =
+        "no SQL text, and a grid of operation " + std::to_string(g.Operation) + " is not rebuilt";
+  }
+  return out;
+}
+
+}  // namespace morvane

@@ -1,0 +1,54 @@
+// Small text primitives of the source tree reader: ASCII case folding and
+// trimming over Windows-1252 text. (The platform layer sits below the naming
+// helpers of the session, so it keeps its own.)
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace morvane::source_text {
+
+inline char Fold(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; }
+
+inline bool IEquals(std::string_view a, std::string_view b) {
+  if (a.size() != b.size()) return false;
+  for (size_t i = 0; i < a.size(); ++i)
+    if (Fold(a[i]) != Fold(b[i])) return false;
+  return true;
+}
+
+inline bool IStartsWith(std::string_view text, std::string_view prefix) {
+  return text.size() >= prefix.size() && IEquals(text.substr(0, prefix.size()), prefix);
+}
+
+inline bool IEndsWith(std::string_view text, std::string_view suffix) {
+  return text.size() >= suffix.size() && IEquals(text.substr(text.size() - suffix.size()), suffix);
+}
+
+inline std::string Lower(std::string_view text) {
+  std::string out(text);
+  for (char& c : out) c = Fold(c);
+  return out;
+}
+
+// Blanks and tabs off both ends.
+inline std::string_view Trim(std::string_view text) {
+  size_t b = text.find_first_not_of(" \t");
+  if (b == std::string_view::npos) return {};
+  size_t e = text.find_last_not_of(" \t");
+  return text.substr(b, e - b + 1);
+}
+
+// Case-insensitive ordering, ties broken by the bytes so the order is total.
+inline bool LessNoCase(std::string_view a, std::string_view b) {
+  size_t n = a.size() < b.size() ? a.size() : b.size();
+  for (size_t i = 0; i < n; ++i) {
+    unsigned char x = static_cast<unsigned char>(Fold(a[i]));
+    unsigned char y = static_cast<unsigned char>(Fold(b[i]));
+    if (x != y) return x < y;
+  }
+  if (a.size() != b.size()) return a.size() < b.size();
+  return a < b;
+}
+
+}  // namespace morvane::source_text

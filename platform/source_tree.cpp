@@ -1,0 +1,448 @@
+// The source tree over a directory of exports: discovery at Open (every file
+// read once, its kind taken from its content), then module code, macro text
+// and the catalog served from the files on demand.
+#include "platform/source_tree.h"
+
+#include <algorithm>
+#include <fstream>
+#include <map>
+
+#include "platform/encoding.h"
+#include "platform/source_discovery.h"
+#include "platform/source_metadata.h"
+#include "platform/source_module.h"
+#include "platform/source_query.h"
+#include "platform/source_text.h"
+#include "platform/text_file.h"
+
+namespace morvane {
+
+namespace fs = std::filesystem;
+using source_text::IEquals;
+using source_text::IStartsWith;
+using source_text::LessNoCase;
+using source_text::Lower;
+
+std::vector<std::string> SourceTree::Names(AccessObjectKind kind) const {
+  std::vector<std::string> names;
+  for (const auto& o : Objects())
+    if (o.Kind == kind) names.push_back(o.Name);
+  std::sort(names.begin(), names.end(),
+            [](const std::string& a, const std::string& b) { return LessNoCase(a, b); });
+  return names;
+}
+
+const SourceObject* SourceTree::Find(AccessObjectKind kind, const std::string& name) const {
+  for (const auto& o : Objects())
+    if (o.Kind == kind && IEquals(o.Name, name)) return &o;
+  return nullptr;
+}
+
+namespace {
+
+constexpr size_t kBinaryProbeBytes = 4096;
+
+const char* KindWord(AccessObjectKind kind) {
+  switch (kind) {
+    case AccessObjectKind::Form:
+      return "form";
+    case AccessObjectKind::Report:
+      return "report";
+    case AccessObjectKind::Macro:
+      return "macro";
+    case AccessObjectKind::Module:
+      return "module";
+    case AccessObjectKind::Query:
+      return "query";
+  }
+  return "object";
+}
+
+bool ObjectKindOf(ExportKind e, AccessObjectKind* kind) {
+  switch (e) {
+    case ExportKind::Form:
+      *kind = AccessObjectKind::Form;
+      return true;
+    case ExportKind::Report:
+      *kind = AccessObjectKind::Report;
+      return true;
+    case ExportKind::Macro:
+      *kind = AccessObjectKind::Macro;
+      return true;
+    case ExportKind::StandardModule:
+    case ExportKind::ClassModule:
+      *kind = AccessObjectKind::Module;
+      return true;
+    case ExportKind::Query:
+    case ExportKind::Sql:
+      *kind = AccessObjectKind::Query;
+      return true;
+    case ExportKind::None:
+      break;
+  }
+  return false;
+}
+
+// One export file as discovery read it.
+struct FoundFile {
+  fs::path File;
+  ExportKind Kind = ExportKind::None;
+  std::string Stem;     // object name from the file name, prefix kept
+  std::string VbName;   // modules: Attribute VB_Name
+  QueryExport Query;    // queries
+  std::string SqlText;  // .sql files
+};
+
+class DirectorySourceTree : public SourceTree {
+ public:
+  bool Read(const fs::path& dir, const std::string& layout, std::string* err);
+
+  const fs::path& Root() const override { return root_; }
+  const std::vector<SourceObject>& Objects() const override { return objects_; }
+  bool LoadModule(AccessObjectKind kind, const std::string& name, ModuleCode* out,
+                  std::string* err) const override;
+  bool LoadMacroText(const std::string& name, std::vector<std::string>* lines,
+                     std::string* err) const override;
+  std::unique_ptr<MemoryCatalog> BuildCatalog() const override;
+  const std::vector<std::string>& Warnings() const override { return warnings_; }
+  std::string Layout() const override { return layout_; }
+
+ private:
+  bool Admit(const fs::path& file, const LayoutRule* forced);
+  void ReadFile(const fs::path& file, const LayoutRule* forced);
+  void ReadMetadata(const fs::path& file, MetadataKind kind);
+  bool AddObject(AccessObjectKind kind, const std::string& name, const fs::path& file,
+                 std::string* err);
+  bool AttachCode(const FoundFile& f, std::string* err);
+  bool Resolve(std::string* err);
+  void Warn(const fs::path& file, const std::string& message) {
+    warnings_.push_back(file.string() + ": " + message);
+  }
+
+  fs::path root_;
+  std::string layout_;
+  std::vector<FoundFile> found_;
+  std::vector<SourceObject> objects_;
+  std::map<std::string, QueryInfo> queries_;  // by lower-case name
+  std::map<std::string, std::string> properties_;
+  std::vector<ReferenceInfo> references_;
+  std::vector<std::string> warnings_;
+};
+
+// Forced layouts admit only the files their shape holds.
+bool DirectorySourceTree::Admit(const fs::path& file, const LayoutRule* forced) {
+  if (!forced) return true;
+  std::string ext = "|" + Lower(file.extension().string()) + "|";
+  if (!forced->Extensions.empty() && forced->Extensions.find(ext) == std::string_view::npos)
+    return false;
+  if (forced->KindFolders) {
+    fs::path rel = file.lexically_relative(root_);
+    AccessObjectKind kind;
+    if (std::distance(rel.begin(), rel.end()) < 2 || !KindOfFolder(rel.begin()->string(), &kind))
+      return false;
+  }
+  return true;
+}
+
+void DirectorySourceTree::ReadMetadata(const fs::path& file, MetadataKind kind) {
+  std::vector<std::string> lines;
+  std::string err;
+  if (!ReadExportLines(file, &lines, &err)) {
+    warnings_.push_back(err);
+    return;
+  }
+  std::string text = JoinCrLf(lines);
+  bool json = IEquals(file.extension().string(), ".json");
+  bool ok = kind == MetadataKind::Properties ? ParseProperties(text, json, &properties_, &err)
+                                             : ParseReferences(text, json, &references_, &err);
+  if (!ok) Warn(file, err + "; not used");
+}
+
+void DirectorySourceTree::ReadFile(const fs::path& file, const LayoutRule* forced) {
+  std::string ext = Lower(file.extension().string());
+  if (MetadataKind meta = MetadataKindOf(file); meta != MetadataKind::None) {
+    ReadMetadata(file, meta);
+    return;
+  }
+  if (!Admit(file, forced) || IsQuietlySkipped(ext)) return;
+
+  std::string bytes;
+  {
+    std::ifstream in(file, std::ios::binary);
+    if (!in) {
+      Warn(file, "cannot be read; skipped");
+      return;
+    }
+    bytes.resize(kBinaryProbeBytes);
+    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    bytes.resize(static_cast<size_t>(in.gcount()));
+    if (LooksBinary(bytes)) {
+      Warn(file, "binary file, not an Access export; skipped");
+      return;
+    }
+  }
+  std::string err;
+  if (!ReadFileBytes(file, &bytes, &err)) {
+    Warn(file, "cannot be read; skipped");
+    return;
+  }
+  DecodedText text;
+  switch (DecodeToWindows1252(bytes, &text, &err)) {
+    case DecodeStatus::Binary:
+      Warn(file, "binary file, not an Access export; skipped");
+      return;
+    case DecodeStatus::Invalid:
+      Warn(file, err + "; skipped");
+      return;
+    case DecodeStatus::Ok:
+      break;
+  }
+  std::vector<std::string> lines = SplitLines(text.Text);
+  FoundFile f;
+  f.File = file;
+  f.Kind = ClassifyExport(lines, ext);
+  if (f.Kind == ExportKind::None) {
+    if (IsExportExtension(ext)) Warn(file, "not an Access export; skipped");
+    return;
+  }
+  if (text.Unmappable > 0)
+    warnings_.push_back(file.string() + ", line " + std::to_string(text.FirstUnmappableLine) +
+                        ": " + std::to_string(text.Unmappable) +
+                        " character(s) with no Windows-1252 form became \"?\"");
+  if (forced && forced->KindFolders) {
+    AccessObjectKind folderKind, contentKind;
+    KindOfFolder(file.lexically_relative(root_).begin()->string(), &folderKind);
+    ObjectKindOf(f.Kind, &contentKind);
+    bool codeBehind =
+        contentKind == AccessObjectKind::Module &&
+        (folderKind == AccessObjectKind::Form || folderKind == AccessObjectKind::Report);
+    if (folderKind != contentKind && !codeBehind) {
+      Warn(file, std::string("holds a ") + KindWord(contentKind) + " but lies in a folder of " +
+                     KindWord(folderKind) + "s; skipped");
+      return;
+    }
+  }
+  f.Stem = NameFromFileName(file);
+  if (f.Kind == ExportKind::StandardModule || f.Kind == ExportKind::ClassModule)
+    ModuleFromExport(lines, &f.VbName);
+  if (f.Kind == ExportKind::Query) {
+    std::string note;
+    f.Query = QueryFromExport(lines, &note);
+    if (!note.empty()) Warn(file, note);
+  }
+  if (f.Kind == ExportKind::Sql) f.SqlText = text.Text;
+  found_.push_back(std::move(f));
+}
+
+bool DirectorySourceTree::AddObject(AccessObjectKind kind, const std::string& name,
+                                    const fs::path& file, std::string* err) {
+  if (const SourceObject* other = Find(kind, name)) {
+    if (err)
+      *err = std::string("two files give the ") + KindWord(kind) + " \"" + name +
+             "\": " + other->File.string() + " and " + file.string();
+    return false;
+  }
+  SourceObject o;
+  o.Kind = kind;
+  o.Name = name;
+  o.File = file;
+  objects_.push_back(std::move(o));
+  return true;
+}
+
+// A module file that is the code behind of a form or report: the same name
+// beside the design text (X.cls next to X.form), or Form_X / Report_X.
+bool DirectorySourceTree::AttachCode(const FoundFile& f, std::string* err) {
+  SourceObject* owner = nullptr;
+  for (auto& o : objects_) {
+    if (o.Kind != AccessObjectKind::Form && o.Kind != AccessObjectKind::Report) continue;
+    bool beside = o.File.parent_path() == f.File.parent_path() &&
+                  IEquals(NameFromFileName(o.File), f.Stem) && o.File != f.File;
+    const char* prefix = o.Kind == AccessObjectKind::Form ? "Form_" : "Report_";
+    bool named = false;
+    for (const std::string& n : {f.VbName, f.Stem})
+      if (IStartsWith(n, prefix) && IEquals(n.substr(std::string(prefix).size()), o.Name))
+        named = true;
+    if (beside || named) {
+      owner = &o;
+      break;
+    }
+  }
+  if (!owner) return false;
+  if (!owner->CodeFile.empty()) {
+    if (err)
+      *err = std::string("two files give the code of the ") + KindWord(owner->Kind) + " \"" +
+             owner->Name + "\": " + owner->CodeFile.string() + " and " + f.File.string();
+    return true;
+  }
+  owner->CodeFile = f.File;
+  return true;
+}
+
+bool DirectorySourceTree::Resolve(std::string* err) {
+  std::sort(found_.begin(), found_.end(),
+            [](const FoundFile& a, const FoundFile& b) { return a.File < b.File; });
+  // Design texts and queries first, so that code files and .sql files find
+  // the object they belong to.
+  for (const auto& f : found_) {
+    AccessObjectKind kind;
+    if (f.Kind == ExportKind::StandardModule || f.Kind == ExportKind::ClassModule ||
+        f.Kind == ExportKind::Sql || !ObjectKindOf(f.Kind, &kind))
+      continue;
+    std::string name = StripKindPrefix(f.Stem, kind);
+    if (!AddObject(kind, name, f.File, err)) return false;
+    if (kind == AccessObjectKind::Query) {
+      QueryInfo q{name, f.Query.Sql, QueryTypeOf(f.Query.Operation, f.Query.Sql)};
+      queries_[Lower(name)] = q;
+    }
+  }
+  for (const auto& f : found_) {
+    if (f.Kind != ExportKind::StandardModule && f.Kind != ExportKind::ClassModule) continue;
+    std::string dupErr;
+    if (AttachCode(f, &dupErr)) {
+      if (!dupErr.empty()) {
+        if (err) *err = dupErr;
+        return false;
+      }
+      continue;
+    }
+    std::string name =
+        !f.VbName.empty() ? f.VbName : StripKindPrefix(f.Stem, AccessObjectKind::Module);
+    if (IStartsWith(name, "Form_") || IStartsWith(name, "Report_")) {
+      Warn(f.File, "code behind of \"" + name.substr(name.find('_') + 1) +
+                       "\", which the tree does not hold; skipped");
+      continue;
+    }
+    if (!AddObject(AccessObjectKind::Module, name, f.File, err)) return false;
+  }
+  for (const auto& f : found_) {
+    if (f.Kind != ExportKind::Sql) continue;
+    std::string name = StripKindPrefix(f.Stem, AccessObjectKind::Query);
+    std::string sql = f.SqlText;
+    while (!sql.empty() && (sql.back() == '\n' || sql.back() == '\r')) sql.pop_back();
+    auto it = queries_.find(Lower(name));
+    SourceObject* owner = nullptr;
+    for (auto& o : objects_)
+      if (o.Kind == AccessObjectKind::Query && IEquals(o.Name, name)) owner = &o;
+    if (owner && owner->CodeFile.empty()) {
+      // The SQL beside the design is the query's text unless the export
+      // already carried it.
+      owner->CodeFile = f.File;
+      QueryInfo& q = it->second;
+      const FoundFile* design = nullptr;
+      for (const auto& g : found_)
+        if (g.File == owner->File) design = &g;
+      if (q.Sql.empty() || (design && design->Query.FromGrid)) {
+        q.Sql = sql;
+        q.Type = QueryTypeOf(design ? design->Query.Operation : 0, sql);
+      }
+      continue;
+    }
+    if (!AddObject(AccessObjectKind::Query, name, f.File, err)) return false;
+    queries_[Lower(name)] = QueryInfo{name, sql, QueryTypeOfSql(sql)};
+  }
+  found_.clear();
+  return true;
+}
+
+bool DirectorySourceTree::Read(const fs::path& dir, const std::string& layout, std::string* err) {
+  std::error_code ec;
+  if (!fs::is_directory(dir, ec)) {
+    if (err) *err = dir.string() + ": no such directory";
+    return false;
+  }
+  root_ = dir;
+  const LayoutRule* forced = nullptr;
+  if (layout.empty() || IEquals(layout, "auto")) {
+    layout_ = std::string(DetectLayout(dir).Name);
+  } else {
+    forced = FindLayout(layout);
+    if (!forced) {
+      if (err) *err = "unknown layout \"" + layout + "\" (known: " + LayoutNames() + ")";
+      return false;
+    }
+    layout_ = std::string(forced->Name);
+  }
+
+  bool recurse = !forced || forced->Recurse;
+  auto visit = [&](const fs::directory_entry& entry) {
+    if (entry.is_regular_file(ec)) ReadFile(entry.path(), forced);
+  };
+  if (recurse) {
+    fs::recursive_directory_iterator it(dir, fs::directory_options::skip_permission_denied, ec);
+    for (; !ec && it != fs::recursive_directory_iterator(); it.increment(ec)) {
+      if (it->path().filename().string().starts_with(".")) {
+        if (it->is_directory(ec)) it.disable_recursion_pending();
+        continue;
+      }
+      visit(*it);
+    }
+  } else {
+    for (const auto& entry : fs::directory_iterator(dir, ec))
+      if (!entry.path().filename().string().starts_with(".")) visit(entry);
+  }
+  if (ec) Warn(dir, "not fully read: " + ec.message());
+  if (!Resolve(err)) return false;
+  if (objects_.empty()) {
+    if (err) *err = dir.string() + ": no Access exports found (layout " + layout_ + ")";
+    return false;
+  }
+  return true;
+}
+
+bool DirectorySourceTree::LoadModule(AccessObjectKind kind, const std::string& name,
+                                     ModuleCode* out, std::string* err) const {
+  const SourceObject* o = Find(kind, name);
+  if (!o || kind == AccessObjectKind::Macro || kind == AccessObjectKind::Query) {
+    if (err) *err = std::string("no ") + KindWord(kind) + " module \"" + name + "\" in the tree";
+    return false;
+  }
+  std::vector<std::string> lines;
+  if (!ReadExportLines(o->CodeFile.empty() ? o->File : o->CodeFile, &lines, err)) return false;
+  if (kind == AccessObjectKind::Module) {
+    *out = ModuleFromExport(lines, nullptr);
+  } else if (!o->CodeFile.empty()) {
+    *out = ModuleFromExport(lines, nullptr);
+    out->Type = 1;
+  } else {
+    *out = CodeBehindFromDesign(lines);
+  }
+  return true;
+}
+
+bool DirectorySourceTree::LoadMacroText(const std::string& name, std::vector<std::string>* lines,
+                                        std::string* err) const {
+  const SourceObject* o = Find(AccessObjectKind::Macro, name);
+  if (!o) {
+    if (err) *err = "no macro \"" + name + "\" in the tree";
+    return false;
+  }
+  return ReadExportLines(o->File, lines, err);
+}
+
+std::unique_ptr<MemoryCatalog> DirectorySourceTree::BuildCatalog() const {
+  auto catalog = std::make_unique<MemoryCatalog>();
+  catalog->Containers["Forms"] = Names(AccessObjectKind::Form);
+  catalog->Containers["Reports"] = Names(AccessObjectKind::Report);
+  catalog->Containers["Scripts"] = Names(AccessObjectKind::Macro);
+  catalog->Containers["Modules"] = Names(AccessObjectKind::Module);
+  for (const auto& name : Names(AccessObjectKind::Query)) {
+    if (IStartsWith(name, "~sq_")) continue;
+    auto it = queries_.find(Lower(name));
+    if (it != queries_.end()) catalog->Queries.push_back(it->second);
+  }
+  catalog->Properties = properties_;
+  catalog->Refs = references_;
+  return catalog;
+}
+
+}  // namespace
+
+std::unique_ptr<SourceTree> SourceTree::Open(const fs::path& dir, const std::string& layout,
+                                             std::string* err) {
+  auto tree = std::make_unique<DirectorySourceTree>();
+  if (!tree->Read(dir, layout, err)) return nullptr;
+  return tree;
+}
+
+}  // namespace morvane
