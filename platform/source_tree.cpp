@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <fstream>
 #include <map>
+#include <set>
 
 #include "platform/encoding.h"
 #include "platform/source_discovery.h"
@@ -87,10 +88,17 @@ bool ObjectKindOf(ExportKind e, AccessObjectKind* kind) {
 struct FoundFile {
   fs::path File;
   ExportKind Kind = ExportKind::None;
-  std::string Stem;     // object name from the file name, prefix kept
-  std::string VbName;   // modules: Attribute VB_Name
-  QueryExport Query;    // queries
-  std::string SqlText;  // .sql files
+  std::string Stem;         // object name from the file name, prefix kept
+  std::string VbName;       // modules: Attribute VB_Name
+  QueryExport Query;        // queries
+  std::string SqlText;      // .sql files
+  bool CodeBehind = false;  // forms and reports: code after CodeBehindForm
+};
+
+struct TreeQuery {
+  QueryInfo Info;
+  bool FromGrid = false;
+  int Operation = 0;
 };
 
 class DirectorySourceTree : public SourceTree {
@@ -113,6 +121,7 @@ class DirectorySourceTree : public SourceTree {
   void ReadMetadata(const fs::path& file, MetadataKind kind);
   bool AddObject(AccessObjectKind kind, const std::string& name, const fs::path& file,
                  std::string* err);
+  SourceObject* Indexed(AccessObjectKind kind, const std::string& name);
   bool AttachCode(const FoundFile& f, std::string* err);
   bool Resolve(std::string* err);
   void Warn(const fs::path& file, const std::string& message) {
@@ -123,7 +132,12 @@ class DirectorySourceTree : public SourceTree {
   std::string layout_;
   std::vector<FoundFile> found_;
   std::vector<SourceObject> objects_;
-  std::map<std::string, QueryInfo> queries_;  // by lower-case name
+  std::map<std::string, size_t> index_;       // "kind:lower-case name" -> objects_
+  std::map<std::string, TreeQuery> queries_;  // by lower-case name
+  // While resolving: designs by "folder/lower-case stem", and the designs
+  // that carry their own code.
+  std::map<std::string, size_t> besideDesign_;
+  std::set<std::string> withCodeBehind_;
   std::map<std::string, std::string> properties_;
   std::vector<ReferenceInfo> references_;
   std::vector<std::string> warnings_;
@@ -231,15 +245,21 @@ void DirectorySourceTree::ReadFile(const fs::path& file, const LayoutRule* force
     if (!note.empty()) Warn(file, note);
   }
   if (f.Kind == ExportKind::Sql) f.SqlText = text.Text;
+  if (f.Kind == ExportKind::Form || f.Kind == ExportKind::Report) {
+    ModuleCode code = CodeBehindFromDesign(lines);
+    f.CodeBehind = code.CountOfLines() > 0;
+  }
   found_.push_back(std::move(f));
 }
 
 bool DirectorySourceTree::AddObject(AccessObjectKind kind, const std::string& name,
                                     const fs::path& file, std::string* err) {
-  if (const SourceObject* other = Find(kind, name)) {
+  std::string key = std::to_string(static_cast<int>(kind)) + ":" + Lower(name);
+  auto [it, added] = index_.emplace(key, objects_.size());
+  if (!added) {
     if (err)
       *err = std::string("two files give the ") + KindWord(kind) + " \"" + name +
-             "\": " + other->File.string() + " and " + file.string();
+             "\": " + objects_[it->second].File.string() + " and " + file.string();
     return false;
   }
   SourceObject o;
@@ -250,23 +270,22 @@ bool DirectorySourceTree::AddObject(AccessObjectKind kind, const std::string& na
   return true;
 }
 
+SourceObject* DirectorySourceTree::Indexed(AccessObjectKind kind, const std::string& name) {
+  auto it = index_.find(std::to_string(static_cast<int>(kind)) + ":" + Lower(name));
+  return it == index_.end() ? nullptr : &objects_[it->second];
+}
+
 // A module file that is the code behind of a form or report: the same name
-// beside the design text (X.cls next to X.form), or Form_X / Report_X.
+// beside the design text (X.cls next to X.form), or Form_X / Report_X. False
+// when the file belongs to no form or report.
 bool DirectorySourceTree::AttachCode(const FoundFile& f, std::string* err) {
   SourceObject* owner = nullptr;
-  for (auto& o : objects_) {
-    if (o.Kind != AccessObjectKind::Form && o.Kind != AccessObjectKind::Report) continue;
-    bool beside = o.File.parent_path() == f.File.parent_path() &&
-                  IEquals(NameFromFileName(o.File), f.Stem) && o.File != f.File;
-    const char* prefix = o.Kind == AccessObjectKind::Form ? "Form_" : "Report_";
-    bool named = false;
-    for (const std::string& n : {f.VbName, f.Stem})
-      if (IStartsWith(n, prefix) && IEquals(n.substr(std::string(prefix).size()), o.Name))
-        named = true;
-    if (beside || named) {
-      owner = &o;
-      break;
-    }
+  auto beside = besideDesign_.find(f.File.parent_path().string() + "/" + Lower(f.Stem));
+  if (beside != besideDesign_.end()) owner = &objects_[beside->second];
+  for (const std::string& n : {f.VbName, f.Stem}) {
+    if (owner) break;
+    if (IStartsWith(n, "Form_")) owner = Indexed(AccessObjectKind::Form, n.substr(5));
+    if (!owner && IStartsWith(n, "Report_")) owner = Indexed(AccessObjectKind::Report, n.substr(7));
   }
   if (!owner) return false;
   if (!owner->CodeFile.empty()) {
@@ -276,6 +295,9 @@ bool DirectorySourceTree::AttachCode(const FoundFile& f, std::string* err) {
     return true;
   }
   owner->CodeFile = f.File;
+  if (withCodeBehind_.count(owner->File.string()))
+    Warn(owner->File, "has code after CodeBehindForm and a code file beside it; the code of " +
+                          f.File.string() + " is used");
   return true;
 }
 
@@ -291,10 +313,15 @@ bool DirectorySourceTree::Resolve(std::string* err) {
       continue;
     std::string name = StripKindPrefix(f.Stem, kind);
     if (!AddObject(kind, name, f.File, err)) return false;
-    if (kind == AccessObjectKind::Query) {
-      QueryInfo q{name, f.Query.Sql, QueryTypeOf(f.Query.Operation, f.Query.Sql)};
-      queries_[Lower(name)] = q;
+    if (kind == AccessObjectKind::Form || kind == AccessObjectKind::Report) {
+      besideDesign_.emplace(f.File.parent_path().string() + "/" + Lower(f.Stem),
+                            objects_.size() - 1);
+      if (f.CodeBehind) withCodeBehind_.insert(f.File.string());
     }
+    if (kind == AccessObjectKind::Query)
+      queries_[Lower(name)] = {
+          QueryInfo{name, f.Query.Sql, QueryTypeOf(f.Query.Operation, f.Query.Sql)},
+          f.Query.FromGrid, f.Query.Operation};
   }
   for (const auto& f : found_) {
     if (f.Kind != ExportKind::StandardModule && f.Kind != ExportKind::ClassModule) continue;
@@ -320,28 +347,24 @@ bool DirectorySourceTree::Resolve(std::string* err) {
     std::string name = StripKindPrefix(f.Stem, AccessObjectKind::Query);
     std::string sql = f.SqlText;
     while (!sql.empty() && (sql.back() == '\n' || sql.back() == '\r')) sql.pop_back();
-    auto it = queries_.find(Lower(name));
-    SourceObject* owner = nullptr;
-    for (auto& o : objects_)
-      if (o.Kind == AccessObjectKind::Query && IEquals(o.Name, name)) owner = &o;
-    if (owner && owner->CodeFile.empty()) {
+    SourceObject* owner = Indexed(AccessObjectKind::Query, name);
+    if (owner && owner->CodeFile.empty() && owner->File.parent_path() == f.File.parent_path()) {
       // The SQL beside the design is the query's text unless the export
-      // already carried it.
+      // carried its own.
       owner->CodeFile = f.File;
-      QueryInfo& q = it->second;
-      const FoundFile* design = nullptr;
-      for (const auto& g : found_)
-        if (g.File == owner->File) design = &g;
-      if (q.Sql.empty() || (design && design->Query.FromGrid)) {
-        q.Sql = sql;
-        q.Type = QueryTypeOf(design ? design->Query.Operation : 0, sql);
+      TreeQuery& q = queries_[Lower(name)];
+      if (q.Info.Sql.empty() || q.FromGrid) {
+        q.Info.Sql = sql;
+        q.Info.Type = QueryTypeOf(q.Operation, sql);
       }
       continue;
     }
     if (!AddObject(AccessObjectKind::Query, name, f.File, err)) return false;
-    queries_[Lower(name)] = QueryInfo{name, sql, QueryTypeOfSql(sql)};
+    queries_[Lower(name)] = {QueryInfo{name, sql, QueryTypeOfSql(sql)}, false, 0};
   }
   found_.clear();
+  besideDesign_.clear();
+  withCodeBehind_.clear();
   return true;
 }
 
@@ -429,7 +452,7 @@ std::unique_ptr<MemoryCatalog> DirectorySourceTree::BuildCatalog() const {
   for (const auto& name : Names(AccessObjectKind::Query)) {
     if (IStartsWith(name, "~sq_")) continue;
     auto it = queries_.find(Lower(name));
-    if (it != queries_.end()) catalog->Queries.push_back(it->second);
+    if (it != queries_.end()) catalog->Queries.push_back(it->second.Info);
   }
   catalog->Properties = properties_;
   catalog->Refs = references_;

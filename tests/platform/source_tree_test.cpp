@@ -225,6 +225,68 @@ TEST(SourceTreeTest, FolderTreeWithCodeFilesSqlAndMetadata) {
   EXPECT_EQ(code.CountOfDeclarationLines, 1);
 }
 
+TEST(SourceTreeTest, CodeFilesBesideDesignsLoseTheirHeaders) {
+  TempDir dir;
+  WriteFlatTree(dir);
+  WriteFile(dir / "Report_Sales.cls",
+            "VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1  'True\nEND\n"
+            "Attribute VB_Name = \"Report_Sales\"\nAttribute VB_Exposed = False\n"
+            "Option Explicit\nPrivate Sub Report_Open(Cancel As Integer)\nEnd Sub\n");
+  // A form that has code after CodeBehindForm and a code file as well.
+  WriteFile(dir / "Form_Customers.cls", "Option Explicit\n");
+  auto tree = OpenOk(dir.path());
+  ASSERT_TRUE(tree);
+  EXPECT_EQ(tree->Names(AccessObjectKind::Module),
+            (std::vector<std::string>{"basUtils", "clsCounter"}));
+  ModuleCode code;
+  std::string err;
+  ASSERT_TRUE(tree->LoadModule(AccessObjectKind::Report, "Sales", &code, &err)) << err;
+  EXPECT_EQ(code.Type, 1);
+  EXPECT_EQ(code.Lines(1, code.CountOfLines()),
+            "Option Explicit\r\nPrivate Sub Report_Open(Cancel As Integer)\r\nEnd Sub");
+  EXPECT_EQ(code.CountOfDeclarationLines, 1);
+  ASSERT_TRUE(tree->LoadModule(AccessObjectKind::Form, "Customers", &code, &err)) << err;
+  EXPECT_EQ(code.Code, std::vector<std::string>{"Option Explicit"});
+  EXPECT_TRUE(AnyWarningHas(*tree, "Form_Customers.txt", "CodeBehindForm"));
+
+  // Code behind of a form the tree does not hold is no module.
+  WriteFile(dir / "Form_Gone.cls", "Attribute VB_Name = \"Form_Gone\"\nOption Explicit\n");
+  tree = OpenOk(dir.path());
+  ASSERT_TRUE(tree);
+  EXPECT_FALSE(tree->Find(AccessObjectKind::Module, "Form_Gone"));
+  EXPECT_TRUE(AnyWarningHas(*tree, "Form_Gone.cls", "Gone"));
+}
+
+TEST(SourceTreeTest, PropertiesAndReferencesFromTextFiles) {
+  TempDir dir;
+  WriteFile(dir / "Form_Main.txt", "Version =20\nBegin Form\nEnd\n");
+  WriteFile(dir / "properties.txt",
+            "# database properties\nStartupForm = \"Main\"\nAppTitle: Orders: 2003\n");
+  WriteFile(dir / "references.txt",
+            "VBA {000204EF-0000-0000-C000-000000000046} 4 0\n"
+            "Access;{4AFFC9A0-5F99-101B-AF4E-00AA003F0F07};9.0\n"
+            "no reference on this line\n");
+  auto tree = OpenOk(dir.path());
+  ASSERT_TRUE(tree);
+  EXPECT_TRUE(tree->Warnings().empty()) << tree->Warnings()[0];
+  auto catalog = tree->BuildCatalog();
+  EXPECT_EQ(catalog->Property("startupform").value_or(""), "Main");
+  EXPECT_EQ(catalog->Property("AppTitle").value_or(""), "Orders: 2003");
+  EXPECT_FALSE(catalog->Property("Missing"));
+  ASSERT_EQ(catalog->References().size(), 2u);
+  EXPECT_EQ(catalog->References()[0].Name, "VBA");
+  EXPECT_EQ(catalog->References()[0].Major, 4);
+  EXPECT_EQ(catalog->References()[1].Name, "Access");
+  EXPECT_EQ(catalog->References()[1].Guid, "{4AFFC9A0-5F99-101B-AF4E-00AA003F0F07}");
+  EXPECT_EQ(catalog->References()[1].Major, 9);
+  EXPECT_EQ(catalog->References()[1].Minor, 0);
+
+  WriteFile(dir / "dbs-properties.json", "{\"Items\": {\"StartupForm\": ");
+  tree = OpenOk(dir.path());
+  ASSERT_TRUE(tree);
+  EXPECT_TRUE(AnyWarningHas(*tree, "dbs-properties.json", "invalid JSON"));
+}
+
 TEST(SourceTreeTest, ForcedLayoutRestrictsDiscovery) {
   TempDir dir;
   WriteFile(dir / "Form_Top.txt", "Version =20\nBegin Form\nEnd\n");
