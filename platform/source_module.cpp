@@ -36,9 +36,12 @@ bool EatWord(std::string_view* text, std::string_view word) {
   return true;
 }
 
-bool IsCommentOrBlank(std::string_view line) {
+// Lines that go with the procedure below them: comments, blank lines and
+// compilation constants.
+bool LeadsProcedure(std::string_view line) {
   std::string_view t = Trim(line);
-  return t.empty() || t[0] == '\'' || IEquals(t, "Rem") || IStartsWith(t, "Rem ");
+  return t.empty() || t[0] == '\'' || IEquals(t, "Rem") || IStartsWith(t, "Rem ") ||
+         IStartsWith(t, "#Const ");
 }
 
 bool ContinuesOnNextLine(std::string_view line) {
@@ -83,7 +86,7 @@ int CountDeclarationLines(const std::vector<std::string>& code) {
     ++header;
   if (header == code.size()) return static_cast<int>(code.size());
   size_t start = header;
-  while (start > 0 && IsCommentOrBlank(code[start - 1]) &&
+  while (start > 0 && LeadsProcedure(code[start - 1]) &&
          !(start >= 2 && ContinuesOnNextLine(code[start - 2])))
     --start;
   return static_cast<int>(start);

@@ -15,10 +15,11 @@ namespace morvane {
 // Get/Let/Set, optionally after Public/Private/Friend and Static.
 bool IsProcedureHeader(std::string_view line);
 
-// The number of lines before the first procedure. Comment and blank lines
-// directly above the first procedure belong to it, not to the declarations,
-// as the VBA editor draws the procedure separator under the last declaration.
-// A module without procedures is all declarations.
+// The number of lines before the first procedure, as the VBA editor counts
+// them: a procedure begins with the comments and compilation constants that
+// immediately precede its header, and the editor draws the separator right
+// under the last declaration, so blank lines directly above go with the
+// procedure too. A module without procedures is all declarations.
 int CountDeclarationLines(const std::vector<std::string>& code);
 
 // A standard or class module's export. `vbName` receives the value of

@@ -7,8 +7,8 @@
 // Expression), `Begin Joins` (LeftTable, RightTable, Expression, Flag
 // 1 inner / 2 left / 3 right), `Begin OrderBy` (Expression, Flag 1 for
 // descending), `Begin Groups` (Expression, GroupLevel), and the lines
-// `Where =` and `Having =`. `Option =` carries flags: 2 DISTINCT,
-// 8 DISTINCTROW.
+// `Where =` and `Having =`. `Option =` is 2 for DISTINCT and 8 for
+// DISTINCTROW (1 and 3 mark UNION ALL and UNION).
 #include "platform/source_query.h"
 
 #include <cstdlib>
@@ -244,9 +244,9 @@ std::string SelectSql(const Grid& g) {
   for (const auto& c : g.Columns)
     cols.push_back(c.Alias.empty() ? c.Expression : c.Expression + " AS " + Bracketed(c.Alias));
   std::string sql = "SELECT ";
-  if (g.Option & kOptionDistinctRow)
+  if (g.Option == kOptionDistinctRow)
     sql += "DISTINCTROW ";
-  else if (g.Option & kOptionDistinct)
+  else if (g.Option == kOptionDistinct)
     sql += "DISTINCT ";
   sql += cols.empty() ? "*" : Joined(cols);
   sql += "\r\nFROM " + FromClause(g) + TailClauses(g) + ";";
@@ -257,7 +257,7 @@ std::string DeleteSql(const Grid& g) {
   std::vector<std::string> cols;
   for (const auto& c : g.Columns) cols.push_back(c.Expression);
   std::string sql = "DELETE ";
-  if (g.Option & kOptionDistinctRow) sql += "DISTINCTROW ";
+  if (g.Option == kOptionDistinctRow) sql += "DISTINCTROW ";
   sql += cols.empty() ? "*" : Joined(cols);
   return sql + "\r\nFROM " + FromClause(g) + TailClauses(g) + ";";
 }

@@ -430,6 +430,7 @@ TEST(SourceTreeTest, DeclarationLinesEndWhereTheFirstProcedureStarts) {
       {"empty", {}, 0},
       {"procedure first", {"Sub Main()", "End Sub"}, 0},
       {"comments and blanks above", {"Dim a", "", "' one", "Rem two", "", "Sub X()"}, 1},
+      {"compilation constant above", {"Dim a", "#Const Debugging = 1", "Sub X()"}, 1},
       {"scope and static", {"Dim a", "Private Static Function F()"}, 1},
       {"friend property", {"Dim a", "Friend Property Let P(v)"}, 1},
       {"declare is a declaration",
@@ -466,6 +467,45 @@ TEST(SourceTreeTest, QueriesFromSqlTextAndFromTheGrid) {
             "Shippers\r\n"
             "WHERE (((o.Total)>100))\r\n"
             "ORDER BY o.OrderID DESC;");
+}
+
+TEST(SourceTreeTest, GridsOfOtherShapes) {
+  struct Case {
+    const char* Label;
+    const char* Text;
+    const char* Sql;
+    bool Note;
+  };
+  const Case cases[] = {
+      {"distinct, grouped, no columns",
+       "Operation =1\nOption =2\nBegin InputTables\n Name =\"T\"\nEnd\n"
+       "Begin Groups\n Expression =\"T.a\"\n GroupLevel =0\nEnd\nHaving =\"Count(*)>1\"\n",
+       "SELECT DISTINCT *\r\nFROM T\r\nGROUP BY T.a\r\nHAVING Count(*)>1;", false},
+      {"union flag is no distinct",
+       "Operation =1\nOption =3\nBegin InputTables\n Name =\"T\"\nEnd\n", "SELECT *\r\nFROM T;",
+       false},
+      {"two joins nest",
+       "Operation =1\nBegin InputTables\n Name =\"A\"\n Name =\"B\"\n Name =\"C\"\nEnd\n"
+       "Begin Joins\n LeftTable =\"A\"\n RightTable =\"B\"\n Expression =\"A.x = B.x\"\n"
+       " Flag =1\n LeftTable =\"B\"\n RightTable =\"C\"\n Expression =\"B.y = C.y\"\n"
+       " Flag =3\nEnd\n",
+       "SELECT *\r\nFROM (A INNER JOIN B ON A.x = B.x) RIGHT JOIN C ON B.y = C.y;", false},
+      {"delete",
+       "Operation =5\nOption =8\nBegin InputTables\n Name =\"T\"\nEnd\nWhere =\"T.x=1\"\n",
+       "DELETE DISTINCTROW *\r\nFROM T\r\nWHERE T.x=1;", false},
+      {"update is not rebuilt", "Operation =4\nBegin InputTables\n Name =\"T\"\nEnd\n", "", true},
+  };
+  for (const auto& c : cases) {
+    std::string note;
+    std::vector<std::string> lines;
+    std::string text = c.Text;
+    size_t start = 0;
+    for (size_t nl; (nl = text.find('\n', start)) != std::string::npos; start = nl + 1)
+      lines.push_back(text.substr(start, nl - start));
+    QueryExport q = QueryFromExport(lines, &note);
+    EXPECT_EQ(q.Sql, c.Sql) << c.Label;
+    EXPECT_EQ(!note.empty(), c.Note) << c.Label << note;
+  }
 }
 
 TEST(SourceTreeTest, QueryTypeFromOperationOrVerb) {
