@@ -1,0 +1,211 @@
+// Whole-line edits on text files, and the re-indenter.
+//
+// Lines are compared whole, with leading and trailing blanks and tabs left
+// out and case ignored, since the files may already have been indented and
+// Visual Basic does not distinguish case. An anchor made of blanks only
+// stands for the top of the file: text placed behind it becomes the first
+// lines. Placement 0 puts the new text directly behind the anchor, so calls
+// on one anchor read in reverse order. Placement 1 on a procedure header puts
+// it ahead of the procedure's closing line, so calls keep their order; on any
+// other anchor it goes directly behind the anchor.
+#include "platform/line_editor.h"
+
+#include <algorithm>
+#include <cctype>
+#include <optional>
+#include <vector>
+
+#include "platform/text_file.h"
+
+namespace morvane {
+
+namespace {
+
+std::string Trim(const std::string& s) {
+  size_t b = s.find_first_not_of(" \t");
+  if (b == std::string::npos) return "";
+  size_t e = s.find_last_not_of(" \t");
+  return s.substr(b, e - b + 1);
+}
+
+bool SameNoCase(const std::string& a, const std::string& b) {
+  if (a.size() != b.size()) return false;
+  for (size_t i = 0; i < a.size(); ++i)
+    if (std::tolower(static_cast<unsigned char>(a[i])) !=
+        std::tolower(static_cast<unsigned char>(b[i])))
+      return false;
+  return true;
+}
+
+bool StartsNoCase(const std::string& s, const std::string& prefix) {
+  return s.size() >= prefix.size() && SameNoCase(s.substr(0, prefix.size()), prefix);
+}
+
+bool SameLine(const std::string& a, const std::string& b) { return SameNoCase(Trim(a), Trim(b)); }
+
+std::optional<std::vector<std::string>> Load(const std::filesystem::path& file) {
+  std::vector<std::string> lines;
+  if (!ReadTextLines(file, &lines, nullptr)) return std::nullopt;
+  return lines;
+}
+
+void Save(const std::filesystem::path& file, const std::vector<std::string>& lines) {
+  WriteTextLines(file, lines, nullptr);
+}
+
+std::optional<size_t> FindLine(const std::vector<std::string>& lines, const std::string& line,
+                               size_t from = 0) {
+  for (size_t i = from; i < lines.size(); ++i)
+    if (SameLine(lines[i], line)) return i;
+  return std::nullopt;
+}
+
+// Strips Public/Private/Friend/Static in front of a statement.
+std::string WithoutScope(std::string s) {
+  for (bool again = true; again;) {
+    again = false;
+    for (const char* scope : {"Public ", "Private ", "Friend ", "Static "}) {
+      if (StartsNoCase(s, scope)) {
+        s = Trim(s.substr(std::char_traits<char>::length(scope)));
+        again = true;
+      }
+    }
+  }
+  return s;
+}
+
+// "Sub", "Function" or "Property" when the line opens a procedure.
+std::string ProcedureKind(const std::string& line) {
+  std::string s = WithoutScope(Trim(line));
+  for (const char* kind : {"Sub", "Function", "Property"})
+    if (StartsNoCase(s, std::string(kind) + " ")) return kind;
+  return "";
+}
+
+bool IsProcedureEnd(const std::string& line) {
+  std::string s = Trim(line);
+  return SameNoCase(s, "End Sub") || SameNoCase(s, "End Function") ||
+         SameNoCase(s, "End Property") || StartsNoCase(s, "End Sub ") ||
+         StartsNoCase(s, "End Function ") || StartsNoCase(s, "End Property ");
+}
+
+}  // namespace
+
+int IsDuplicateLine(const std::filesystem::path& file, const std::string& line, int) {
+  auto lines = Load(file);
+  if (!lines) return 0;
+  int count = 0;
+  for (const auto& l : *lines)
+    if (SameLine(l, line)) ++count;
+  return count;
+}
+
+void InsertLine(const std::filesystem::path& file, const std::string& anchor,
+                const std::string& newLine, int placement) {
+  auto lines = Load(file);
+  if (!lines) return;
+  std::vector<std::string> add = SplitLines(newLine);
+  if (add.empty()) add.emplace_back();
+  size_t at;
+  if (Trim(anchor).empty()) {
+    at = 0;
+  } else {
+    auto found = FindLine(*lines, anchor);
+    if (!found) return;
+    at = *found + 1;
+    if (placement == 1 && !ProcedureKind((*lines)[*found]).empty()) {
+      size_t end = at;
+      while (end < lines->size() && !IsProcedureEnd((*lines)[end])) ++end;
+      if (end == lines->size()) return;  // a header without its end: nothing to append to
+      at = end;
+    }
+  }
+  lines->insert(lines->begin() + static_cast<long>(at), add.begin(), add.end());
+  Save(file, *lines);
+}
+
+void ChangeLine2(const std::filesystem::path& file, const std::string& oldLine,
+                 const std::string& newLine) {
+  auto lines = Load(file);
+  if (!lines) return;
+  auto found = FindLine(*lines, oldLine);
+  if (!found) return;
+  (*lines)[*found] = newLine;
+  Save(file, *lines);
+}
+
+// The one use: a list box's AfterUpdate header takes the list control's
+// signature.
+void ChangeLine(const std::filesystem::path& file, const std::string& line, int) {
+  auto lines = Load(file);
+  if (!lines) return;
+  auto found = FindLine(*lines, line);
+  if (!found) return;
+  std::string& l = (*lines)[*found];
+  size_t pos = l.find("_AfterUpdate()");
+  if (pos == std::string::npos) return;
+  l.replace(pos, 14, "_AfterUpdate(RtnDispErrMsg As Integer)");
+  Save(file, *lines);
+}
+
+int AddToCtlArray(const std::filesystem::path& file, const std::string& arrayName,
+                  const std::string& blockLine, const std::string& indexText) {
+  auto lines = Load(file);
+  if (!lines) return 0;
+  auto found = FindLine(*lines, blockLine);
+  if (!found) return 0;
+  std::string& head = (*lines)[*found];
+  const std::string indent = head.substr(0, head.find_first_not_of(" \t"));
+  const std::string trimmed = Trim(head);
+  // "Begin VB.Label name": keep the class, take the array's name.
+  size_t classEnd = trimmed.find(' ', 6);
+  std::string cls = classEnd == std::string::npos ? trimmed : trimmed.substr(0, classEnd);
+  head = indent + cls + " " + arrayName;
+  lines->insert(lines->begin() + static_cast<long>(*found + 1), indent + "   Index = " + indexText);
+  Save(file, *lines);
+  return 1;
+}
+
+namespace {
+
+// The code a data control runs when its record changes: the MoveComplete
+// event of an ADO data control, the Reposition event of a DAO one. The ADO
+// header names "ADODB.Recordset20", which the hint processor shortens once
+// the form is complete.
+void AddToDataControlEvent(const std::filesystem::path& file, const std::string& header,
+                           const std::string& line) {
+  auto lines = Load(file);
+  if (!lines) return;
+  auto found = FindLine(*lines, header);
+  if (!found) {
+    lines->push_back(header);
+    lines->push_back("On Error Resume Next");
+    lines->push_back("End Sub");
+    found = lines->size() - 3;
+  }
+  if (!Trim(line).empty()) {
+    size_t end = *found + 1;
+    while (end < lines->size() && !IsProcedureEnd((*lines)[end])) ++end;
+    lines->insert(lines->begin() + static_cast<long>(end), line);
+  }
+  Save(file, *lines);
+}
+
+}  // namespace
+
+void AddDataCtlEntry2(const std::filesystem::path& file, const std::string& dataControl,
+                      const std::string& line) {
+  AddToDataControlEvent(file,
+                        "Private Sub " + dataControl +
+                            "_MoveComplete(ByVal adReason As ADODB.EventReasonEnum, ByVal pError "
+                            "As ADODB.Error, adStatus As ADODB.EventStatusEnum, ByVal pRecordset "
+                            "As ADODB.Recordset20)",
+                        line);
+}
+
+void AddDataCtlEntry(const std::filesystem::path& file, const std::string& dataControl,
+                     const std::string& line) {
+  AddToDataControlEvent(file, "Private Sub " + dataControl + "_Reposition()", line);
+}
+
+}  // namespace morvane

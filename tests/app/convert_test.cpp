@@ -1,0 +1,160 @@
+// End-to-end runs of the morvane binary over source trees in temporary
+// directories.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "platform/support_db.h"
+#include "support/run_command.h"
+#include "support/temp_dir.h"
+
+namespace morvane {
+namespace {
+
+namespace fs = std::filesystem;
+using test::Crlf;
+using test::ReadFile;
+using test::RunMorvane;
+using test::Snapshot;
+using test::TempDir;
+using test::WriteFile;
+
+const fs::path kSample = fs::path(MORVANE_SOURCE_DIR) / "examples" / "Orders";
+
+std::vector<std::string> Lines(const fs::path& file) {
+  std::vector<std::string> lines;
+  std::string text = ReadFile(file);
+  size_t start = 0;
+  for (size_t pos; (pos = text.find("\r\n", start)) != std::string::npos; start = pos + 2)
+    lines.push_back(text.substr(start, pos - start));
+  if (start < text.size()) lines.push_back(text.substr(start));
+  return lines;
+}
+
+TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
+  TempDir dir;
+  fs::copy(kSample, dir / "Orders", fs::copy_options::recursive);
+  const auto before = Snapshot((dir / "Orders").string());
+
+  auto r =
+      RunMorvane({"convert", (dir / "Orders").string(), "-o", (dir / "out").string(), "--yes"});
+  ASSERT_EQ(r.status, 0) << r.err;
+  EXPECT_EQ(Snapshot((dir / "Orders").string()), before);
+
+  for (auto f : {"Orders.vbp", "basOrders.bas", "clsCustomer.bas", "Date Helpers.bas",
+                 "MorvaneConversionCode.bas", "MDIParent.frm", "morvane.db", "analysis/index.html"})
+    EXPECT_TRUE(fs::exists(dir / "out" / f)) << f;
+  // Extraction files of the translator do not stay.
+  for (const auto& e : fs::directory_iterator(dir / "out"))
+    EXPECT_NE(e.path().extension(), ".txt") << e.path();
+
+  const std::string vbp = ReadFile(dir / "out" / "Orders.vbp");
+  const auto order = {"Module=basOrders; basOrders.bas", "Class=clsCustomer; clsCustomer.bas",
+                      "Module=Date_Helpers; Date Helpers.bas",
+                      "Module=MorvaneConversionCode; MorvaneConversionCode.bas",
+                      "Form=MDIParent.frm"};
+  size_t last = 0;
+  for (const char* line : order) {
+    size_t at = vbp.find(std::string(line) + "\r\n");
+    ASSERT_NE(at, std::string::npos) << line << "\n" << vbp;
+    EXPECT_GT(at, last) << line;
+    last = at;
+  }
+  EXPECT_NE(vbp.find("Reference=*\\G{00000205-0000-0010-8000-00AA006D2EA4}#2.5#0#"),
+            std::string::npos);
+
+  EXPECT_NE(r.out.find("Converted 3 object(s)"), std::string::npos) << r.out;
+  EXPECT_NE(r.out.find("analysis/index.html"), std::string::npos) << r.out;
+  // What the run could not do is said, not skipped.
+  EXPECT_NE(r.out.find("frmOrders: Form conversion is not available"), std::string::npos) << r.out;
+
+  std::string err;
+  auto db = SupportDatabase::Open(dir / "out" / "morvane.db", MORVANE_DATA_DIR, &err);
+  ASSERT_TRUE(db) << err;
+  auto stats = db->Stats();
+  ASSERT_EQ(stats.size(), 3u);
+  EXPECT_EQ(stats[0].ModuleName, "basOrders");
+  EXPECT_GT(stats[0].TotalLines, 50);
+  EXPECT_FALSE(db->ReportOutput().empty());
+}
+
+TEST(Convert, RunningTwiceIntoOneDirectoryGivesTheSameFiles) {
+  TempDir dir;
+  auto first = RunMorvane({"convert", kSample.string(), "-o", (dir / "out").string(), "--yes"});
+  ASSERT_EQ(first.status, 0) << first.err;
+  const auto once = Snapshot((dir / "out").string());
+  auto second = RunMorvane({"convert", kSample.string(), "-o", (dir / "out").string(), "--yes"});
+  ASSERT_EQ(second.status, 0) << second.err;
+  auto twice = Snapshot((dir / "out").string());
+  ASSERT_EQ(once.size(), twice.size());
+  for (size_t i = 0; i < once.size(); ++i) {
+    if (once[i].first == "morvane.db") continue;  // SQLite pages may differ
+    EXPECT_EQ(once[i], twice[i]) << once[i].first;
+  }
+}
+
+TEST(Convert, ModulesSelectedByName) {
+  TempDir dir;
+  auto r = RunMorvane({"convert", kSample.string(), "-o", (dir / "out").string(), "--modules",
+                       "clsCustomer", "--no-mdi"});
+  ASSERT_EQ(r.status, 0) << r.err;
+  EXPECT_TRUE(fs::exists(dir / "out" / "clsCustomer.bas"));
+  EXPECT_FALSE(fs::exists(dir / "out" / "basOrders.bas"));
+  EXPECT_FALSE(fs::exists(dir / "out" / "MDIParent.frm"));
+  auto lines = Lines(dir / "out" / "clsCustomer.bas");
+  ASSERT_GE(lines.size(), 10u);
+  EXPECT_EQ(lines[0], "VERSION 1.0 CLASS");
+  EXPECT_EQ(lines[2], "  MultiUse = -1  'True");
+}
+
+TEST(Convert, BadRequestsStopWithOneLineAndAStatus) {
+  TempDir dir;
+  struct Case {
+    std::vector<std::string> args;
+    const char* message;
+  };
+  const fs::path fixtures = MORVANE_FIXTURES_DIR;
+  fs::copy_file(fixtures / "jet3-northwind-de.mdb", dir / "nw.mdb");
+  fs::create_directories(dir / "nw.src");
+  WriteFile(dir / "garbage.mdb", std::string(5000, 'x'));
+  fs::create_directories(dir / "garbage.src");
+  const Case cases[] = {
+      {{"convert", (dir / "none").string(), "-o", (dir / "o1").string()}, "cannot be read"},
+      {{"convert", kSample.string(), "-o", (dir / "o2").string(), "--modules", "basNope"},
+       "The source has no module named \"basNope\"."},
+      {{"convert", (dir / "nw.mdb").string(), "-o", (dir / "o3").string()},
+       "If the database is an Access 97 database, it must be converted"},
+      {{"convert", (dir / "garbage.mdb").string(), "-o", (dir / "o4").string()},
+       "Invalid database file selected."},
+      {{"list", (dir / "none.mdb").string()}, "cannot be read"},
+  };
+  for (const auto& c : cases) {
+    auto r = RunMorvane(c.args);
+    EXPECT_NE(r.status, 0) << c.args[1];
+    EXPECT_NE(r.err.find(c.message), std::string::npos) << r.err;
+    EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1) << r.err;
+  }
+  for (auto o : {"o1", "o2", "o3", "o4"}) EXPECT_FALSE(fs::exists(dir / o)) << o;
+}
+
+TEST(Convert, AnOutputDirectoryInsideTheSourceIsRefused) {
+  TempDir dir;
+  fs::copy(kSample, dir / "Orders", fs::copy_options::recursive);
+  const auto before = Snapshot((dir / "Orders").string());
+  auto r = RunMorvane(
+      {"convert", (dir / "Orders").string(), "-o", (dir / "Orders" / "out").string(), "--yes"});
+  EXPECT_NE(r.status, 0);
+  EXPECT_NE(r.err.find("inside the source tree"), std::string::npos) << r.err;
+  EXPECT_EQ(Snapshot((dir / "Orders").string()), before);
+}
+
+TEST(List, PrintsTheCatalogInItsOrder) {
+  auto r = RunMorvane({"list", kSample.string()});
+  ASSERT_EQ(r.status, 0) << r.err;
+  EXPECT_EQ(r.out,
+            "Forms:\n  frmOrders\nModules:\n  basOrders\n  clsCustomer\n  Date Helpers\n"
+            "Reports:\nMacros:\n  AutoExec\n");
+}
+
+}  // namespace
+}  // namespace morvane

@@ -1,0 +1,171 @@
+// The line-editing operations and the re-indenter, on files in a temporary
+// directory.
+#include "platform/line_editor.h"
+
+#include <gtest/gtest.h>
+
+#include "support/temp_dir.h"
+
+namespace morvane {
+namespace {
+
+using test::Crlf;
+using test::ReadFile;
+using test::TempDir;
+using test::WriteFile;
+
+struct FileFixture {
+  TempDir dir;
+  std::filesystem::path file = dir / "f.frm";
+  explicit FileFixture(const std::string& text) { WriteFile(file, Crlf(text)); }
+  std::string Text() const { return ReadFile(file); }
+};
+
+TEST(IsDuplicateLine, CountsWholeLinesWhateverTheirIndentAndCase) {
+  FileFixture f("Private Sub Form_Load()\n    x = 1\nEnd Sub\n  private sub form_load()\n");
+  EXPECT_EQ(IsDuplicateLine(f.file, "Private Sub Form_Load()"), 2);
+  EXPECT_EQ(IsDuplicateLine(f.file, "x = 1"), 1);
+  EXPECT_EQ(IsDuplicateLine(f.file, "x = 1 ' note"), 0);
+  EXPECT_EQ(IsDuplicateLine(f.file, "Private Sub Form"), 0);
+  EXPECT_EQ(IsDuplicateLine(f.dir / "missing.frm", "x = 1"), 0);
+}
+
+TEST(InsertLine, PlacementZeroReadsInReverseOrderOfTheCalls) {
+  FileFixture f("Private Sub cmdOK_Click()\nEnd Sub\n");
+  InsertLine(f.file, "Private Sub cmdOK_Click()", "End If", 0);
+  InsertLine(f.file, "Private Sub cmdOK_Click()", "    Unload Me", 0);
+  InsertLine(f.file, "Private Sub cmdOK_Click()", "If x Then", 0);
+  EXPECT_EQ(f.Text(),
+            Crlf("Private Sub cmdOK_Click()\nIf x Then\n    Unload Me\nEnd If\nEnd Sub\n"));
+}
+
+TEST(InsertLine, PlacementOneKeepsTheOrderAtTheEndOfTheBody) {
+  FileFixture f("Private Sub Form_Load()\n    a\nEnd Sub\nPrivate Sub Other()\nEnd Sub\n");
+  InsertLine(f.file, "Private Sub Form_Load()", "b", 1);
+  InsertLine(f.file, "Private Sub Form_Load()", "c\r\nd", 1);
+  EXPECT_EQ(f.Text(), Crlf("Private Sub Form_Load()\n    a\nb\nc\nd\nEnd Sub\n"
+                           "Private Sub Other()\nEnd Sub\n"));
+}
+
+TEST(InsertLine, AMissingAnchorLeavesTheFileAsItWas) {
+  FileFixture f("Private Sub A()\nEnd Sub\n");
+  const std::string before = f.Text();
+  InsertLine(f.file, "Private Sub B()", "x", 0);
+  InsertLine(f.file, "Private Sub B()", "x", 1);
+  InsertLine(f.dir / "missing.frm", "Private Sub A()", "x", 0);
+  EXPECT_EQ(f.Text(), before);
+  EXPECT_FALSE(std::filesystem::exists(f.dir / "missing.frm"));
+}
+
+TEST(InsertLine, TheMdiParentHeaderLinesGoToTheTop) {
+  FileFixture f(
+      "Begin VB.MDIForm MDIParent\n   Caption = \"Orders\"\nEnd\n"
+      "Attribute VB_Name = \"MDIParent\"\n");
+  InsertLine(f.file, " ", "VERSION 5.00", 1);
+  InsertLine(f.file, "VERSION 5.00",
+             "Object = \"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0\"; \"MSCOMCTL.OCX\"", 1);
+  EXPECT_EQ(f.Text().substr(0, 100),
+            Crlf("VERSION 5.00\nObject = \"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0\"; "
+                 "\"MSCOMCTL.OCX\"\nBegin VB.MDIForm MDIParent\n")
+                .substr(0, 100));
+}
+
+TEST(ChangeLine, ReplacesTheFirstMatchingLine) {
+  FileFixture f("Private Sub lstA_AfterUpdate()\nEnd Sub\nTab(1)\n");
+  ChangeLine2(f.file, "Tab(1)", "Tab(2)");
+  ChangeLine(f.file, "Private Sub lstA_AfterUpdate()", 0);
+  EXPECT_EQ(f.Text(), Crlf("Private Sub lstA_AfterUpdate(RtnDispErrMsg As Integer)\nEnd Sub\n"
+                           "Tab(2)\n"));
+}
+
+TEST(AddToCtlArray, FoldsALabelIntoTheArray) {
+  FileFixture f(
+      "Begin VB.Form F\n   Begin VB.Label lblA\n      Caption = \"A\"\n   End\n"
+      "   Begin VB.Label lblB\n      Caption = \"B\"\n   End\nEnd\n");
+  EXPECT_EQ(AddToCtlArray(f.file, "lblA", "Begin VB.Label lblA", "0"), 1);
+  EXPECT_EQ(AddToCtlArray(f.file, "lblA", "Begin VB.Label lblB", "1"), 1);
+  EXPECT_EQ(AddToCtlArray(f.file, "lblA", "Begin VB.Label lblC", "2"), 0);
+  EXPECT_EQ(f.Text(), Crlf("Begin VB.Form F\n   Begin VB.Label lblA\n      Index = 0\n"
+                           "      Caption = \"A\"\n   End\n   Begin VB.Label lblA\n"
+                           "      Index = 1\n      Caption = \"B\"\n   End\nEnd\n"));
+}
+
+TEST(AddDataCtlEntry, CollectsLinesInTheDataControlsMoveEvent) {
+  FileFixture f("Private Sub Form_Load()\nEnd Sub\n");
+  AddDataCtlEntry2(f.file, "datOrders", "");
+  AddDataCtlEntry2(f.file, "datOrders", "datLines.Recordset.MoveFirst");
+  AddDataCtlEntry2(f.file, "datOrders", "txtTotal.value =[Qty]*[Price]");
+  const std::string header =
+      "Private Sub datOrders_MoveComplete(ByVal adReason As ADODB.EventReasonEnum, ByVal pError "
+      "As ADODB.Error, adStatus As ADODB.EventStatusEnum, ByVal pRecordset As "
+      "ADODB.Recordset20)";
+  EXPECT_EQ(f.Text(), Crlf("Private Sub Form_Load()\nEnd Sub\n" + header +
+                           "\nOn Error Resume Next\ndatLines.Recordset.MoveFirst\n"
+                           "txtTotal.value =[Qty]*[Price]\nEnd Sub\n"));
+  AddDataCtlEntry(f.file, "datOld", "x");
+  EXPECT_EQ(IsDuplicateLine(f.file, "Private Sub datOld_Reposition()"), 1);
+}
+
+struct IndentCase {
+  const char* name;
+  const char* input;
+  const char* expected;
+};
+
+TEST(SilentIndent, LaysOutCodeAsTheEditorDoes) {
+  const IndentCase cases[] = {
+      {"blocks",
+       "Attribute VB_Name = \"m\"\nOption Explicit\nPublic Sub A(ByVal n As Integer)\n"
+       "Dim i As Integer\nFor i = 1 To n\nIf i > 2 Then\nDebug.Print i\nElseIf i = 1 Then\n"
+       "Beep\nElse\nDo While n > 0\nn = n - 1\nLoop\nEnd If\nNext i\nEnd Sub\n",
+       "Attribute VB_Name = \"m\"\nOption Explicit\nPublic Sub A(ByVal n As Integer)\n"
+       "    Dim i As Integer\n    For i = 1 To n\n        If i > 2 Then\n"
+       "            Debug.Print i\n        ElseIf i = 1 Then\n            Beep\n        Else\n"
+       "            Do While n > 0\n                n = n - 1\n            Loop\n        End If\n"
+       "    Next i\nEnd Sub\n"},
+      {"select and with",
+       "Function F(x)\nSelect Case x\nCase 1\nWith Me\n.Caption = \"a\"\nEnd With\n"
+       "Case Else\nF = 0\nEnd Select\nEnd Function\n",
+       "Function F(x)\n    Select Case x\n        Case 1\n            With Me\n"
+       "                .Caption = \"a\"\n            End With\n        Case Else\n"
+       "            F = 0\n    End Select\nEnd Function\n"},
+      {"single-line if, labels, continuation, comments",
+       "Sub B()\nOn Error GoTo B_Err\nIf x Then y = 1 Else y = 2\nIf a And _\nb Then ' both\n"
+       "s = \"If x Then\"\nEnd If\n' done\nB_Err:\n10 Beep\nEnd Sub\n",
+       "Sub B()\n    On Error GoTo B_Err\n    If x Then y = 1 Else y = 2\n    If a And _\n"
+       "        b Then ' both\n        s = \"If x Then\"\n    End If\n    ' done\nB_Err:\n"
+       "10 Beep\nEnd Sub\n"},
+      {"types, nested next, while",
+       "Private Type T\nA As Integer\nEnd Type\nSub C()\nFor i = 1 To 2\nFor j = 1 To 2\n"
+       "Next j, i\nWhile x\nWend\nEnd Sub\n",
+       "Private Type T\n    A As Integer\nEnd Type\nSub C()\n    For i = 1 To 2\n"
+       "        For j = 1 To 2\n    Next j, i\n    While x\n    Wend\nEnd Sub\n"},
+      {"unbalanced input stays at column 0 or above",
+       "End If\nNext\nLoop\nSub D()\nEnd If\nEnd Sub\nEnd Sub\nx = 1\n",
+       "End If\nNext\nLoop\nSub D()\n    End If\nEnd Sub\nEnd Sub\nx = 1\n"},
+      {"form designer block and code",
+       "VERSION 5.00\nBegin VB.Form frmA\nCaption = \"A\"\nBegin VB.TextBox txt\n"
+       "BeginProperty Font\nName = \"Tahoma\"\nEndProperty\nEnd\nEnd\n"
+       "Attribute VB_Name = \"frmA\"\nPrivate Sub Form_Load()\n'MORVANE DoCmd.Echo\n"
+       "frmB.Show\t'MORVANE DoCmd.OpenForm \"frmB\"\nEnd Sub\n",
+       "VERSION 5.00\nBegin VB.Form frmA\n   Caption = \"A\"\n   Begin VB.TextBox txt\n"
+       "      BeginProperty Font\n         Name = \"Tahoma\"\n      EndProperty\n   End\nEnd\n"
+       "Attribute VB_Name = \"frmA\"\nPrivate Sub Form_Load()\n    'MORVANE DoCmd.Echo\n"
+       "    frmB.Show\t'MORVANE DoCmd.OpenForm \"frmB\"\nEnd Sub\n"},
+      {"class header",
+       "VERSION 1.0 CLASS\nBEGIN\nMultiUse = -1  'True\nEND\nAttribute VB_Name = \"c\"\n"
+       "Property Get N() As String\nN = \"x\"\nEnd Property\n",
+       "VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1  'True\nEND\nAttribute VB_Name = \"c\"\n"
+       "Property Get N() As String\n    N = \"x\"\nEnd Property\n"},
+  };
+  for (const auto& c : cases) {
+    FileFixture f(c.input);
+    SilentIndent(f.file);
+    EXPECT_EQ(f.Text(), Crlf(c.expected)) << c.name;
+    SilentIndent(f.file);
+    EXPECT_EQ(f.Text(), Crlf(c.expected)) << c.name << " (second pass)";
+  }
+}
+
+}  // namespace
+}  // namespace morvane

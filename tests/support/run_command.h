@@ -1,0 +1,21 @@
+// Runs the morvane binary (or any command) and collects what it printed.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace morvane::test {
+
+struct CommandResult {
+  int status = -1;  // exit status, or -1 when it did not exit normally
+  std::string out;
+  std::string err;
+};
+
+// Runs MORVANE_BINARY with the arguments, stdin from /dev/null.
+CommandResult RunMorvane(const std::vector<std::string>& args);
+
+// A map of every file below `dir` (relative path -> bytes), to compare trees.
+std::vector<std::pair<std::string, std::string>> Snapshot(const std::string& dir);
+
+}  // namespace morvane::test
