@@ -265,6 +265,22 @@ std::string ProjectModel::VbpText(const std::filesystem::path& baseDir) const {
     out.push_back("Reference=*\\G" + r.Guid + "#" + HexVersion(r.Major, r.Minor) + "#0#" +
                   (known ? known->file : "") + "#" + (known ? known->description : r.Name));
   }
+  // Each control library a form names in its Object lines, once.
+  std::vector<std::string> objects;
+  for (const auto& c : components_) {
+    std::vector<std::string> lines;
+    if (!ReadTextLines(c.File, &lines, nullptr)) continue;
+    for (const auto& l : lines) {
+      std::string t = Trimmed(l);
+      if (StartsWith(t, "Begin ") || StartsWith(t, "Attribute ")) break;
+      if (!StartsWith(t, "Object =")) continue;
+      std::string value = Trimmed(t.substr(8));
+      value.erase(std::remove(value.begin(), value.end(), '"'), value.end());
+      if (std::find(objects.begin(), objects.end(), value) == objects.end())
+        objects.push_back(value);
+    }
+  }
+  for (const auto& o : objects) out.push_back("Object=" + o);
   for (const auto& c : components_) {
     std::string rel = RelativeTo(c.File, baseDir);
     switch (c.Kind) {

@@ -19,6 +19,8 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* kAdo25Guid = "{00000205-0000-0010-8000-00AA006D2EA4}";
+constexpr const char* kStdOleGuid = "{00020430-0000-0000-C000-000000000046}";
+constexpr const char* kDao36Guid = "{00025E01-0000-0000-C000-000000000046}";
 constexpr const char* kMdiObjectLine =
     "Object = \"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0\"; \"MSCOMCTL.OCX\"";
 
@@ -81,16 +83,26 @@ void AddMdiParent(ConversionSession& s) {
   s.ActiveProject->AddFile(target);
 }
 
+bool HasReference(const ProjectModel& project, const char* guid) {
+  for (const auto& have : project.References())
+    if (EqualsNoCase(have.Guid, guid)) return true;
+  return false;
+}
+
 void AddReferences(ConversionSession& s) {
+  // Every Visual Basic project starts with OLE Automation.
+  if (!HasReference(*s.ActiveProject, kStdOleGuid)) s.ActiveProject->AddFromGuid(kStdOleGuid, 2, 0);
   if (s.SourceDb) {  // P8
-    for (const auto& ref : s.SourceDb->References()) {
-      bool present = false;
-      for (const auto& have : s.ActiveProject->References())
-        present = present || EqualsNoCase(have.Guid, ref.Guid);
-      if (!present) s.ActiveProject->AddFromGuid(ref.Guid, ref.Major, ref.Minor);
-    }
+    for (const auto& ref : s.SourceDb->References())
+      if (!HasReference(*s.ActiveProject, ref.Guid.c_str()))
+        s.ActiveProject->AddFromGuid(ref.Guid, ref.Major, ref.Minor);
   }
   s.ActiveProject->AddFromGuid(kAdo25Guid, 2, 5);  // P9
+  // The conversion code declares its database objects with DAO types; a
+  // database file does not tell its references, so DAO is added when the
+  // source did not bring it.
+  if (!s.IsAdp && !HasReference(*s.ActiveProject, kDao36Guid))
+    s.ActiveProject->AddFromGuid(kDao36Guid, 5, 0);
 }
 
 }  // namespace

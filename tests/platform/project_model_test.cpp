@@ -131,3 +131,27 @@ TEST(CodeModule, AClassHeaderClosedByEndInEitherCase) {
 
 }  // namespace
 }  // namespace morvane
+
+namespace morvane {
+namespace {
+
+TEST(ProjectModel, NamesEachControlLibraryOfItsFormsOnce) {
+  test::TempDir dir;
+  const std::string object =
+      "Object = \"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0\"; \"MSCOMCTL.OCX\"\n";
+  test::WriteFile(dir / "a.frm", test::Crlf("VERSION 5.00\n" + object +
+                                            "Begin VB.Form a\nEnd\nAttribute VB_Name = \"a\"\n"));
+  test::WriteFile(dir / "b.frm", test::Crlf("VERSION 5.00\n" + object +
+                                            "Begin VB.Form b\nEnd\nAttribute VB_Name = \"b\"\n"));
+  ProjectModel p;
+  p.AddFile(dir / "a.frm");
+  p.AddFile(dir / "b.frm");
+  const std::string vbp = p.VbpText(dir.path());
+  const std::string line = "Object={831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0; MSCOMCTL.OCX\r\n";
+  ASSERT_NE(vbp.find(line), std::string::npos) << vbp;
+  EXPECT_EQ(vbp.find(line), vbp.rfind(line));
+  EXPECT_LT(vbp.find(line), vbp.find("Form=a.frm"));
+}
+
+}  // namespace
+}  // namespace morvane

@@ -133,11 +133,23 @@ TEST(ProjectAssembly, MdiParentGetsItsHeaderAndReferencesComeOnce) {
   EXPECT_EQ(mdi.substr(0, mdi.find("Begin")),
             "VERSION 5.00\r\nObject = \"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0\"; "
             "\"MSCOMCTL.OCX\"\r\n");
-  ASSERT_EQ(f.project.References().size(), 2u);
-  EXPECT_EQ(f.project.References()[1].Guid, "{00000205-0000-0010-8000-00AA006D2EA4}");
+  // OLE Automation first, the source's DAO once, ADO 2.5, and no second DAO.
+  std::vector<std::string> guids;
+  for (const auto& r : f.project.References()) guids.push_back(r.Guid);
+  EXPECT_EQ(guids, (std::vector<std::string>{"{00020430-0000-0000-C000-000000000046}",
+                                             "{00025E01-0000-0000-C000-000000000046}",
+                                             "{00000205-0000-0010-8000-00AA006D2EA4}"}));
   ASSERT_EQ(f.project.Components().size(), 2u);
   EXPECT_EQ(f.project.Components()[0].Name, "MorvaneConversionCode");
   EXPECT_EQ(f.project.Components()[1].Name, "MDIParent");
+}
+
+TEST(ProjectAssembly, DaoJoinsWhenTheSourceDoesNotReferenceIt) {
+  Fixture f;
+  AssembleProject(f.s, f.c, f.summary);
+  ASSERT_EQ(f.project.References().size(), 3u);
+  EXPECT_EQ(f.project.References()[2].Guid, "{00025E01-0000-0000-C000-000000000046}");
+  EXPECT_EQ(f.project.References()[2].Major, 5);
 }
 
 TEST(ProjectAssembly, AProjectThatHasTheConversionCodeKeepsItsSubMain) {
