@@ -1,0 +1,113 @@
+// Golden cases: whole output files of real runs, compared byte for byte.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "platform/support_db.h"
+#include "support/run_command.h"
+#include "support/temp_dir.h"
+
+namespace morvane {
+namespace {
+
+namespace fs = std::filesystem;
+using test::ReadFile;
+using test::RunMorvane;
+using test::TempDir;
+using test::WriteFile;
+
+const fs::path kGolden = fs::path(MORVANE_SOURCE_DIR) / "tests" / "golden";
+
+std::string ReportRows(SupportDatabase& db) {
+  std::string out = "ModuleName\tReasonID\tCodeLine\tLineNumber\tTranslatedLine\tRoutine\r\n";
+  for (const auto& r : db.ReportOutput())
+    out += r.ModuleName + "\t" + std::to_string(r.ReasonID) + "\t" + r.CodeLine + "\t" +
+           std::to_string(r.LineNumber) + "\t" + r.TranslatedLine + "\t" + r.Routine + "\r\n";
+  return out;
+}
+
+std::string StatsRows(SupportDatabase& db) {
+  std::string out =
+      "ModuleName\tTotalLines\tCommentLines\tLinesNotTranslated\tLinesPotentiallyConverted\t"
+      "BlankLines\tSubCount\tProcCount\tCtlCount\tCtlsPartiallyConverted\tCodeLines\r\n";
+  for (const auto& r : db.Stats()) {
+    out += r.ModuleName;
+    for (int v :
+         {r.TotalLines, r.CommentLines, r.LinesNotTranslated, r.LinesPotentiallyConverted,
+          r.BlankLines, r.SubCount, r.ProcCount, r.CtlCount, r.CtlsPartiallyConverted, r.CodeLines})
+      out += "\t" + std::to_string(v);
+    out += "\r\n";
+  }
+  return out;
+}
+
+// The first differing line, for a readable failure.
+std::string FirstDifference(const std::string& expected, const std::string& actual) {
+  size_t line = 1, i = 0;
+  while (i < expected.size() && i < actual.size() && expected[i] == actual[i])
+    if (expected[i++] == '\n') ++line;
+  auto lineAt = [&](const std::string& s) {
+    size_t b = s.rfind('\n', i == 0 ? 0 : i - 1);
+    b = b == std::string::npos ? 0 : b + 1;
+    return s.substr(b, s.find('\n', b) - b);
+  };
+  return "line " + std::to_string(line) + "\n  expected: " + lineAt(expected) +
+         "\n  actual:   " + lineAt(actual);
+}
+
+TEST(Golden, EveryCaseGivesItsExpectedFiles) {
+  const bool update = std::getenv("MORVANE_UPDATE_GOLDEN") != nullptr;
+  int cases = 0;
+  for (const auto& entry : fs::directory_iterator(kGolden)) {
+    if (!entry.is_directory()) continue;
+    ++cases;
+    const fs::path dir = entry.path();
+    SCOPED_TRACE(dir.filename().string());
+    TempDir out;
+    std::vector<std::string> args = {"convert", (dir / "input").string(), "-o",
+                                     (out / "out").string(), "--yes"};
+    if (fs::exists(dir / "args")) {
+      std::string text = ReadFile(dir / "args");
+      size_t start = 0;
+      for (size_t pos; (pos = text.find('\n', start)) != std::string::npos; start = pos + 1)
+        if (pos > start) args.push_back(text.substr(start, pos - start));
+    }
+    auto r = RunMorvane(args);
+    ASSERT_EQ(r.status, 0) << r.err;
+    std::string err;
+    auto db = SupportDatabase::Open(out / "out" / "morvane.db", MORVANE_DATA_DIR, &err);
+    ASSERT_TRUE(db) << err;
+
+    const fs::path expected = dir / "expected";
+    if (update) {
+      fs::remove_all(expected);
+      fs::create_directories(expected);
+      for (const auto& f : fs::directory_iterator(out / "out"))
+        if (f.is_regular_file() && f.path().extension() != ".db")
+          fs::copy_file(f.path(), expected / f.path().filename(),
+                        fs::copy_options::overwrite_existing);
+      WriteFile(expected / "tblReportOutput.tsv", ReportRows(*db));
+      WriteFile(expected / "tblStats.tsv", StatsRows(*db));
+    }
+    int compared = 0;
+    for (const auto& f : fs::directory_iterator(expected)) {
+      const std::string name = f.path().filename().string();
+      std::string actual;
+      if (name == "tblReportOutput.tsv")
+        actual = ReportRows(*db);
+      else if (name == "tblStats.tsv")
+        actual = StatsRows(*db);
+      else
+        actual = ReadFile(out / "out" / name);
+      const std::string want = ReadFile(f.path());
+      EXPECT_TRUE(actual == want) << name << ": " << FirstDifference(want, actual);
+      ++compared;
+    }
+    EXPECT_GT(compared, 0);
+  }
+  EXPECT_GT(cases, 0);
+}
+
+}  // namespace
+}  // namespace morvane
