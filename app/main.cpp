@@ -10,6 +10,7 @@
 
 #include "app/command_line_ui.h"
 #include "app/text_output.h"
+#include "platform/catalog.h"
 #include "session/access_link.h"
 #include "session/conversion_session.h"
 #include "session/driver.h"
@@ -37,7 +38,35 @@ struct Options {
        datePicker = true, macros = true, vb5 = false;
   std::string user = "Admin", password, workgroup, adoConnect;
   bool yes = false, no = false;
+  bool details = false;
 };
+
+const char* QueryTypeName(int type) {
+  switch (type) {
+    case kDbQSelect:
+      return "select";
+    case kDbQCrosstab:
+      return "crosstab";
+    case kDbQDelete:
+      return "delete";
+    case kDbQUpdate:
+      return "update";
+    case kDbQAppend:
+      return "append";
+    case kDbQMakeTable:
+      return "make-table";
+    case kDbQDDL:
+      return "data-definition";
+    case kDbQSQLPassThrough:
+      return "pass-through";
+    case kDbQSetOperation:
+      return "union";
+    case kDbQSPTBulk:
+      return "bulk pass-through";
+    default:
+      return "other";
+  }
+}
 
 fs::path DataDirectory(const char* argv0) {
   std::error_code ec;
@@ -88,11 +117,26 @@ int RunList(const Options& o) {
   AccessLink link;
   std::string err;
   if (!link.ChooseDatabase(s, {o.source, o.sourceTree, o.layout}, &err)) return Fail(err);
-  CatalogListing l = ListCatalog(*link.Db());
+  CatalogListing l = link.Listing();
   PrintList("Forms", l.Forms);
   PrintList("Modules", l.Modules);
   PrintList("Reports", l.Reports);
   PrintList("Macros", l.Macros);
+  if (o.details) {
+    const Catalog& db = *link.Db();
+    std::printf("Tables:\n");
+    for (const auto& t : db.TableDefs()) {
+      std::printf("  %s (%zu fields%s)\n", Windows1252ToUtf8(t.Name).c_str(), t.Fields.size(),
+                  t.Linked ? ", linked" : "");
+    }
+    std::printf("Queries:\n");
+    for (const auto& q : db.QueryDefs())
+      std::printf("  %s (%s, type %d)\n", Windows1252ToUtf8(q.Name).c_str(), QueryTypeName(q.Type),
+                  q.Type);
+    std::printf("Properties:\n");
+    for (const auto& [name, value] : db.PropertyList())
+      std::printf("  %s = %s\n", Windows1252ToUtf8(name).c_str(), Windows1252ToUtf8(value).c_str());
+  }
   if (link.Tree())
     for (const auto& w : link.Tree()->Warnings())
       std::fprintf(stderr, "morvane: warning: %s\n", Windows1252ToUtf8(w).c_str());
@@ -130,7 +174,7 @@ int RunConvert(const Options& o, const char* argv0) {
   for (const auto& w : link.Tree() ? link.Tree()->Warnings() : std::vector<std::string>{})
     std::fprintf(stderr, "morvane: warning: %s\n", Windows1252ToUtf8(w).c_str());
 
-  CatalogListing offered = ListCatalog(*link.Db());
+  CatalogListing offered = link.Listing();
   RunRequest request;
   request.OutputDir = o.output;
   const bool all = o.all || (o.forms.empty() && o.modules.empty() && o.reports.empty());
@@ -190,6 +234,7 @@ int main(int argc, char** argv) {
 
   CLI::App* list = app.add_subcommand("list", "List the forms, modules, reports and macros");
   addSource(list);
+  list->add_flag("--details", o.details, "Also list the tables, queries and database properties");
 
   CLI::App* convert = app.add_subcommand("convert", "Convert into a Visual Basic 6 project");
   addSource(convert);

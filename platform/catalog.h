@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace morvane {
@@ -96,6 +97,8 @@ class Catalog {
   // Writes go to an overlay beside the working copy: later reads see them,
   // the file itself is never changed.
   virtual void SetProperty(const std::string& name, const std::string& value) = 0;
+  // Every database property with its value, in name order.
+  virtual std::vector<std::pair<std::string, std::string>> PropertyList() const = 0;
 
   // The references of the Access project (VBA, Access, DAO, ...), when known.
   virtual std::vector<ReferenceInfo> References() const = 0;
@@ -116,6 +119,9 @@ class MemoryCatalog : public Catalog {
   std::vector<QueryInfo> QueryDefs() const override { return Queries; }
   std::optional<std::string> Property(const std::string& name) const override;
   void SetProperty(const std::string& name, const std::string& value) override;
+  std::vector<std::pair<std::string, std::string>> PropertyList() const override {
+    return {Properties.begin(), Properties.end()};
+  }
   std::vector<ReferenceInfo> References() const override { return Refs; }
 };
 

@@ -253,9 +253,11 @@ std::unique_ptr<JetCatalog> JetCatalog::Open(const fs::path& file, const fs::pat
       GHashTableIter iter;
       gpointer key, value;
       g_hash_table_iter_init(&iter, props->hash);
-      while (g_hash_table_iter_next(&iter, &key, &value))
-        cat->properties_.emplace(Lower(SystemText(static_cast<const char*>(key))),
-                                 SystemText(static_cast<const char*>(value)));
+      while (g_hash_table_iter_next(&iter, &key, &value)) {
+        const std::string name = SystemText(static_cast<const char*>(key));
+        cat->properties_.emplace(Lower(name), SystemText(static_cast<const char*>(value)));
+        cat->propertyNames_.emplace(Lower(name), name);
+      }
     }
   }
 
@@ -288,6 +290,15 @@ void JetCatalog::SetProperty(const std::string& name, const std::string& value) 
   overlay_[Lower(name)] = value;
   overlayNames_[Lower(name)] = name;
   SaveOverlay();
+}
+
+std::vector<std::pair<std::string, std::string>> JetCatalog::PropertyList() const {
+  std::map<std::string, std::pair<std::string, std::string>> merged;
+  for (const auto& [key, value] : properties_) merged[key] = {propertyNames_.at(key), value};
+  for (const auto& [key, value] : overlay_) merged[key] = {overlayNames_.at(key), value};
+  std::vector<std::pair<std::string, std::string>> out;
+  for (auto& [key, entry] : merged) out.push_back(entry);
+  return out;
 }
 
 void JetCatalog::SaveOverlay() const {

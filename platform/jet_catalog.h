@@ -31,6 +31,7 @@ class JetCatalog : public Catalog {
   std::vector<QueryInfo> QueryDefs() const override { return queries_; }
   std::optional<std::string> Property(const std::string& name) const override;
   void SetProperty(const std::string& name, const std::string& value) override;
+  std::vector<std::pair<std::string, std::string>> PropertyList() const override;
   // The VBA project's references are kept in Access's own storage, which
   // libmdb does not read; the file gives none.
   std::vector<ReferenceInfo> References() const override { return {}; }
@@ -44,7 +45,8 @@ class JetCatalog : public Catalog {
   std::vector<TableInfo> tables_;
   std::vector<QueryInfo> queries_;
   std::map<std::string, std::string> properties_;  // by lower-case name
-  std::map<std::string, std::string> overlay_;     // by lower-case name
+  std::map<std::string, std::string> propertyNames_;
+  std::map<std::string, std::string> overlay_;  // by lower-case name
   std::map<std::string, std::string> overlayNames_;
   std::filesystem::path overlayFile_;
 };

@@ -133,6 +133,23 @@ ProjectModel& AccessLink::NewProject(ConversionSession& s) {
   return *project_;
 }
 
+CatalogListing AccessLink::Listing() const {
+  CatalogListing l = ListCatalog(*catalog_);
+  if (!tree_) return l;
+  auto add = [&](std::vector<std::string>& names, AccessObjectKind kind) {
+    for (const auto& name : tree_->Names(kind)) {
+      bool known = false;
+      for (const auto& n : names) known = known || EqualsNoCase(n, name);
+      if (!known) names.push_back(name);
+    }
+  };
+  add(l.Forms, AccessObjectKind::Form);
+  add(l.Modules, AccessObjectKind::Module);
+  add(l.Reports, AccessObjectKind::Report);
+  add(l.Macros, AccessObjectKind::Macro);
+  return l;
+}
+
 CatalogListing ListCatalog(const Catalog& db) {
   return {db.ContainerDocuments("Forms"), db.ContainerDocuments("Modules"),
           db.ContainerDocuments("Reports"), db.ContainerDocuments("Scripts")};

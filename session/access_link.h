@@ -44,6 +44,11 @@ class AccessLink {
   bool OpenSupportDatabase(ConversionSession& s, std::string* err);
   ProjectModel& NewProject(ConversionSession& s);
 
+  // The objects the source offers: the catalog's, in its order, then those
+  // that only the source tree has (an export made from a newer state of the
+  // database, say).
+  struct CatalogListing Listing() const;
+
   SourceTree* Tree() { return tree_.get(); }
   Catalog* Db() { return catalog_.get(); }
 

@@ -158,3 +158,43 @@ TEST(List, PrintsTheCatalogInItsOrder) {
 
 }  // namespace
 }  // namespace morvane
+
+namespace morvane {
+namespace {
+
+TEST(Convert, ADatabaseWithItsTreeBesideItGetsAWorkingCopy) {
+  test::TempDir dir;
+  const fs::path fixture = fs::path(MORVANE_FIXTURES_DIR) / "jet4-subform-events.mdb";
+  fs::copy_file(fixture, dir / "Events.mdb");
+  test::WriteFile(dir / "Events.src" / "modules" / "basEvents.bas",
+                  test::Crlf("Attribute VB_Name = \"basEvents\"\nPublic Sub Go()\n"
+                             "    DoCmd.OpenForm \"Main\"\nEnd Sub\n"));
+  const auto before = test::Snapshot(dir.path().string());
+
+  auto r = test::RunMorvane(
+      {"convert", (dir / "Events.mdb").string(), "-o",
+       (dir.path().parent_path() / (dir.path().filename().string() + "-out")).string(), "--modules",
+       "basEvents", "--forms", "Main"});
+  const fs::path out = dir.path().parent_path() / (dir.path().filename().string() + "-out");
+  ASSERT_EQ(r.status, 0) << r.err;
+  EXPECT_EQ(test::Snapshot(dir.path().string()), before);
+  EXPECT_EQ(test::ReadFile(out / "Events.mdb"), test::ReadFile(fixture));
+  EXPECT_TRUE(fs::exists(out / "Events.vbp"));
+  // "Main" is a selected form, so the module's OpenForm names it directly.
+  EXPECT_NE(test::ReadFile(out / "basEvents.bas").find("Main.Show\t'MORVANE DoCmd.OpenForm"),
+            std::string::npos);
+  fs::remove_all(out);
+}
+
+TEST(List, DetailsOfARealJet4Database) {
+  test::TempDir dir;
+  fs::copy_file(fs::path(MORVANE_FIXTURES_DIR) / "jet4-banco-horas.mdb", dir / "Horas.mdb");
+  auto r = test::RunMorvane({"list", "--details", (dir / "Horas.mdb").string()});
+  ASSERT_EQ(r.status, 0) << r.err;
+  EXPECT_NE(r.out.find("Tables:\n  BANCO_HORAS (7 fields)\n"), std::string::npos) << r.out;
+  EXPECT_NE(r.out.find("Queries:\n  qryCalculosHoras (select, type 0)\n"), std::string::npos);
+  EXPECT_NE(r.out.find("Properties:\n  AccessVersion = 09.50\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace morvane
