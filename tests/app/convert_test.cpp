@@ -7,6 +7,7 @@
 #include "platform/support_db.h"
 #include "support/run_command.h"
 #include "support/temp_dir.h"
+#include "support/vb6_checker.h"
 
 namespace morvane {
 namespace {
@@ -62,6 +63,17 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   }
   EXPECT_NE(vbp.find("Reference=*\\G{00000205-0000-0010-8000-00AA006D2EA4}#2.5#0#"),
             std::string::npos);
+
+  // Every Visual Basic file of the project keeps VB6's structure.
+  int checked = 0;
+  for (const auto& e : fs::directory_iterator(dir / "out")) {
+    const std::string ext = e.path().extension().string();
+    if (ext != ".bas" && ext != ".frm" && ext != ".cls" && ext != ".dsr") continue;
+    auto problems = test::CheckVb6Structure(e.path().filename().string(), ReadFile(e.path()));
+    EXPECT_TRUE(problems.empty()) << e.path().filename() << ": " << problems.front();
+    ++checked;
+  }
+  EXPECT_EQ(checked, 5);
 
   EXPECT_NE(r.out.find("Converted 3 object(s)"), std::string::npos) << r.out;
   EXPECT_NE(r.out.find("analysis/index.html"), std::string::npos) << r.out;
