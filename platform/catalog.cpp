@@ -1,13 +1,11 @@
 // Shared lookups of the catalog interface and the in-memory catalog.
 #include "platform/catalog.h"
 
-#include <strings.h>
+#include "platform/text_fold.h"
 
 namespace morvane {
 
-static bool SameText(const std::string& a, const std::string& b) {
-  return a.size() == b.size() && strncasecmp(a.c_str(), b.c_str(), a.size()) == 0;
-}
+static bool SameText(const std::string& a, const std::string& b) { return text::IEquals(a, b); }
 
 std::optional<QueryInfo> Catalog::QueryDef(const std::string& name) const {
   for (auto& q : QueryDefs())

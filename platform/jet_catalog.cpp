@@ -12,6 +12,7 @@
 #include "platform/encoding.h"
 #include "platform/jet_query_sql.h"
 #include "platform/text_file.h"
+#include "platform/text_fold.h"
 
 namespace morvane {
 
@@ -19,11 +20,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string Lower(std::string s) {
-  for (char& c : s)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 32);
-  return s;
-}
+std::string Lower(const std::string& s) { return text::Lower(s); }
 
 // libmdb hands out UTF-8; the system's text is Windows-1252.
 std::string SystemText(const char* utf8) {

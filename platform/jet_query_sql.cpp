@@ -286,11 +286,10 @@ std::string RebuildQuerySql(const std::vector<QueryPart>& parts) {
       }
       Design grouped = d;
       std::string pivotBase = pivot.substr(0, pivot.find(" In ("));
-      grouped.groupBy.erase(std::remove_if(grouped.groupBy.begin(), grouped.groupBy.end(),
-                                           [&](const QueryPart* g) {
-                                             return g->Expression == pivotBase;
-                                           }),
-                            grouped.groupBy.end());
+      grouped.groupBy.erase(
+          std::remove_if(grouped.groupBy.begin(), grouped.groupBy.end(),
+                         [&](const QueryPart* g) { return g->Expression == pivotBase; }),
+          grouped.groupBy.end());
       lines.push_back("TRANSFORM " + value);
       lines.push_back(SelectHead(d) + Join(rows, ", "));
       lines.push_back("FROM " + from);

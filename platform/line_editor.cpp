@@ -16,32 +16,17 @@
 #include <vector>
 
 #include "platform/text_file.h"
+#include "platform/text_fold.h"
 
 namespace morvane {
 
 namespace {
 
-std::string Trim(const std::string& s) {
-  size_t b = s.find_first_not_of(" \t");
-  if (b == std::string::npos) return "";
-  size_t e = s.find_last_not_of(" \t");
-  return s.substr(b, e - b + 1);
-}
+std::string Trim(const std::string& s) { return std::string(text::Trim(s)); }
 
-bool SameNoCase(const std::string& a, const std::string& b) {
-  if (a.size() != b.size()) return false;
-  for (size_t i = 0; i < a.size(); ++i)
-    if (std::tolower(static_cast<unsigned char>(a[i])) !=
-        std::tolower(static_cast<unsigned char>(b[i])))
-      return false;
-  return true;
+bool SameLine(const std::string& a, const std::string& b) {
+  return text::IEquals(text::Trim(a), text::Trim(b));
 }
-
-bool StartsNoCase(const std::string& s, const std::string& prefix) {
-  return s.size() >= prefix.size() && SameNoCase(s.substr(0, prefix.size()), prefix);
-}
-
-bool SameLine(const std::string& a, const std::string& b) { return SameNoCase(Trim(a), Trim(b)); }
 
 std::optional<std::vector<std::string>> Load(const std::filesystem::path& file) {
   std::vector<std::string> lines;
@@ -65,7 +50,7 @@ std::string WithoutScope(std::string s) {
   for (bool again = true; again;) {
     again = false;
     for (const char* scope : {"Public ", "Private ", "Friend ", "Static "}) {
-      if (StartsNoCase(s, scope)) {
+      if (text::IStartsWith(s, scope)) {
         s = Trim(s.substr(std::char_traits<char>::length(scope)));
         again = true;
       }
@@ -78,15 +63,15 @@ std::string WithoutScope(std::string s) {
 std::string ProcedureKind(const std::string& line) {
   std::string s = WithoutScope(Trim(line));
   for (const char* kind : {"Sub", "Function", "Property"})
-    if (StartsNoCase(s, std::string(kind) + " ")) return kind;
+    if (text::IStartsWith(s, std::string(kind) + " ")) return kind;
   return "";
 }
 
 bool IsProcedureEnd(const std::string& line) {
   std::string s = Trim(line);
-  return SameNoCase(s, "End Sub") || SameNoCase(s, "End Function") ||
-         SameNoCase(s, "End Property") || StartsNoCase(s, "End Sub ") ||
-         StartsNoCase(s, "End Function ") || StartsNoCase(s, "End Property ");
+  return text::IEquals(s, "End Sub") || text::IEquals(s, "End Function") ||
+         text::IEquals(s, "End Property") || text::IStartsWith(s, "End Sub ") ||
+         text::IStartsWith(s, "End Function ") || text::IStartsWith(s, "End Property ");
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <cstdio>
 
 #include "platform/text_file.h"
+#include "platform/text_fold.h"
 
 namespace morvane {
 
@@ -14,32 +15,17 @@ namespace {
 
 bool StartsWith(const std::string& s, const char* prefix) { return s.rfind(prefix, 0) == 0; }
 
-std::string Trimmed(const std::string& s) {
-  size_t b = s.find_first_not_of(" \t");
-  if (b == std::string::npos) return "";
-  size_t e = s.find_last_not_of(" \t");
-  return s.substr(b, e - b + 1);
-}
-
-bool StartsWithWordNoCase(const std::string& s, const std::string& word) {
-  if (s.size() < word.size()) return false;
-  for (size_t i = 0; i < word.size(); ++i)
-    if (std::tolower(static_cast<unsigned char>(s[i])) !=
-        std::tolower(static_cast<unsigned char>(word[i])))
-      return false;
-  return true;
-}
+std::string Trimmed(const std::string& s) { return std::string(text::Trim(s)); }
 
 // A Sub, Function or Property header, with its optional scope words.
 bool IsProcedureHeader(const std::string& raw) {
   std::string s = Trimmed(raw);
   for (const char* scope : {"Public ", "Private ", "Friend ", "Static "}) {
-    if (StartsWithWordNoCase(s, scope))
-      s = Trimmed(s.substr(std::char_traits<char>::length(scope)));
+    if (text::IStartsWith(s, scope)) s = Trimmed(s.substr(std::char_traits<char>::length(scope)));
   }
-  if (StartsWithWordNoCase(s, "Static ")) s = Trimmed(s.substr(7));
-  return StartsWithWordNoCase(s, "Sub ") || StartsWithWordNoCase(s, "Function ") ||
-         StartsWithWordNoCase(s, "Property ");
+  if (text::IStartsWith(s, "Static ")) s = Trimmed(s.substr(7));
+  return text::IStartsWith(s, "Sub ") || text::IStartsWith(s, "Function ") ||
+         text::IStartsWith(s, "Property ");
 }
 
 // Lines before the first procedure; the comment lines directly above the
@@ -68,7 +54,7 @@ size_t CodeStart(const std::vector<std::string>& lines) {
       ++i;
     } else if (t == "BEGIN") {  // class header, closed by "END" or "End"
       while (i < lines.size() &&
-             !(Trimmed(lines[i]).size() == 3 && StartsWithWordNoCase(Trimmed(lines[i]), "end")))
+             !(Trimmed(lines[i]).size() == 3 && text::IStartsWith(Trimmed(lines[i]), "end")))
         ++i;
       ++i;
     } else if (StartsWith(t, "Begin ") && i < lines.size()) {  // designer block
@@ -159,7 +145,7 @@ void CodeModule::AddFromString(const std::string& text) {
 
 const ProjectComponent* ProjectModel::Find(const std::string& name) const {
   for (const auto& c : components_)
-    if (c.Name.size() == name.size() && StartsWithWordNoCase(c.Name, name)) return &c;
+    if (c.Name.size() == name.size() && text::IStartsWith(c.Name, name)) return &c;
   return nullptr;
 }
 
@@ -259,7 +245,7 @@ std::string ProjectModel::VbpText(const std::filesystem::path& baseDir) const {
   for (const auto& r : references_) {
     const KnownReference* known = nullptr;
     for (const auto& k : kKnownReferences)
-      if (StartsWithWordNoCase(r.Guid, k.guid) &&
+      if (text::IStartsWith(r.Guid, k.guid) &&
           r.Guid.size() == std::char_traits<char>::length(k.guid))
         known = &k;
     out.push_back("Reference=*\\G" + r.Guid + "#" + HexVersion(r.Major, r.Minor) + "#0#" +

@@ -13,22 +13,14 @@
 
 #include "platform/line_editor.h"
 #include "platform/text_file.h"
+#include "platform/text_fold.h"
 
 namespace morvane {
 
 namespace {
 
-std::string Trim(const std::string& s) {
-  size_t b = s.find_first_not_of(" \t");
-  if (b == std::string::npos) return "";
-  size_t e = s.find_last_not_of(" \t");
-  return s.substr(b, e - b + 1);
-}
-
-std::string Lower(std::string s) {
-  for (char& c : s) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return s;
-}
+std::string Trim(const std::string& s) { return std::string(text::Trim(s)); }
+std::string Lower(const std::string& s) { return text::Lower(s); }
 
 bool Starts(const std::string& lower, const char* prefix) { return lower.rfind(prefix, 0) == 0; }
 

@@ -19,14 +19,14 @@
 
 #include "platform/encoding.h"
 #include "platform/source_module.h"
-#include "platform/source_text.h"
+#include "platform/text_fold.h"
 
 namespace morvane {
 
-using source_text::IEquals;
-using source_text::IStartsWith;
-using source_text::Lower;
-using source_text::Trim;
+using text::IEquals;
+using text::IStartsWith;
+using text::Lower;
+using text::Trim;
 
 namespace {
 

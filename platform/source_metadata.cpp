@@ -8,14 +8,14 @@
 #include <tuple>
 
 #include "platform/encoding.h"
-#include "platform/source_text.h"
 #include "platform/text_file.h"
+#include "platform/text_fold.h"
 
 namespace morvane {
 
-using source_text::IEquals;
-using source_text::Lower;
-using source_text::Trim;
+using text::IEquals;
+using text::Lower;
+using text::Trim;
 
 namespace {
 

@@ -2,13 +2,13 @@
 // declarations section.
 #include "platform/source_module.h"
 
-#include "platform/source_text.h"
+#include "platform/text_fold.h"
 
 namespace morvane {
 
-using source_text::IEquals;
-using source_text::IStartsWith;
-using source_text::Trim;
+using text::IEquals;
+using text::IStartsWith;
+using text::Trim;
 
 std::string ModuleCode::Lines(int start, int count) const {
   std::string out;

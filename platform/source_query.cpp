@@ -14,13 +14,13 @@
 #include <cstdlib>
 
 #include "platform/catalog.h"
-#include "platform/source_text.h"
+#include "platform/text_fold.h"
 
 namespace morvane {
 
-using source_text::IEquals;
-using source_text::IStartsWith;
-using source_text::Trim;
+using text::IEquals;
+using text::IStartsWith;
+using text::Trim;
 
 namespace {
 

@@ -13,16 +13,16 @@
 #include "platform/source_metadata.h"
 #include "platform/source_module.h"
 #include "platform/source_query.h"
-#include "platform/source_text.h"
 #include "platform/text_file.h"
+#include "platform/text_fold.h"
 
 namespace morvane {
 
 namespace fs = std::filesystem;
-using source_text::IEquals;
-using source_text::IStartsWith;
-using source_text::LessNoCase;
-using source_text::Lower;
+using text::IEquals;
+using text::IStartsWith;
+using text::LessNoCase;
+using text::Lower;
 
 std::vector<std::string> SourceTree::Names(AccessObjectKind kind) const {
   std::vector<std::string> names;

@@ -1,6 +1,8 @@
 // Naming helpers and the case-insensitive text primitives they rest on.
 #include "session/naming.h"
 
+#include "platform/text_fold.h"
+
 namespace morvane {
 
 static inline unsigned char Fold(unsigned char c) {
@@ -55,20 +57,14 @@ bool StartsWithLetter(std::string_view text) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
-bool EqualsNoCase(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
-  for (size_t i = 0; i < a.size(); ++i)
-    if (Fold(a[i]) != Fold(b[i])) return false;
-  return true;
+bool EqualsNoCase(std::string_view a, std::string_view b) { return text::IEquals(a, b); }
+
+bool StartsWithNoCase(std::string_view s, std::string_view prefix) {
+  return text::IStartsWith(s, prefix);
 }
 
-bool StartsWithNoCase(std::string_view text, std::string_view prefix) {
-  return text.size() >= prefix.size() && EqualsNoCase(text.substr(0, prefix.size()), prefix);
-}
-
-bool EndsWithNoCase(std::string_view text, std::string_view suffix) {
-  return text.size() >= suffix.size() &&
-         EqualsNoCase(text.substr(text.size() - suffix.size()), suffix);
+bool EndsWithNoCase(std::string_view s, std::string_view suffix) {
+  return text::IEndsWith(s, suffix);
 }
 
 size_t FindNoCase(std::string_view text, std::string_view find, size_t from) {
@@ -82,11 +78,7 @@ size_t FindNoCase(std::string_view text, std::string_view find, size_t from) {
   return std::string_view::npos;
 }
 
-std::string ToLower(std::string_view text) {
-  std::string out(text);
-  for (char& c : out) c = static_cast<char>(Fold(c));
-  return out;
-}
+std::string ToLower(std::string_view s) { return text::Lower(s); }
 
 std::string ToUpper(std::string_view text) {
   std::string out(text);

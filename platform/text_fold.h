@@ -1,4 +1,4 @@
-// Small text primitives of the source tree reader: ASCII case folding and
+// Small text primitives of the platform layer: ASCII case folding and
 // trimming over Windows-1252 text. (The platform layer sits below the naming
 // helpers of the session, so it keeps its own.)
 #pragma once
@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace morvane::source_text {
+namespace morvane::text {
 
 inline char Fold(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; }
 
@@ -51,4 +51,4 @@ inline bool LessNoCase(std::string_view a, std::string_view b) {
   return a < b;
 }
 
-}  // namespace morvane::source_text
+}  // namespace morvane::text
