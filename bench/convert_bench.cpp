@@ -1,0 +1,101 @@
+// Timed driver for a whole conversion run: generates a source tree of 200
+// standard modules of 1,000 lines each (counts from the first two arguments),
+// converts it into a temporary directory through the same driver the command
+// line uses, and prints modules and lines per second and the peak memory.
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "platform/text_file.h"
+#include "session/access_link.h"
+#include "session/conversion_session.h"
+#include "session/driver.h"
+#include "session/user_interface.h"
+#include "translator/code_converter.h"
+
+namespace fs = std::filesystem;
+using namespace morvane;
+
+namespace {
+
+constexpr const char* kBody[] = {
+    "Public Sub Proc%d(ByVal n As Long)",
+    "    ' keep the order list current",
+    "    Dim rs As DAO.Recordset",
+    "    Set rs = CurrentDb().OpenRecordset(\"tblOrders\")",
+    "    Do While Not rs.EOF",
+    "        If rs!Total > n Then DoCmd.OpenForm \"frmOrders\"",
+    "        rs.MoveNext",
+    "    Loop",
+    "    DoCmd.Hourglass False",
+    "    x = Application.hWndAccessApp",
+    "    DoCmd.RunSQL \"DELETE * FROM tblTemp\"",
+    "",
+    "End Sub",
+};
+
+long PeakKiB() {
+  std::ifstream status("/proc/self/status");
+  std::string line;
+  while (std::getline(status, line))
+    if (line.rfind("VmHWM:", 0) == 0) return std::atol(line.c_str() + 6);
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const int modules = argc > 1 ? std::atoi(argv[1]) : 200;
+  const int linesPerModule = argc > 2 ? std::atoi(argv[2]) : 1000;
+  const fs::path root = fs::temp_directory_path() / ("morvane-bench-" + std::to_string(getpid()));
+  fs::create_directories(root / "src" / "modules");
+  long totalLines = 0;
+  for (int m = 0; m < modules; ++m) {
+    std::vector<std::string> lines = {"Attribute VB_Name = \"basBench" + std::to_string(m) + "\"",
+                                      "Option Compare Database", "Option Explicit", ""};
+    for (int p = 0; static_cast<int>(lines.size()) < linesPerModule; ++p)
+      for (const char* l : kBody) {
+        char buf[200];
+        std::snprintf(buf, sizeof buf, l, p);
+        lines.emplace_back(buf);
+      }
+    totalLines += static_cast<long>(lines.size());
+    WriteTextLines(root / "src" / "modules" / ("basBench" + std::to_string(m) + ".bas"), lines,
+                   nullptr);
+  }
+
+  ConversionSession s;
+  ScriptedUserInterface ui(true);
+  s.Ui = &ui;
+  s.DataDir = MORVANE_BENCH_DATA_DIR;
+  AccessLink link;
+  std::string err;
+  if (!link.ChooseDatabase(s, {root / "src", {}, {}}, &err)) {
+    std::fprintf(stderr, "%s\n", err.c_str());
+    return 1;
+  }
+  RunRequest request;
+  request.OutputDir = (root / "out").string();
+  request.Modules = link.Listing().Modules;
+  TranslatorCodeConverter code;
+  Converters converters;
+  converters.Code = &code;
+
+  const auto start = std::chrono::steady_clock::now();
+  RunSummary summary = StartTranslation(s, link, converters, request);
+  const double seconds =
+      std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  std::printf(
+      "%d modules, %ld lines converted in %.2f s: %.0f modules/s, %.0f lines/s; "
+      "peak memory %ld KiB; %d modules in the project\n",
+      modules, totalLines, seconds, modules / seconds, totalLines / seconds, PeakKiB(),
+      summary.Modules);
+  fs::remove_all(root);
+  return summary.Modules == modules ? 0 : 1;
+}
