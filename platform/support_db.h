@@ -69,6 +69,11 @@ class SupportDatabase {
   // Runs SQL without results. False with the engine's message on failure.
   bool Execute(const std::string& sql, std::string* err = nullptr);
 
+  // Groups the writes of a run into one transaction: rows written one at a
+  // time otherwise cost a journal write each. Reads see the open batch.
+  void BeginBatch() { Execute("BEGIN"); }
+  void EndBatch() { Execute("COMMIT"); }
+
   // qryRptOutputDel and qryStatsDel: empty the analysis of an earlier run.
   // tblLog is kept.
   void ClearAnalysis();

@@ -307,9 +307,11 @@ void RunConversion(ConversionSession& s, AccessLink& link, Converters& c, RunSum
     summary.Started = false;
     return;
   }
+  s.SupportDb->BeginBatch();
   s.SupportDb->ClearAnalysis();
   s.SupportDb->ClearRunNotes();
   if (!link.CopySourceDatabase(s, &err)) {  // S3
+    s.SupportDb->EndBatch();
     s.Ui->ShowMessage(err, MessageIcon::Stop);
     summary.Started = false;
     return;
@@ -337,6 +339,7 @@ void RunConversion(ConversionSession& s, AccessLink& link, Converters& c, RunSum
   s.ActiveProject->SaveAs(fs::path(s.OutputPath) / s.ProjectFile, nullptr);
   if (s.Ui) s.Ui->ProgressEnd();  // E2
   CountLines(s, summary);
+  s.SupportDb->EndBatch();
   summary.AnalysisPath = WriteAnalysisReport(s, summary);  // E3, E4
 }
 
