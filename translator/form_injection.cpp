@@ -1,11 +1,102 @@
-// Form procedure injection. Not built yet: nothing is added, and
-// kPipelineStages says so.
+// Form procedure injection: the initialisation the hint processor collected
+// goes into Form_Load and Form_Activate, behind the header where the Access
+// code has the procedure and in a new procedure at the end otherwise; a
+// report gets DataReport_Initialize.
 #include "translator/form_injection.h"
+
+#include "session/conversion_session.h"
+#include "session/converters.h"
+#include "session/naming.h"
 
 namespace morvane {
 
-void InjectAfterLine(ModuleTranslation&, const std::string&) {}
+namespace {
 
-void InjectAtEnd(ModuleTranslation&) {}
+// The form's picture, stretched or tiled over the form. These lines count in
+// no statistic.
+void PictureBlock(ModuleTranslation& t) {
+  const ConversionSession& s = t.Session;
+  if (s.FormPictureStretched) {
+    t.Write("Me.PaintPicture Me.Picture, 0, 0, Me.Width, Me.Height");
+  } else if (s.FormPictureTiled) {
+    for (const char* line :
+         {"Dim dblX As Double", "Dim dblY As Double", "Dim dblWidth As Double",
+          "Dim dblHeight As Double", "", "dblWidth = Me.ScaleX(Me.Picture.Width)",
+          "dblHeight = Me.ScaleY(Me.Picture.Height)", "For dblX = 0 To Me.Width step dblWidth",
+          "For dblY = 0 To Me.Height step dblHeight", "PaintPicture Me.Picture, dblX, dblY ",
+          "Next", "Next"})
+      t.Write(line);
+  }
+}
+
+// A line the injection adds and counts.
+void Counted(ModuleTranslation& t, const std::string& line) {
+  t.Write(line);
+  Bump(t.TotalLines);
+  Bump(t.CodeLines);
+}
+
+void LoadCodeAndCaptions(ModuleTranslation& t) {
+  const ConversionSession& s = t.Session;
+  PictureBlock(t);
+  if (!s.FormLoadCode.empty()) t.Write(s.FormLoadCode);
+  if (!s.LabelCaptionCode.empty()) t.Write(s.LabelCaptionCode);
+}
+
+}  // namespace
+
+void InjectAfterLine(ModuleTranslation& t, const std::string& written) {
+  const ConversionSession& s = t.Session;
+  if (FindNoCase(written, "Sub Form_Load") != std::string::npos) {
+    t.FormLoadSeen = true;
+    if (s.InitCalls[0] || s.InitCalls[1]) Counted(t, "Dim vReturnValue as variant");
+    if (s.InitCalls[0]) Counted(t, "vReturnValue=InitializeListBoxes()");
+    if (s.InitCalls[1]) Counted(t, "vReturnValue=InitializeComboBoxes()");
+    LoadCodeAndCaptions(t);
+  }
+  if (FindNoCase(written, "Sub Form_Activate") != std::string::npos) {
+    t.FormActivateSeen = true;
+    if (s.InitCalls[2]) {
+      Counted(t, "Dim vReturnValue as variant");
+      Counted(t, "vReturnValue=InitialDataCtlCaptions()");
+    }
+  }
+}
+
+void InjectAtEnd(ModuleTranslation& t) {
+  const ConversionSession& s = t.Session;
+  const bool loadWork = s.InitCalls[0] || s.InitCalls[1] || s.FormPictureStretched ||
+                        s.FormPictureTiled || !s.FormLoadCode.empty() ||
+                        !s.LabelCaptionCode.empty();
+  if (!t.FormLoadSeen && loadWork) {
+    t.Write("Private Sub Form_Load()");
+    Bump(t.TotalLines, 2);
+    Bump(t.CodeLines, 2);
+    if (s.InitCalls[0]) Counted(t, "Call InitializeListBoxes()");
+    if (s.InitCalls[1]) Counted(t, "Call InitializeComboBoxes()");
+    if (s.InitCalls[2]) Counted(t, "Call InitialDataCtlCaptions()");
+    LoadCodeAndCaptions(t);
+    t.Write("End Sub");
+    Bump(t.SubCount);
+  }
+  if (!t.FormActivateSeen && s.InitCalls[2]) {
+    t.Write("Private Sub Form_Activate()");
+    t.Write("Dim vReturnValue as variant");
+    t.Write("vReturnValue=InitialDataCtlCaptions()");
+    t.Write("End Sub");
+    Bump(t.TotalLines, 4);
+    Bump(t.CodeLines, 4);
+    Bump(t.SubCount);
+  }
+  if (t.Mode == kModeReport && (!s.ReportInitCode.empty() || t.FormLoadSeen)) {
+    t.Write("Private Sub DataReport_Initialize()");
+    t.Write(s.ReportInitCode);
+    if (t.FormLoadSeen) t.Write("If DataReport_Open() Then Unload Me");
+    t.Write("End Sub");
+    Bump(t.SubCount);
+    Bump(t.TotalLines, 3);
+    Bump(t.CodeLines, 3);
+  }
+}
 
 }  // namespace morvane

@@ -1,9 +1,131 @@
-// The Me rules of form code. Not built yet: every line passes unchanged, and
-// kPipelineStages says so.
+// The Me rules of a form's code: "Me!" becomes "Me.", and references through
+// the form object ("Me." or the form's own name) to record-level properties
+// reach the form's data control, while bound field names read through
+// tblFields become recordset field access.
 #include "translator/me_rules.h"
+
+#include <algorithm>
+#include <cctype>
+#include <string_view>
+
+#include "platform/support_db.h"
+#include "session/conversion_session.h"
+#include "session/naming.h"
+#include "translator/rule_outcomes.h"
+#include "translator/text_helpers.h"
+#include "translator/vb_text.h"
 
 namespace morvane {
 
-void MeRules(ModuleTranslation&, std::string&) {}
+namespace {
+
+enum class Member { Bookmark, CurrentRecord, RecordSource, GoToPage, Flag, Other };
+
+struct MemberRule {
+  std::string_view name;
+  Member kind;
+  bool ConversionSession::*flag;
+};
+
+constexpr MemberRule kMembers[] = {
+    {"Bookmark", Member::Bookmark, nullptr},
+    {"CurrentRecord", Member::CurrentRecord, nullptr},
+    {"RecordSource", Member::RecordSource, nullptr},
+    {"GoToPage", Member::GoToPage, nullptr},
+    {"OpenArgs", Member::Flag, &ConversionSession::UsesOpenArgs},
+    {"Filter", Member::Flag, &ConversionSession::UsesFilter},
+    {"FilterOn", Member::Flag, &ConversionSession::UsesFilterOn},
+    {"OrderBy", Member::Flag, &ConversionSession::UsesOrderBy},
+    {"OrderByOn", Member::Flag, &ConversionSession::UsesOrderByOn},
+};
+
+bool IsIdentifierCharacter(char c) {
+  const unsigned char u = static_cast<unsigned char>(c);
+  return std::isalnum(u) || u == '_' || u > 128;
+}
+
+const MemberRule* FindMember(const std::string& m) {
+  for (const auto& r : kMembers)
+    if (EqualsNoCase(r.name, m)) return &r;
+  return nullptr;
+}
+
+// The form's GoToPage becomes a move of the tab control that stands in for
+// the pages. Returns false when the search for this owner ends.
+bool GoToPage(ModuleTranslation& t, std::string& line, const std::string& owner, int p) {
+  const int ownerLength = Len(owner);
+  const int comma = InStr(line, ",", p);
+  if (comma == 0) {
+    line = owner + ".SSTab1.Tab = " + Mid(line, ownerLength + 10) + " - 1";
+    return true;
+  }
+  auto page = Mid(line, 12, comma - ownerLength - 10);
+  if (!page) return true;
+  if (page->empty()) {
+    Marked(t, line, 2);
+    return true;
+  }
+  const std::string text = owner + ".SSTab1.Tab = " + *page + " - 1";
+  Kept(t, line, text, 7, text, false);
+  return false;
+}
+
+void RulesFor(ModuleTranslation& t, std::string& line, const std::string& owner) {
+  ConversionSession& s = t.Session;
+  const std::string key = owner + ".";
+  const std::string dat = "dat" + t.DataSuffix;
+  // The owner stands as a word of its own: "datOrders." is no reference to
+  // the form "Orders". And the search goes on behind what a rule put in.
+  for (int p = InStrExact(line, key); p != 0;) {
+    if (p > 1 && IsIdentifierCharacter(line[static_cast<size_t>(p - 2)])) {
+      p = InStrExact(line, key, p + 1);
+      continue;
+    }
+    const int behind = p + Len(key);  // first character behind the "."
+    const std::string head = Mid(line, 1, behind - 1).value_or(line);
+    const std::string rest = Mid(line, behind);
+    const std::string m = LeadingIdentifier(rest);
+    const MemberRule* rule = FindMember(m);
+    const Member kind = rule ? rule->kind : Member::Other;
+    std::string inserted;
+    switch (kind) {
+      case Member::Bookmark:
+        inserted = dat + ".recordset.";
+        line = head + inserted + rest;
+        break;
+      case Member::CurrentRecord:
+        inserted = dat + ".recordset.AbsolutePosition";
+        line = head + inserted + rest.substr(m.size());
+        break;
+      case Member::RecordSource:
+        inserted = dat + ".";
+        line = head + inserted + rest;
+        break;
+      case Member::GoToPage:
+        if (!GoToPage(t, line, owner, p)) return;
+        break;
+      case Member::Flag:
+        s.*(rule->flag) = true;
+        break;
+      case Member::Other:
+        if (owner != "Me" || m.empty() || !s.SupportDb) break;
+        if (auto field = s.SupportDb->FindField(m)) {
+          inserted = "dat" + field->Form + ".recordset.Fields(\"" + m + "\")";
+          line = head + inserted + rest.substr(m.size());
+        }
+        break;
+    }
+    p = InStrExact(line, key, std::max(p + 1, Len(head) + Len(inserted) + 1));
+  }
+}
+
+}  // namespace
+
+void MeRules(ModuleTranslation& t, std::string& line) {
+  if (StartsWithNoCase(line, "Me!")) line = "Me." + line.substr(3);
+  line = ReplaceAllText(line, " Me!", " Me.");
+  RulesFor(t, line, "Me");
+  RulesFor(t, line, t.ModuleName);
+}
 
 }  // namespace morvane

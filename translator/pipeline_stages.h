@@ -19,12 +19,12 @@ inline constexpr PipelineStage kPipelineStages[] = {
     {"procedure header and event body rules", true},
     {"Application rules", true},
     {"DoCmd rules", true},
-    {"unsupported features", false},
-    {"Me rules", false},
+    {"unsupported features", true},
+    {"Me rules", true},
     {"report rules", true},
-    {"global substitutions", false},
-    {"form procedure injection", false},
-    {"recordset and option group pass", false},
+    {"global substitutions", true},
+    {"form procedure injection", true},
+    {"recordset and option group pass", true},
 };
 
 constexpr bool StageNamesAreDistinct() {

@@ -1,9 +1,236 @@
-// The recordset and option group pass. Not built yet: the file stays as the
-// first pass wrote it, and kPipelineStages says so.
+// The second pass over a translated file: uses of recordset variables reach
+// their fields with "!", and the option groups that became option button
+// arrays are read through OptionGroupValue and set through their buttons.
 #include "translator/recordset_pass.h"
+
+#include <array>
+#include <filesystem>
+#include <string_view>
+#include <vector>
+
+#include "platform/text_file.h"
+#include "session/conversion_session.h"
+#include "session/naming.h"
+#include "translator/text_helpers.h"
+#include "translator/vb_text.h"
 
 namespace morvane {
 
-void RecordsetPass(ConversionSession&, const std::string&) {}
+namespace {
+
+// The members of a DAO recordset: "rs.MoveNext" stays, "rs.Total" is a field.
+constexpr std::string_view kRecordsetMembers[] = {
+    "BOF",
+    "AddNew",
+    "Bookmark",
+    "Close",
+    "Delete",
+    "Edit",
+    "EOF",
+    "NoMatch",
+    "OpenRecordset",
+    "Requery",
+    "Update",
+    "FindLast",
+    "FindFirst",
+    "FindNext",
+    "FindPrevious",
+    "MoveFirst",
+    "MoveLast",
+    "MoveNext",
+    "MovePrevious",
+    "BatchCollisionCount",
+    "AbsolutePosition",
+    "BatchCollisions",
+    "BatchSize",
+    "Bookmarkable",
+    "CacheSize",
+    "CacheStart",
+    "Cancel",
+    "CancelUpdate",
+    "Clone",
+    "Connection",
+    "CopyQueryDef",
+    "DateCreated",
+    "EditMode",
+    "Fields",
+    "FillCache",
+    "Filter",
+    "GetRows",
+    "Index",
+    "LastModified",
+    "LastUpdated",
+    "LockEdits",
+    "Move",
+    "Name",
+    "NextRecordset",
+    "PercentPosition",
+    "Properties",
+    "RecordCount",
+    "RecordStatus",
+    "Restartable",
+    "Seek",
+    "Sort",
+    "StillExecuting",
+    "Transactions",
+    "Type",
+    "Updatable",
+    "UpdateOptions",
+    "ValidationRule",
+    "ValidationText",
+};
+static_assert(std::size(kRecordsetMembers) == 58);
+
+bool IsRecordsetMember(const std::string& name) {
+  for (auto m : kRecordsetMembers)
+    if (EqualsNoCase(m, name)) return true;
+  return false;
+}
+
+// A list whose element 0 exists from the start and is filled first.
+void AddName(std::vector<std::string>& list, const std::string& name) {
+  if (list[0].empty())
+    list[0] = name;
+  else
+    list.push_back(name);
+}
+
+void RecordsetRule(std::string& line, const std::vector<std::string>& variables) {
+  for (const auto& v : variables) {
+    if (v.empty()) break;
+    const std::string key = v + ".";
+    for (int p = InStr(line, key); p != 0; p = InStr(line, key, p + 1)) {
+      const int dot = p + Len(v);
+      if (!IsRecordsetMember(LeadingIdentifier(Mid(line, dot + 1))))
+        line[static_cast<size_t>(dot - 1)] = '!';
+    }
+  }
+}
+
+bool IsBoundary(const std::string& line, int pos) {
+  if (pos < 1 || pos > Len(line)) return true;
+  const char c = line[static_cast<size_t>(pos - 1)];
+  return c == ' ' || c == '!' || c == '.';
+}
+
+// "grp = x" and "grp.Value = x": the value runs to a comment or a ":".
+std::string Assignment(const std::string& line, int p, const std::string& value,
+                       const std::string& prefix, const std::string& n) {
+  int end = InStr(line, "'", p);
+  if (end == 0) end = InStr(line, ":", p);
+  const int valueStart = Len(line) - Len(value) + 1;
+  std::string x = end == 0 ? value : Mid(line, valueStart, end - valueStart).value_or(value);
+  std::string rest = end == 0 ? std::string() : Mid(line, end);
+  return prefix + n + "(" + x + ").Value = True" + rest;
+}
+
+void OptionGroupRule(ConversionSession& s, std::string& line,
+                     const std::vector<std::string>& groups) {
+  for (size_t gi = 1; gi < groups.size(); ++gi) {
+    const std::string& g = groups[gi];
+    const std::string n = SafeName(g);
+    for (int p = InStr(line, g); p != 0; p = InStr(line, g, p + 1)) {
+      const std::string after = Mid(line, p + Len(g));
+      const std::string before = Mid(line, 1, p - 1).value_or("");
+      auto starts = [&](std::string_view prefix) { return StartsWithNoCase(after, prefix); };
+      if (p == 1) {
+        if (starts(".Value = ")) {
+          line = Assignment(line, p, after.substr(9), "", n);
+        } else if (starts(" = ")) {
+          line = Assignment(line, p, after.substr(3), "", n);
+        } else if (after.empty() || after[0] == ' ') {
+          line = n + "(OptionGroupValue(" + n + ")).Index" + after;
+          s.ListControlsUsed[8] = true;
+        } else if (starts(".Value")) {
+          line = n + "(OptionGroupValue(" + n + "))" + after;
+          s.ListControlsUsed[8] = true;
+        } else if (starts("!") || starts(".")) {
+          line = "grp" + n + after;
+        }
+        continue;
+      }
+      if (!IsBoundary(line, p + Len(g)) || !IsBoundary(line, p - 1)) continue;
+      std::string q = TrailingIdentifier(before);
+      if (!q.empty()) q += ".";
+      const bool valueForm = starts(".Value = ");
+      if (valueForm || starts(" = ")) {
+        const std::string value = after.substr(valueForm ? 9 : 3);
+        // A blank behind the value's first character: the statement goes on,
+        // so this is a test, not an assignment.
+        if (value.find(' ', 1) != std::string::npos) {
+          const std::string token = ExpressionToken(value);
+          line = before + n + "(" + token + ")" + value.substr(token.size());
+        } else {
+          line = Assignment(line, p, value, before, n);
+        }
+      } else if (after.empty() || after[0] == ' ') {
+        line = before + n + "(OptionGroupValue(" + q + n + ")).Index" + after;
+        s.ListControlsUsed[8] = true;
+      } else if (starts(".Value")) {
+        line = before + n + "(OptionGroupValue(" + q + n + ")).Index" + after.substr(6);
+        s.ListControlsUsed[8] = true;
+      } else {
+        line = before + "grp" + n + after;
+      }
+    }
+  }
+}
+
+}  // namespace
+
+void RecordsetPass(ConversionSession& s, const std::string& file) {
+  std::vector<std::string> lines;
+  if (!ReadTextLines(file, &lines, nullptr)) return;
+  std::vector<std::string> members{""}, locals{""}, groups{""};
+  bool inDeclarations = true;
+  for (auto& line : lines) {
+    const std::string trimmed = TrimBlanks(line);
+    if (line.empty() || line[0] == '\'') continue;
+    if (StartsWithNoCase(line, "Dim")) {
+      for (size_t at = FindNoCase(line, " As Recordset"); at != std::string::npos;
+           at = FindNoCase(line, " As Recordset", at + 1)) {
+        const size_t blank = line.rfind(' ', at == 0 ? 0 : at - 1);
+        const size_t from = blank == std::string::npos ? 0 : blank + 1;
+        std::string name = TrimBlanks(line.substr(from, at - from));
+        if (!name.empty() && name.back() == ',') name.pop_back();
+        AddName(inDeclarations ? members : locals, name);
+      }
+      continue;
+    }
+    if (StartsWithNoCase(line, "Public ") || StartsWithNoCase(line, "Private ") ||
+        StartsWithNoCase(line, "Sub ") || StartsWithNoCase(line, "Function ") ||
+        StartsWithNoCase(line, "Property ")) {
+      inDeclarations = false;
+      for (size_t gi = 1; gi < groups.size(); ++gi) {
+        const std::string event = SafeName(groups[gi]) + "_";
+        if (EndsWithNoCase(line, "()") && (StartsWithNoCase(line, "Public Sub " + event) ||
+                                           StartsWithNoCase(line, "Private Sub " + event) ||
+                                           StartsWithNoCase(line, "Sub " + event)))
+          line = line.substr(0, line.size() - 1) + "Index as Integer)";
+      }
+      continue;
+    }
+    if (EqualsNoCase(line, "End Sub") || EqualsNoCase(line, "End Function") ||
+        EqualsNoCase(line, "End Property")) {
+      locals.assign(1, "");
+      continue;
+    }
+    if (StartsWithNoCase(trimmed, "Begin VB.OptionButton")) {
+      const std::string name = TrimBlanks(trimmed.substr(21));
+      bool known = false;
+      for (const auto& g : groups) known = known || g == name;
+      if (!known && !name.empty()) groups.push_back(name);
+      continue;
+    }
+    RecordsetRule(line, members);
+    RecordsetRule(line, locals);
+    if (groups.size() > 1 && !inDeclarations) OptionGroupRule(s, line, groups);
+  }
+  const std::string copy = file + "1";
+  if (!WriteTextLines(copy, lines, nullptr)) return;
+  std::error_code ec;
+  std::filesystem::remove(file, ec);
+  std::filesystem::rename(copy, file, ec);
+}
 
 }  // namespace morvane

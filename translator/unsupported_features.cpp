@@ -1,9 +1,142 @@
-// The unsupported-feature list. Not built yet: every line passes unchanged,
-// and kPipelineStages says so.
+// The unsupported-feature list: the first entry whose text the line holds
+// marks the line with its reason; "Attribute " lines stop the list and are
+// written at once.
 #include "translator/unsupported_features.h"
+
+#include <array>
+#include <string_view>
+
+#include "session/naming.h"
+#include "translator/rule_outcomes.h"
 
 namespace morvane {
 
-bool UnsupportedFeatures(ModuleTranslation&, std::string&) { return false; }
+namespace {
+
+enum class Match { Exact, Any, AttributeLine, FormReference };
+
+struct Feature {
+  std::string_view text;
+  std::string_view alternative;  // a second spelling that fires the entry too
+  Match match;
+  int reason;
+};
+
+// Tried in this order; the first that fires ends the list.
+constexpr Feature kFeatures[] = {
+    {".AllowAdditions", "", Match::Exact, 1},
+    {".AllowEdits", "", Match::Exact, 1},
+    {".MenuBar", "", Match::Exact, 1},
+    {".DataEntry", "", Match::Exact, 1},
+    {".AllowDeletions", "", Match::Exact, 1},
+    {".RunCommand", "", Match::Any, 1},
+    {"CurrentUser()", "", Match::Any, 1},
+    {"Attribute ", "", Match::AttributeLine, 0},
+    {"LB_INITIALIZE", "acLBInitialize", Match::Any, 8},
+    {"LB_OPEN", "acLBOpen", Match::Any, 8},
+    {"LB_GETROWCOUNT", "acLBGetRowCount", Match::Any, 8},
+    {"LB_GETCOLUMNCOUNT", "acLBGetColumnCount", Match::Any, 8},
+    {"LB_GETCOLUMNWIDTH", "acLBGetColumnWidth", Match::Any, 8},
+    {"LB_GETVALUE", "acLBGetValue", Match::Any, 8},
+    {"LB_END", "acLBEnd", Match::Any, 8},
+    {"ACHIDDEN", "", Match::Any, 1},
+    {"Reports!", "", Match::Any, 9},
+    {".ActiveReport", "", Match::Exact, 9},
+    {"DATA_ERRADDED", "", Match::Any, 1},
+    {".RecordsetClone", "", Match::Exact, 1},
+    {".form", "", Match::FormReference, 1},
+    {".DefaultEditing", "", Match::Exact, 1},
+    {"DDEExecute", "", Match::Exact, 1},
+    {"DDEInitiate", "", Match::Exact, 1},
+    {"DDEPoke", "", Match::Exact, 1},
+    {"DDERequest", "", Match::Exact, 1},
+    {"DDESend", "", Match::Exact, 1},
+    {"DDETerminate", "", Match::Exact, 1},
+    {".Undo", "", Match::Exact, 1},
+    {".Locked", "", Match::Exact, 1},
+    {".SourceObject", "", Match::Exact, 1},
+    {".RowSource", "", Match::Exact, 1},
+    {".Painting", "", Match::Exact, 1},
+    {".AllowEditing", "", Match::Exact, 1},
+    {".HiddenPageBreak", "", Match::Exact, 1},
+    {".AllDataAccessPages", "", Match::Exact, 1},
+    {".AllMacros", "", Match::Exact, 1},
+    {".AllModules", "", Match::Exact, 1},
+    {".AllReports", "", Match::Exact, 1},
+    // Assigning an event property has no counterpart either.
+    {".OnAction", "", Match::Exact, 12},
+    {".OnActivate", "", Match::Exact, 12},
+    {".OnAddnNew", "", Match::Exact, 12},
+    {".OnApplyFilter", "", Match::Exact, 12},
+    {".OnChange", "", Match::Exact, 12},
+    {".OnClick", "", Match::Exact, 12},
+    {".OnClose", "", Match::Exact, 12},
+    {".OnCurrent", "", Match::Exact, 12},
+    {".OnDblClick", "", Match::Exact, 12},
+    {".OnDeactivate", "", Match::Exact, 12},
+    {".OnDelete", "", Match::Exact, 12},
+    {".OnEnter", "", Match::Exact, 12},
+    {".OnError", "", Match::Exact, 12},
+    {".OnExit", "", Match::Exact, 12},
+    {".OnFilter", "", Match::Exact, 12},
+    {".OnGotFocus", "", Match::Exact, 12},
+    {".OnKeyDown", "", Match::Exact, 12},
+    {".OnKeyPress", "", Match::Exact, 12},
+    {".OnKeyUp", "", Match::Exact, 12},
+    {".OnLoad", "", Match::Exact, 12},
+    {".OnLostFocus", "", Match::Exact, 12},
+    {".OnMouseDown", "", Match::Exact, 12},
+    {".OnMouseMove", "", Match::Exact, 12},
+    {".OnMouseUp", "", Match::Exact, 12},
+    {".OnNotInList", "", Match::Exact, 12},
+    {".OnOpen", "", Match::Exact, 12},
+    {".OnResize", "", Match::Exact, 12},
+    {".OnTimer", "", Match::Exact, 12},
+    {".OnUnload", "", Match::Exact, 12},
+    {".OnUpdated", "", Match::Exact, 12},
+    {".ObjectPalette", "", Match::Exact, 12},
+};
+
+constexpr bool FeaturesAreWellFormed() {
+  for (size_t i = 0; i < std::size(kFeatures); ++i) {
+    if (kFeatures[i].text.empty()) return false;
+    for (size_t j = 0; j < i; ++j)
+      if (kFeatures[i].text == kFeatures[j].text) return false;
+  }
+  return true;
+}
+static_assert(FeaturesAreWellFormed(), "no empty or repeated entry");
+
+bool Holds(const std::string& line, std::string_view text, bool exact) {
+  if (text.empty()) return false;
+  return exact ? line.find(text) != std::string::npos : FindNoCase(line, text) != std::string::npos;
+}
+
+}  // namespace
+
+bool UnsupportedFeatures(ModuleTranslation& t, std::string& line) {
+  for (const auto& f : kFeatures) {
+    bool fires = false;
+    switch (f.match) {
+      case Match::Exact:
+        fires = Holds(line, f.text, true) || Holds(line, f.alternative, true);
+        break;
+      case Match::Any:
+        fires = Holds(line, f.text, false) || Holds(line, f.alternative, false);
+        break;
+      case Match::AttributeLine:
+        if (StartsWithNoCase(line, f.text)) return true;
+        break;
+      case Match::FormReference:
+        fires = Holds(line, f.text, false) && !Holds(line, "vb.form", false);
+        break;
+    }
+    if (fires) {
+      Marked(t, line, f.reason);
+      return false;
+    }
+  }
+  return false;
+}
 
 }  // namespace morvane

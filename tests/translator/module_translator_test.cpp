@@ -240,9 +240,9 @@ TEST(WorkedExample, AFormsOpenEvent) {
             (Lines{
                 "Private Function Form_Open() as Integer",
                 "Orders.Show\t'MORVANE DoCmd.OpenForm \"Orders\"",
-                // The Me! reference is left to the Me rules, which are not built
-                // yet; with them this line reads "If Me.Total > 0 Then ...".
-                "If Me!Total > 0 Then Form_Open = True",
+                // No field "Total" in tblFields: the Me rules leave a control
+                // reference as it is, with "." for "!".
+                "If Me.Total > 0 Then Form_Open = True",
                 "End Function",
             }));
   auto rows = t.Rows();

