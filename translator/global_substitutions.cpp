@@ -92,13 +92,33 @@ static_assert(NoEmptyFind(kDatabaseNames) && NoEmptyFind(kDatabaseVariable) &&
                   NoEmptyFind(kProperties) && NoEmptyFind(kSysCmdConstants),
               "every replacement finds something");
 
-void Replace(std::string& line, std::string_view find, std::string_view with) {
-  if (FindNoCase(line, find) != std::string::npos) line = ReplaceAllText(line, find, with);
-}
+// The line with its lower-case copy, so that the many tests of a line that
+// no rule changes cost one scan each; the copy is renewed after a change.
+class FoldedLine {
+ public:
+  explicit FoldedLine(std::string& line) : line_(line), lower_(ToLower(line)) {}
+  bool Contains(std::string_view find) const {
+    char buf[64];
+    if (find.size() > sizeof buf) return FindNoCase(line_, find) != std::string::npos;
+    for (size_t i = 0; i < find.size(); ++i)
+      buf[i] = (find[i] >= 'A' && find[i] <= 'Z') ? static_cast<char>(find[i] + 32) : find[i];
+    return lower_.find(std::string_view(buf, find.size())) != std::string::npos;
+  }
+  void Replace(std::string_view find, std::string_view with) {
+    if (!Contains(find)) return;
+    line_ = ReplaceAllText(line_, find, with);
+    Changed();
+  }
+  void Changed() { lower_ = ToLower(line_); }
+
+ private:
+  std::string& line_;
+  std::string lower_;
+};
 
 template <size_t N>
-void ReplaceAll(std::string& line, const Replacement (&table)[N]) {
-  for (const auto& r : table) Replace(line, r.find, r.with);
+void ReplaceAll(FoldedLine& folded, const Replacement (&table)[N]) {
+  for (const auto& r : table) folded.Replace(r.find, r.with);
 }
 
 bool IsNameCharacter(char c) {
@@ -160,36 +180,43 @@ bool FormReferenceStep(const ConversionSession& s, std::string& line) {
 
 void GlobalSubstitutions(ModuleTranslation& t, std::string& line) {
   ConversionSession& s = t.Session;
-  ReplaceAll(line, kDatabaseNames);
-  if (!s.IsAdp) ReplaceAll(line, kDatabaseVariable);
+  FoldedLine folded(line);
+  ReplaceAll(folded, kDatabaseNames);
+  if (!s.IsAdp) ReplaceAll(folded, kDatabaseVariable);
   for (const auto& r : kProperties) {
     if (r.find == " Form," && StartsWithNoCase(line, "Dim")) continue;
-    Replace(line, r.find, r.with);
+    folded.Replace(r.find, r.with);
   }
 
   for (const auto& request : kRequests)
-    if (FindNoCase(line, request.text) != std::string::npos)
+    if (folded.Contains(request.text))
       s.ListControlsUsed[static_cast<size_t>(request.template_index)] = true;
 
   // Each step removes one reference; the bound only guards against a text
   // that would not shrink.
-  for (int guard = 0; guard < 1000 && FormReferenceStep(s, line); ++guard) {
+  if (folded.Contains("forms(") || folded.Contains("forms!")) {
+    for (int guard = 0; guard < 1000 && FormReferenceStep(s, line); ++guard) {
+    }
+    folded.Changed();
   }
 
-  Replace(line, ".Object", "");
+  folded.Replace(".Object", "");
   if (!StartsWithNoCase(line, "Public ") && !StartsWithNoCase(line, "Private ") &&
       !StartsWithNoCase(line, "Dim "))
-    Replace(line, "()", "");
-  Replace(line, ".Attributes", "!Attributes");
-  Replace(line, ".SourceTableName", "!SourceTableName");
-  if (EqualsNoCase(line, "Quit")) line = "End";
+    folded.Replace("()", "");
+  folded.Replace(".Attributes", "!Attributes");
+  folded.Replace(".SourceTableName", "!SourceTableName");
+  if (EqualsNoCase(line, "Quit")) {
+    line = "End";
+    folded.Changed();
+  }
 
-  if (FindNoCase(line, "SysCmd(") != std::string::npos) {
-    line = ReplaceAllText(line, "SysCmd(", "SysCmdVB(");
+  if (folded.Contains("SysCmd(")) {
+    folded.Replace("SysCmd(", "SysCmdVB(");
     s.ListControlsUsed[s.IsMdi ? 6 : 7] = true;
   }
-  ReplaceAll(line, kSysCmdConstants);
-  Replace(line, ".TimerInterval", ".Timer1.Interval");
+  ReplaceAll(folded, kSysCmdConstants);
+  folded.Replace(".TimerInterval", ".Timer1.Interval");
 }
 
 }  // namespace morvane

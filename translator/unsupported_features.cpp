@@ -107,28 +107,31 @@ constexpr bool FeaturesAreWellFormed() {
 }
 static_assert(FeaturesAreWellFormed(), "no empty or repeated entry");
 
-bool Holds(const std::string& line, std::string_view text, bool exact) {
+// `lower` is the line in lower case, for the tests that ignore case.
+bool Holds(const std::string& line, const std::string& lower, std::string_view text, bool exact) {
   if (text.empty()) return false;
-  return exact ? line.find(text) != std::string::npos : FindNoCase(line, text) != std::string::npos;
+  if (exact) return line.find(text) != std::string::npos;
+  return lower.find(ToLower(text)) != std::string::npos;
 }
 
 }  // namespace
 
 bool UnsupportedFeatures(ModuleTranslation& t, std::string& line) {
+  const std::string lower = ToLower(line);
   for (const auto& f : kFeatures) {
     bool fires = false;
     switch (f.match) {
       case Match::Exact:
-        fires = Holds(line, f.text, true) || Holds(line, f.alternative, true);
+        fires = Holds(line, lower, f.text, true) || Holds(line, lower, f.alternative, true);
         break;
       case Match::Any:
-        fires = Holds(line, f.text, false) || Holds(line, f.alternative, false);
+        fires = Holds(line, lower, f.text, false) || Holds(line, lower, f.alternative, false);
         break;
       case Match::AttributeLine:
         if (StartsWithNoCase(line, f.text)) return true;
         break;
       case Match::FormReference:
-        fires = Holds(line, f.text, false) && !Holds(line, "vb.form", false);
+        fires = Holds(line, lower, f.text, false) && !Holds(line, lower, "vb.form", false);
         break;
     }
     if (fires) {
