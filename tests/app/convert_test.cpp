@@ -42,15 +42,18 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_EQ(Snapshot((dir / "Orders").string()), before);
 
-  for (auto f : {"Orders.vbp", "basOrders.bas", "clsCustomer.bas", "Date Helpers.bas",
-                 "MorvaneConversionCode.bas", "MDIParent.frm", "morvane.db", "analysis/index.html"})
+  for (auto f :
+       {"Orders.vbp", "basOrders.bas", "basStatistics.bas", "clsCustomer.bas", "Date Helpers.bas",
+        "MorvaneConversionCode.bas", "MDIParent.frm", "morvane.db", "analysis/index.html"})
     EXPECT_TRUE(fs::exists(dir / "out" / f)) << f;
   // Extraction files of the translator do not stay.
   for (const auto& e : fs::directory_iterator(dir / "out"))
     EXPECT_NE(e.path().extension(), ".txt") << e.path();
 
   const std::string vbp = ReadFile(dir / "out" / "Orders.vbp");
-  const auto order = {"Module=basOrders; basOrders.bas", "Class=clsCustomer; clsCustomer.bas",
+  const auto order = {"Module=basOrders; basOrders.bas",
+                      "Module=basStatistics; basStatistics.bas",
+                      "Class=clsCustomer; clsCustomer.bas",
                       "Module=Date_Helpers; Date Helpers.bas",
                       "Module=MorvaneConversionCode; MorvaneConversionCode.bas",
                       "Form=MDIParent.frm"};
@@ -73,9 +76,23 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
     EXPECT_TRUE(problems.empty()) << e.path().filename() << ": " << problems.front();
     ++checked;
   }
-  EXPECT_EQ(checked, 5);
+  EXPECT_EQ(checked, 6);
 
-  EXPECT_NE(r.out.find("Converted 3 object(s)"), std::string::npos) << r.out;
+  // The conversion code holds the run-time support the modules call, and
+  // nothing else.
+  const std::string code = ReadFile(dir / "out" / "MorvaneConversionCode.bas");
+  for (const char* wanted : {"Public Function SysCmdVB(", "Public Function DSum(",
+                             "Public Function DCount(", "Public Function DLookup("})
+    EXPECT_NE(code.find(wanted), std::string::npos) << wanted;
+  for (const char* unwanted : {"Function AddItems", "Public Function DAvg(",
+                               "Public Function OptionGroupValue(", "Public Function DMax("})
+    EXPECT_EQ(code.find(unwanted), std::string::npos) << unwanted;
+  const std::string statistics = ReadFile(dir / "out" / "basStatistics.bas");
+  EXPECT_NE(statistics.find("curTotal = curTotal + rs!Amount"), std::string::npos);
+  EXPECT_NE(statistics.find("frmOrders!txtCount = DCount("), std::string::npos);
+  EXPECT_NE(statistics.find("varResult = SysCmdVB(4, "), std::string::npos);
+
+  EXPECT_NE(r.out.find("Converted 4 object(s)"), std::string::npos) << r.out;
   EXPECT_NE(r.out.find("analysis/index.html"), std::string::npos) << r.out;
   // What the run could not do is said, not skipped.
   EXPECT_NE(r.out.find("frmOrders: Form conversion is not available"), std::string::npos) << r.out;
@@ -84,7 +101,7 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   auto db = SupportDatabase::Open(dir / "out" / "morvane.db", MORVANE_DATA_DIR, &err);
   ASSERT_TRUE(db) << err;
   auto stats = db->Stats();
-  ASSERT_EQ(stats.size(), 3u);
+  ASSERT_EQ(stats.size(), 4u);
   EXPECT_EQ(stats[0].ModuleName, "basOrders");
   EXPECT_GT(stats[0].TotalLines, 50);
   EXPECT_FALSE(db->ReportOutput().empty());
@@ -164,7 +181,8 @@ TEST(List, PrintsTheCatalogInItsOrder) {
   auto r = RunMorvane({"list", kSample.string()});
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_EQ(r.out,
-            "Forms:\n  frmOrders\nModules:\n  basOrders\n  clsCustomer\n  Date Helpers\n"
+            "Forms:\n  frmOrders\nModules:\n  basOrders\n  basStatistics\n  clsCustomer\n"
+            "  Date Helpers\n"
             "Reports:\nMacros:\n  AutoExec\n");
 }
 
