@@ -1,0 +1,135 @@
+// Reading the property table, once, from the text compiled into the program.
+#include "forms/control_defaults.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <stdexcept>
+
+#include "forms/access_control_defaults_data.h"
+#include "platform/text_fold.h"
+
+namespace morvane {
+
+namespace {
+
+struct KindName {
+  std::string_view Name;
+  PropertyKind Kind;
+};
+
+constexpr KindName kKinds[] = {
+    {"text", PropertyKind::Text},   {"number", PropertyKind::Number}, {"flag", PropertyKind::Flag},
+    {"bytes", PropertyKind::Bytes}, {"event", PropertyKind::Event},
+};
+
+// Order by case-folded name alone, so a lookup in any case finds the row.
+bool LessFolded(const PropertyDefault& a, std::string_view b) {
+  size_t n = std::min(a.Name.size(), b.size());
+  for (size_t i = 0; i < n; ++i) {
+    auto x = static_cast<unsigned char>(text::Fold(a.Name[i]));
+    auto y = static_cast<unsigned char>(text::Fold(b[i]));
+    if (x != y) return x < y;
+  }
+  return a.Name.size() < b.size();
+}
+
+std::vector<std::string_view> SplitTabs(std::string_view line) {
+  std::vector<std::string_view> fields;
+  size_t start = 0;
+  while (true) {
+    size_t tab = line.find('\t', start);
+    fields.push_back(line.substr(start, tab == std::string_view::npos ? tab : tab - start));
+    if (tab == std::string_view::npos) return fields;
+    start = tab + 1;
+  }
+}
+
+bool IsNumberText(std::string_view v) {
+  if (v.empty()) return false;
+  std::string s(v);
+  char* end = nullptr;
+  std::strtod(s.c_str(), &end);
+  return end && *end == '\0';
+}
+
+}  // namespace
+
+const PropertyDefault* PropertySchema::Find(std::string_view name) const {
+  auto it = std::lower_bound(properties_.begin(), properties_.end(), name, LessFolded);
+  if (it == properties_.end() || !text::IEquals(it->Name, name)) return nullptr;
+  return &*it;
+}
+
+bool ParseControlDefaults(std::string_view text, std::vector<PropertySchema>* out,
+                          std::string* err) {
+  out->clear();
+  int lineNo = 0;
+  auto fail = [&](const std::string& message) {
+    if (err) *err = "line " + std::to_string(lineNo) + ": " + message;
+    return false;
+  };
+  size_t pos = 0;
+  while (pos <= text.size()) {
+    size_t nl = text.find('\n', pos);
+    std::string_view line = text.substr(pos, nl == std::string_view::npos ? nl : nl - pos);
+    pos = nl == std::string_view::npos ? text.size() + 1 : nl + 1;
+    ++lineNo;
+    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+    if (text::Trim(line).empty() || line[0] == '#') continue;
+    auto f = SplitTabs(line);
+    if (f.size() != 4)
+      return fail("expected 4 tab-separated fields, found " + std::to_string(f.size()));
+    if (f[0].empty() || f[1].empty()) return fail("empty type or property name");
+    PropertyDefault d;
+    d.Name = std::string(f[1]);
+    const KindName* kind = nullptr;
+    for (const auto& k : kKinds)
+      if (k.Name == f[2]) kind = &k;
+    if (!kind) return fail("unknown kind \"" + std::string(f[2]) + "\"");
+    d.Kind = kind->Kind;
+    d.Value = std::string(f[3]);
+    if (d.Kind == PropertyKind::Flag && d.Value != "True" && d.Value != "False")
+      return fail("flag " + d.Name + " must default to True or False");
+    if (d.Kind == PropertyKind::Number && !IsNumberText(d.Value))
+      return fail("number " + d.Name + " has no numeric default");
+    if (d.Kind == PropertyKind::Text && d.Value == "(null)") {
+      d.IsNull = true;
+      d.Value.clear();
+    }
+    if (out->empty() || out->back().type_ != f[0]) {
+      for (const auto& s : *out)
+        if (s.type_ == f[0]) return fail("rows of type " + s.type_ + " are not together");
+      out->emplace_back();
+      out->back().type_ = std::string(f[0]);
+    }
+    auto& props = out->back().properties_;
+    auto it = std::lower_bound(props.begin(), props.end(), d.Name, LessFolded);
+    if (it != props.end() && text::IEquals(it->Name, d.Name))
+      return fail(out->back().type_ + " lists " + d.Name + " twice");
+    props.insert(it, std::move(d));
+  }
+  return true;
+}
+
+const std::vector<PropertySchema>& AllSchemas() {
+  static const std::vector<PropertySchema> schemas = [] {
+    std::vector<PropertySchema> parsed;
+    std::string err;
+    std::string_view text(reinterpret_cast<const char*>(kAccessControlDefaultsTsv),
+                          sizeof(kAccessControlDefaultsTsv));
+    // The table is part of the program; a broken one is a build defect, and
+    // the tests read it on their first run.
+    if (!ParseControlDefaults(text, &parsed, &err))
+      throw std::logic_error("access_control_defaults.tsv: " + err);
+    return parsed;
+  }();
+  return schemas;
+}
+
+const PropertySchema* SchemaFor(std::string_view type) {
+  for (const auto& s : AllSchemas())
+    if (text::IEquals(s.Type(), type)) return &s;
+  return nullptr;
+}
+
+}  // namespace morvane

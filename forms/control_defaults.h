@@ -1,0 +1,47 @@
+// The table of which properties each Access object type has and the value
+// Access gives one that the text leaves out (data/access_control_defaults.tsv,
+// compiled in). Reading a property that the type's table lacks fails.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace morvane {
+
+enum class PropertyKind { Text, Number, Flag, Bytes, Event };
+
+struct PropertyDefault {
+  std::string Name;
+  PropertyKind Kind = PropertyKind::Text;
+  std::string Value;    // as the table writes it; flags "True"/"False"
+  bool IsNull = false;  // a text property whose default is Null
+};
+
+class PropertySchema {
+ public:
+  const std::string& Type() const { return type_; }
+  // The property by name, without regard to case; null when the type does
+  // not have it.
+  const PropertyDefault* Find(std::string_view name) const;
+  const std::vector<PropertyDefault>& Properties() const { return properties_; }
+
+ private:
+  friend bool ParseControlDefaults(std::string_view, std::vector<PropertySchema>*, std::string*);
+  std::string type_;
+  std::vector<PropertyDefault> properties_;  // sorted by name, case folded
+};
+
+// The schema of a block type ("TextBox", "Form", "GroupedCheckBox", ...)
+// from the compiled-in table; null for a type the table does not describe.
+const PropertySchema* SchemaFor(std::string_view type);
+const std::vector<PropertySchema>& AllSchemas();
+
+// Parses table text: tab-separated rows "type, property, kind, default",
+// blank lines and "#" comments allowed. False with "line N: ..." on a
+// malformed row, an unknown kind, a flag that is neither True nor False, a
+// number default that is no number, or a property listed twice for a type.
+bool ParseControlDefaults(std::string_view text, std::vector<PropertySchema>* out,
+                          std::string* err);
+
+}  // namespace morvane
