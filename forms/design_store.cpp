@@ -17,16 +17,16 @@ const char* KindWord(AccessObjectKind kind) {
 }  // namespace
 
 DesignStore::DesignStore(const SourceTree& tree)
-    : source_([&tree](AccessObjectKind kind, const std::string& name,
-                      std::vector<std::string>* lines, std::string* file, bool* missing,
-                      std::string* err) {
+    : source_([&tree](AccessObjectKind kind, const std::string& name, ExportText* out,
+                      bool* missing, std::string* err) {
         const SourceObject* object = tree.Find(kind, name);
         if (!object) {
           *missing = true;
           return false;
         }
-        *file = object->File.string();
-        return ReadExportLines(object->File, lines, err);
+        out->File = object->File.string();
+        out->Name = object->Name;
+        return ReadExportLines(object->File, &out->Lines, err);
       }) {}
 
 DesignStore::DesignStore(LineSource source) : source_(std::move(source)) {}
@@ -41,16 +41,17 @@ const FormDesign* DesignStore::Open(AccessObjectKind kind, const std::string& na
   auto found = entries_.find(key);
   if (found == entries_.end()) {
     Entry entry;
-    std::vector<std::string> lines;
-    std::string file;
+    ExportText text;
     bool missing = false;
     std::string readErr;
-    if (!source_(kind, name, &lines, &file, &missing, &readErr)) {
+    if (!source_(kind, name, &text, &missing, &readErr)) {
       entry.Error = missing ? std::string("the ") + KindWord(kind) + " \"" + name +
                                   "\" is not in the source tree"
                             : readErr;
     } else {
-      entry.Design = LoadDesign(lines, file, name, &entry.Error);
+      const std::string& file = text.File;
+      entry.Design =
+          LoadDesign(text.Lines, file, text.Name.empty() ? name : text.Name, &entry.Error);
       if (entry.Design) {
         bool isReport = entry.Design->IsReport();
         if (isReport != (kind == AccessObjectKind::Report)) {

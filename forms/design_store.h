@@ -16,12 +16,16 @@ namespace morvane {
 
 class DesignStore {
  public:
-  // Finds an object's export: its lines (Windows-1252) and the file name to
-  // give in messages. False with a message when the object is not there or
-  // cannot be read; `missing` tells the first case from the second.
+  // An object's export as the store needs it.
+  struct ExportText {
+    std::vector<std::string> Lines;  // Windows-1252
+    std::string File;                // named in messages
+    std::string Name;                // the object's own spelling; empty: as asked
+  };
+  // Finds an object's export. False with a message when the object is not
+  // there or cannot be read; `missing` tells the first case from the second.
   using LineSource = std::function<bool(AccessObjectKind kind, const std::string& name,
-                                        std::vector<std::string>* lines, std::string* file,
-                                        bool* missing, std::string* err)>;
+                                        ExportText* out, bool* missing, std::string* err)>;
 
   explicit DesignStore(const SourceTree& tree);
   explicit DesignStore(LineSource source);

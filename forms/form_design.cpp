@@ -33,6 +33,12 @@ bool IsIdentifierChar(char c) {
 
 constexpr std::string_view kEmbeddedMacroMark = "[Embedded Macro]";
 
+// Event properties are named On..., Before... or After....
+bool IsEventName(std::string_view name) {
+  return text::IStartsWith(name, "On") || text::IStartsWith(name, "Before") ||
+         text::IStartsWith(name, "After");
+}
+
 }  // namespace
 
 // --- DesignObject -----------------------------------------------------------
@@ -112,9 +118,9 @@ std::optional<DesignObject::Value> DesignObject::Resolve(std::string_view name) 
   auto v = Stored(name);
   // An event whose action is an embedded macro names that macro; the text
   // may leave the event out or mark it "[Embedded Macro]".
-  if ((!v ||
-       (v->kind == Value::Kind::Text && (v->text.empty() || v->text == kEmbeddedMacroMark))) &&
-      block_) {
+  if (block_ && IsEventName(name) &&
+      (!v ||
+       (v->kind == Value::Kind::Text && (v->text.empty() || v->text == kEmbeddedMacroMark)))) {
     std::string macroKey = std::string(name) + std::string(kEmbeddedMacroSuffix);
     const ExportProperty* m = block_->Find(macroKey);
     if (m && m->Kind == ExportValueKind::Block) {

@@ -9,6 +9,7 @@
 
 #include "forms/design_loader.h"
 #include "platform/text_file.h"
+#include "session/naming.h"
 #include "support/temp_dir.h"
 #include "tests/forms/design_texts.h"
 
@@ -18,25 +19,32 @@ namespace {
 class DesignStoreTest : public ::testing::Test {
  protected:
   DesignStoreTest()
-      : store_([this](AccessObjectKind kind, const std::string& name,
-                      std::vector<std::string>* lines, std::string* file, bool* missing,
-                      std::string*) {
+      : store_([this](AccessObjectKind kind, const std::string& name, DesignStore::ExportText* out,
+                      bool* missing, std::string*) {
           ++reads_[name];
-          std::string key = (kind == AccessObjectKind::Report ? "r:" : "f:") + name;
-          auto it = texts_.find(key);
-          if (it == texts_.end()) {
-            *missing = true;
-            return false;
+          for (const Export& e : exports_) {
+            if (e.kind != kind || !EqualsNoCase(e.name, name)) continue;
+            out->Lines = SplitLines(e.text);
+            out->File = e.name + ".txt";
+            out->Name = e.name;
+            return true;
           }
-          *lines = SplitLines(it->second);
-          *file = name + ".txt";
-          return true;
+          *missing = true;
+          return false;
         }) {}
 
-  std::map<std::string, std::string> texts_ = {
-      {"f:frmCustomers", test::kCustomersForm},        {"f:frmOrders", test::kOrdersForm},
-      {"f:frmOrderLines", test::kOrderLinesForm},      {"r:rptSales", test::kSalesReport},
-      {"f:frmBroken", "Begin Form\n  Caption =\"x\n"}, {"f:frmReallyReport", "Begin Report\nEnd\n"},
+  struct Export {
+    AccessObjectKind kind;
+    std::string name;
+    std::string text;
+  };
+  const std::vector<Export> exports_ = {
+      {AccessObjectKind::Form, "frmCustomers", test::kCustomersForm},
+      {AccessObjectKind::Form, "frmOrders", test::kOrdersForm},
+      {AccessObjectKind::Form, "frmOrderLines", test::kOrderLinesForm},
+      {AccessObjectKind::Report, "rptSales", test::kSalesReport},
+      {AccessObjectKind::Form, "frmBroken", "Begin Form\n  Caption =\"x\n"},
+      {AccessObjectKind::Form, "frmReallyReport", "Begin Report\nEnd\n"},
   };
   std::map<std::string, int> reads_;
   DesignStore store_;
@@ -47,6 +55,7 @@ TEST_F(DesignStoreTest, OpensEachDesignOnceWhateverTheCase) {
   const FormDesign* a = store_.OpenForm("frmCustomers", &err);
   ASSERT_NE(a, nullptr) << err;
   EXPECT_EQ(store_.OpenForm("FRMCUSTOMERS", &err), a);
+  EXPECT_EQ(store_.OpenForm("FRMCUSTOMERS", &err)->Name(), "frmCustomers");
   EXPECT_EQ(reads_["frmCustomers"], 1);
   EXPECT_EQ(a->Name(), "frmCustomers");
   EXPECT_EQ(store_.OpenCount(), 1u);
@@ -64,6 +73,8 @@ TEST_F(DesignStoreTest, SubformsResolveTwoLevelsDeep) {
   ASSERT_NE(orders, nullptr) << err;
   EXPECT_EQ(orders->Name(), "frmOrders");
   EXPECT_EQ(orders->Number("DefaultView"), 2);
+  // The SourceObject spells the name in lower case; the design has the
+  // tree's spelling, as Access gives the form's own name.
   const FormDesign* lines = orders->Control("subLines")->Form(&err);
   ASSERT_NE(lines, nullptr) << err;
   EXPECT_EQ(lines->Name(), "frmOrderLines");

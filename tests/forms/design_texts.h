@@ -241,7 +241,7 @@ Begin Form
                 End
                 Begin Subform
                     Name ="subLines"
-                    SourceObject ="frmOrderLines"
+                    SourceObject ="frmorderlines"
                 End
                 Begin Subform
                     Name ="subGone"

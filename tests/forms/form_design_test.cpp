@@ -8,6 +8,7 @@
 #include "forms/control_types.h"
 #include "forms/design_loader.h"
 #include "platform/text_file.h"
+#include "support/temp_dir.h"
 #include "tests/forms/design_texts.h"
 
 namespace morvane {
@@ -475,6 +476,30 @@ TEST(DesignLoader, ErrorsNameFileAndLine) {
     EXPECT_EQ(LoadDesign(SplitLines(r.text), "x.txt", "x", &err), nullptr) << r.name;
     EXPECT_EQ(err, r.error) << r.name;
   }
+}
+
+TEST(DesignLoader, FilesThatAreNoTextNameTheFile) {
+  test::TempDir dir;
+  struct Row {
+    const char* file;
+    std::string bytes;
+  };
+  const Row rows[] = {
+      {"binary.txt", std::string("Version =20\nBegin Form\0\x01\x02End\n", 24)},
+      {"odd_utf16.txt", std::string("\xFF\xFEV\0e\0r", 7)},
+  };
+  for (const Row& r : rows) {
+    test::WriteFile(dir / r.file, r.bytes);
+    std::string err;
+    EXPECT_EQ(LoadDesignFile(dir / r.file, "x", &err), nullptr) << r.file;
+    EXPECT_NE(err.find((dir / r.file).string()), std::string::npos) << err;
+  }
+  test::WriteFile(dir / "ok.txt", test::Crlf("Version =20\nBegin Form\n    Caption =\"A\"\nEnd\n"));
+  std::string err;
+  auto f = LoadDesignFile(dir / "ok.txt", "frmOk", &err);
+  ASSERT_NE(f, nullptr) << err;
+  EXPECT_EQ(f->File(), (dir / "ok.txt").string());
+  EXPECT_EQ(f->Text("Caption"), "A");
 }
 
 TEST(DesignLoader, UnknownBlocksAreNotedNotFatal) {
