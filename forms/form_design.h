@@ -26,7 +26,8 @@ class ControlDesign;
 
 enum class DesignKind { Form, Report, Section, Control, GroupLevel };
 
-// The text an event property holds when its action is an embedded macro.
+// The key of an event's embedded macro block is the event's name plus this
+// ("OnClick" + "EmMacro").
 inline constexpr std::string_view kEmbeddedMacroSuffix = "EmMacro";
 
 // Common to all records: properties by name.
