@@ -10,6 +10,7 @@
 
 #include "app/command_line_ui.h"
 #include "app/text_output.h"
+#include "forms/design_store.h"
 #include "platform/catalog.h"
 #include "session/access_link.h"
 #include "session/conversion_session.h"
@@ -107,6 +108,20 @@ bool Select(const std::vector<std::string>& requested, const std::vector<std::st
   return true;
 }
 
+// Reads the design of every form and report the tree has, so that an export
+// that cannot be read is named (file and line) before anything is converted.
+std::vector<std::string> DesignProblems(const SourceTree& tree) {
+  std::vector<std::string> problems;
+  DesignStore store(tree);
+  for (auto kind : {AccessObjectKind::Form, AccessObjectKind::Report}) {
+    for (const auto& name : tree.Names(kind)) {
+      std::string err;
+      if (!store.Open(kind, name, &err)) problems.push_back(err);
+    }
+  }
+  return problems;
+}
+
 void PrintList(const char* heading, const std::vector<std::string>& names) {
   std::printf("%s:\n", heading);
   for (const auto& n : names) std::printf("  %s\n", Windows1252ToUtf8(n).c_str());
@@ -137,9 +152,12 @@ int RunList(const Options& o) {
     for (const auto& [name, value] : db.PropertyList())
       std::printf("  %s = %s\n", Windows1252ToUtf8(name).c_str(), Windows1252ToUtf8(value).c_str());
   }
-  if (link.Tree())
+  if (link.Tree()) {
     for (const auto& w : link.Tree()->Warnings())
       std::fprintf(stderr, "morvane: warning: %s\n", Windows1252ToUtf8(w).c_str());
+    for (const auto& p : DesignProblems(*link.Tree()))
+      std::fprintf(stderr, "morvane: warning: %s\n", Windows1252ToUtf8(p).c_str());
+  }
   return 0;
 }
 
@@ -171,7 +189,12 @@ int RunConvert(const Options& o, const char* argv0) {
   std::string err;
   if (!link.ChooseDatabase(s, {o.source, o.sourceTree, o.layout}, &err)) return Fail(err);
   if (!o.adoConnect.empty()) s.AdoConnect = Utf8ToWindows1252(o.adoConnect);
-  for (const auto& w : link.Tree() ? link.Tree()->Warnings() : std::vector<std::string>{})
+  std::vector<std::string> warnings;
+  if (link.Tree()) {
+    warnings = link.Tree()->Warnings();
+    for (auto& p : DesignProblems(*link.Tree())) warnings.push_back(std::move(p));
+  }
+  for (const auto& w : warnings)
     std::fprintf(stderr, "morvane: warning: %s\n", Windows1252ToUtf8(w).c_str());
 
   CatalogListing offered = link.Listing();

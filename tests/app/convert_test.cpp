@@ -228,3 +228,21 @@ TEST(List, DetailsOfARealJet4Database) {
 
 }  // namespace
 }  // namespace morvane
+
+namespace morvane {
+namespace {
+
+TEST(List, AFormThatCannotBeReadIsNamedWithItsLine) {
+  test::TempDir dir;
+  fs::copy(kSample, dir / "Orders", fs::copy_options::recursive);
+  test::WriteFile(dir / "Orders" / "forms" / "frmBroken.txt",
+                  test::Crlf("Version =20\nBegin Form\n    Caption =\"x\"\n    Begin\n"));
+  auto r = test::RunMorvane({"list", (dir / "Orders").string()});
+  ASSERT_EQ(r.status, 0) << r.err;
+  EXPECT_NE(r.out.find("  frmBroken\n"), std::string::npos) << r.out;
+  EXPECT_NE(r.err.find("frmBroken.txt:4: "), std::string::npos) << r.err;
+  EXPECT_EQ(r.err.find("frmOrders"), std::string::npos) << r.err;
+}
+
+}  // namespace
+}  // namespace morvane
