@@ -270,6 +270,11 @@ std::string QuotedValueAt(const std::vector<std::string>& lines, size_t* index) 
     size_t q = text.find('"');
     if (q == std::string_view::npos) return;
     for (size_t k = q + 1; k < text.size(); ++k) {
+      if (text[k] == '\\' && k + 1 < text.size()) {  // an escape: kept whole for below
+        raw += text[k];
+        raw += text[++k];
+        continue;
+      }
       if (text[k] == '"') {
         if (k + 1 < text.size() && text[k + 1] == '"') {
           raw += '"';
@@ -291,8 +296,12 @@ std::string QuotedValueAt(const std::vector<std::string>& lines, size_t* index) 
     ++*index;
   }
   std::string out;
+  // Escapes as Access writes them: \" and \\ for the characters, \015 and
+  // \012 for CR and LF.
   for (size_t k = 0; k < raw.size(); ++k) {
-    if (raw.compare(k, 4, "\\015") == 0) {
+    if (raw[k] == '\\' && k + 1 < raw.size() && (raw[k + 1] == '"' || raw[k + 1] == '\\')) {
+      out += raw[++k];
+    } else if (raw.compare(k, 4, "\\015") == 0) {
       out += '\r';
       k += 3;
     } else if (raw.compare(k, 4, "\\012") == 0) {
