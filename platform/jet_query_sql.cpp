@@ -130,45 +130,53 @@ std::string TableText(const QueryPart& t) {
   return text;
 }
 
-// The FROM list: joined tables chained in the order of the joins, the others
-// behind them with commas.
+// One joined part of the FROM list: its text and the tables (by alias or
+// name) inside it.
+struct JoinGroup {
+  std::string text;
+  std::vector<std::string> members;
+  bool joined = false;  // a join expression, bracketed when it is nested
+};
+
+std::string Nested(const JoinGroup& g) { return g.joined ? "(" + g.text + ")" : g.text; }
+
+// The FROM list as Access writes it: each join nests the parts that already
+// hold its two tables, so a chain of joins reads
+// "(A INNER JOIN B ON ...) INNER JOIN C ON ..." and two joined pairs meet as
+// "(A INNER JOIN B ON ...) INNER JOIN (C INNER JOIN D ON ...) ON ...".
+// Parts appear in the order of their first table, separated by commas.
 std::string FromText(const Design& d) {
-  std::vector<std::string> used;
   auto key = [](const QueryPart& t) { return t.Name2.empty() ? t.Name1 : t.Name2; };
-  auto find = [&](const std::string& name) -> const QueryPart* {
-    for (const auto* t : d.tables)
-      if (key(*t) == name) return t;
-    return nullptr;
+  std::vector<JoinGroup> groups;
+  for (const auto* t : d.tables) groups.push_back({TableText(*t), {key(*t)}, false});
+  auto groupOf = [&](const std::string& name) -> int {
+    for (size_t i = 0; i < groups.size(); ++i)
+      if (std::find(groups[i].members.begin(), groups[i].members.end(), name) !=
+          groups[i].members.end())
+        return static_cast<int>(i);
+    groups.push_back({Bracket(name), {name}, false});
+    return static_cast<int>(groups.size() - 1);
   };
-  auto isUsed = [&](const std::string& name) {
-    return std::find(used.begin(), used.end(), name) != used.end();
-  };
-  std::string joined;
   for (const auto* j : d.joins) {
     const char* kind = j->Flag == 2   ? " LEFT JOIN "
                        : j->Flag == 3 ? " RIGHT JOIN "
                                       : " INNER JOIN ";
-    const QueryPart* left = find(j->Name1);
-    const QueryPart* right = find(j->Name2);
-    std::string leftText = left ? TableText(*left) : Bracket(j->Name1);
-    std::string rightText = right ? TableText(*right) : Bracket(j->Name2);
-    if (joined.empty()) {
-      joined = leftText + kind + rightText + " ON " + j->Expression;
-      used = {j->Name1, j->Name2};
-    } else if (isUsed(j->Name1) && !isUsed(j->Name2)) {
-      joined = "(" + joined + ")" + kind + rightText + " ON " + j->Expression;
-      used.push_back(j->Name2);
-    } else if (isUsed(j->Name2) && !isUsed(j->Name1)) {
-      joined = leftText + kind + "(" + joined + ") ON " + j->Expression;
-      used.push_back(j->Name1);
-    } else {
-      joined += " AND " + j->Expression;
+    const int left = groupOf(j->Name1);
+    const int right = groupOf(j->Name2);
+    if (left == right) {
+      groups[left].text += " AND " + j->Expression;
+      continue;
     }
+    JoinGroup& target = groups[std::min(left, right)];
+    JoinGroup& other = groups[std::max(left, right)];
+    JoinGroup merged{Nested(groups[left]) + kind + Nested(groups[right]) + " ON " + j->Expression,
+                     target.members, true};
+    merged.members.insert(merged.members.end(), other.members.begin(), other.members.end());
+    target = std::move(merged);
+    groups.erase(groups.begin() + std::max(left, right));
   }
   std::vector<std::string> items;
-  if (!joined.empty()) items.push_back(joined);
-  for (const auto* t : d.tables)
-    if (!isUsed(key(*t))) items.push_back(TableText(*t));
+  for (const auto& g : groups) items.push_back(g.text);
   std::string from = Join(items, ", ");
   if (!d.remoteDatabase.empty()) from += " IN '" + d.remoteDatabase + "'";
   return from;
