@@ -1,0 +1,29 @@
+// Event code of controls and forms: the event properties of the design
+// become Visual Basic event procedures in the form's output file, existing
+// procedures are renamed to their Visual Basic names and signatures, and
+// Access events that fold into one Visual Basic event get call lines.
+#pragma once
+
+#include <string>
+
+#include "session/hint_processor.h"
+
+namespace morvane {
+
+class DesignStore;
+
+// The hint actions of the event writers; the other records keep the base
+// behaviour until their converters exist.
+class EventHintActions : public HintActions {
+ public:
+  explicit EventHintActions(DesignStore& store) : store_(store) {}
+  void ControlEvents(ConversionSession& s, const std::string& kind, const std::string& hintForm,
+                     const ControlHint& control) override;
+  void FormEvents(ConversionSession& s, const std::string& formName, const std::string& hintForm,
+                  const std::string& subformControl) override;
+
+ protected:
+  DesignStore& store_;
+};
+
+}  // namespace morvane

@@ -1,0 +1,115 @@
+// The form writer: turns the design of one Access form into the text of a
+// Visual Basic form file (.frm) and its hint file (.hnt). It holds the state
+// of the form under construction, the form header and sections, the walk
+// over the controls with their placement and unique names, and the final
+// assembly. The control writers, data controls and pictures build on it.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace morvane {
+
+struct ConversionSession;
+class DesignStore;
+class FormDesign;
+class ControlDesign;
+
+// The state of one form under construction; one record for the whole walk,
+// subform passes included.
+struct FormTextSet {
+  std::string HeaderText;  // "VERSION 5.00" and the Object lines
+  std::string BodyText;    // Begin VB.Form: properties, then controls
+  std::array<std::string, 5> SectionText;  // 1..4: header, footer, page header, page footer
+  std::string PageTabHead;
+  std::string PageTabBody;
+  std::string OwnerFormName;
+  const FormDesign* CurrentForm = nullptr;
+  const ControlDesign* CurrentControl = nullptr;
+  const ControlDesign* CurrentTabControl = nullptr;
+  std::string ParentFormName;
+  std::string ParentControlName;
+  bool InSubform = false;
+  bool HasPageBreaks = false;
+  bool InTabControl = false;
+  bool InRepeater = false;
+  bool HeaderOnly = false;
+  long SectionOffset = 0;
+  long SubformTop = 0;
+  long SubformLeft = 0;
+  long TabShift = 0;
+  int PageIndex = 0;
+  long PageLeft = 0;
+  std::vector<long> PageBreakTops{0};
+  std::vector<int> PageControlCounts;
+  int FormControlCount = 0;
+  int FormPartialCount = 0;
+  std::vector<std::string> UsedControlNames;
+  std::vector<std::string> TabUsedNames;
+  std::vector<std::string> OptionGroupNames;
+  std::vector<std::string> ComponentFiles;
+  std::vector<std::string> ComponentGuids;
+  std::array<int, 4> AlignmentMap{3, 0, 2, 1};
+  std::string PictureReference;
+  // Section tops measured by WriteForm, in twips.
+  long HeaderHeight = 0;
+  long DetailTop = 0;
+  long PageFooterTop = 0;
+  long FormFooterTop = 0;
+  long Total = 0;
+};
+
+class FormWriter {
+ public:
+  FormWriter(ConversionSession& s, DesignStore& store);
+
+  // Writes <OutputPath><SafeName(form)>.frm and .hnt. False with a message
+  // when the design cannot be opened; nothing is written then.
+  bool ConvertForm(const std::string& formName, std::string* err = nullptr);
+  // One walk over a form; calls itself for embedded subforms.
+  void WriteForm(const std::string& formName, bool isSubform, int pass, bool headerOnly);
+
+  ConversionSession& Session() { return s_; }
+  DesignStore& Store() { return store_; }
+  FormTextSet& Text() { return t_; }
+  const FormTextSet& Text() const { return t_; }
+
+  // Registers an ActiveX component for the Object lines; a file already
+  // listed is ignored.
+  void AddComponent(const std::string& guid, const std::string& file);
+  // finish false: clears the components and the used names and starts the
+  // header with "VERSION 5.00"; finish true: appends the Object lines.
+  void WriteComponentLines(bool finish);
+
+  // Sets the session's CurrentControlName to a name unique in the form.
+  void MakeControlName(const ControlDesign& c);
+  // Routes a control's finished text to the body, a section frame or the
+  // page-break tab control.
+  void PutControlText(const std::string& text);
+  // Opens the frame of section n (1..4) of the top form.
+  void CreateSection(const FormDesign& form, int n);
+  // Page of a page-broken form that holds the current control.
+  void LocatePage();
+  // {Left} and {Top} of the current control; nullopt when unreadable.
+  std::optional<long> ControlLeft(const ControlDesign& c) const;
+  std::optional<long> ControlTop(const ControlDesign& c) const;
+  // SectionOffset from a control's section, as the walk sets it; `adjust`
+  // applies the page-break shift to the footers.
+  void SetSectionOffset(const ControlDesign& c, bool adjust = true);
+
+  // <OutputPath><SafeName(OwnerFormName)>.frx
+  std::string FrxPath() const;
+
+ private:
+  void WriteFormHeader(const FormDesign& form);
+  void WalkControls();
+  void WriteControl(const ControlDesign& c);
+
+  ConversionSession& s_;
+  DesignStore& store_;
+  FormTextSet t_;
+};
+
+}  // namespace morvane
