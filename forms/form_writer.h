@@ -20,8 +20,8 @@ class ControlDesign;
 // The state of one form under construction; one record for the whole walk,
 // subform passes included.
 struct FormTextSet {
-  std::string HeaderText;  // "VERSION 5.00" and the Object lines
-  std::string BodyText;    // Begin VB.Form: properties, then controls
+  std::string HeaderText;                  // "VERSION 5.00" and the Object lines
+  std::string BodyText;                    // Begin VB.Form: properties, then controls
   std::array<std::string, 5> SectionText;  // 1..4: header, footer, page header, page footer
   std::string PageTabHead;
   std::string PageTabBody;
@@ -110,6 +110,7 @@ class FormWriter {
   ConversionSession& s_;
   DesignStore& store_;
   FormTextSet t_;
+  bool totalValid_ = true;  // the section heights summed within 16 bits
 };
 
 }  // namespace morvane

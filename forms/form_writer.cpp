@@ -1,0 +1,521 @@
+// The form writer: state reset, the walk of one form, placement, unique
+// names, routing of control text, section frames and the final assembly.
+#include "forms/form_writer.h"
+
+#include "forms/control_writers.h"
+#include "forms/data_controls.h"
+#include "forms/design_store.h"
+#include "forms/form_design.h"
+#include "forms/frm_text.h"
+#include "forms/picture_extraction.h"
+#include "platform/support_db.h"
+#include "platform/text_file.h"
+#include "session/conversion_session.h"
+#include "session/hint_processor.h"
+#include "session/naming.h"
+#include "session/user_interface.h"
+
+namespace morvane {
+
+namespace {
+
+constexpr int kLabel = 100, kRectangle = 101, kLine = 102, kImage = 103, kButton = 104,
+              kOptionButton = 105, kCheckBox = 106, kOptionGroup = 107, kBoundObject = 108,
+              kTextBox = 109, kListBox = 110, kComboBox = 111, kSubform = 112, kUnboundObject = 114,
+              kPageBreak = 118, kCustom = 119, kToggle = 122, kTab = 123, kPage = 124;
+
+bool IsTabOrPage(const DesignObject& o) {
+  if (o.Kind() != DesignKind::Control) return false;
+  int type = static_cast<const ControlDesign&>(o).ControlType();
+  return type == kTab || type == kPage;
+}
+
+std::optional<long> SectionHeight(const FormDesign& f, int n) {
+  const SectionDesign* section = f.Section(n);
+  if (!section) return std::nullopt;
+  return section->Number("Height");
+}
+
+// Sums over section heights are 16-bit: a total above 32767 fails.
+bool AddHeight(long& y, long h) {
+  if (y + h > 32767 || y + h < -32768) return false;
+  y += h;
+  return true;
+}
+
+// What the walk meets but this build does not convert yet: a line in the
+// analysis rather than a silent gap in the form.
+void NotConvertedYet(ConversionSession& s, const std::string& form, const std::string& what) {
+  if (s.SupportDb) s.SupportDb->AddRunNote(form, what + " is not converted yet");
+}
+
+std::string ControlKindName(int type) {
+  switch (type) {
+    case kListBox:
+      return "list box";
+    case kComboBox:
+      return "combo box";
+    case kSubform:
+      return "subform";
+    case kTab:
+      return "tab control";
+    case kPageBreak:
+      return "page break";
+    default:
+      return "control";
+  }
+}
+
+}  // namespace
+
+FormWriter::FormWriter(ConversionSession& s, DesignStore& store) : s_(s), store_(store) {}
+
+std::string FormWriter::FrxPath() const {
+  return s_.OutputPath + SafeName(t_.OwnerFormName) + ".frx";
+}
+
+bool FormWriter::ConvertForm(const std::string& formName, std::string* err) {
+  if (s_.OptionWordLength != 11) return false;
+  t_ = FormTextSet{};
+  s_.HintText.clear();
+  if (s_.SupportDb) s_.SupportDb->ClearFields();
+  std::string why;
+  if (!store_.OpenForm(formName, &why)) {
+    if (err) *err = why;
+    return false;
+  }
+  // A .frx of an earlier run would otherwise keep its records ahead of ours.
+  t_.OwnerFormName = formName;
+  std::error_code ec;
+  std::filesystem::remove(FrxPath(), ec);
+  WriteForm(formName, false, 1, false);
+
+  std::string text = t_.HeaderText + "\r\n" + t_.BodyText;
+  for (int n = 1; n <= 4; ++n)
+    if (!t_.SectionText[n].empty()) text += "\r\n" + t_.SectionText[n] + "\r\nEnd";
+  if (!t_.PageTabHead.empty()) text += "\r\n" + t_.PageTabHead;
+  if (!t_.PageTabBody.empty()) text += "\r\n" + t_.PageTabBody + "\r\nEnd";
+  text += "\r\nEnd\r\n";
+  const std::string base = s_.OutputPath + SafeName(formName);
+  bool ok = WriteFileBytes(base + ".frm", text, &why);
+  ok = WriteFileBytes(base + ".hnt", s_.HintText + "\r\n", &why) && ok;
+  if (!ok && err) *err = why;
+  return ok;
+}
+
+void FormWriter::WriteForm(const std::string& formName, bool isSubform, int pass, bool headerOnly) {
+  if (!isSubform) {
+    t_.SubformTop = 0;
+    t_.SubformLeft = 0;
+    t_.OwnerFormName = formName;
+    t_.HasPageBreaks = false;
+    t_.OptionGroupNames.assign(1, std::string());
+    t_.ParentControlName.clear();
+  }
+  t_.InSubform = isSubform;
+  t_.HeaderOnly = headerOnly;
+  const FormDesign* form = nullptr;
+  if (isSubform) {
+    if (const FormDesign* parent = store_.OpenForm(t_.ParentFormName, nullptr))
+      if (const ControlDesign* c = parent->Control(t_.ParentControlName)) form = c->Form();
+  } else {
+    form = store_.OpenForm(formName, nullptr);
+  }
+  if (!form) return;
+  t_.CurrentForm = form;
+
+  // Sections stacked: form header, page header, detail, page footer, form
+  // footer. A section the form does not have counts 0.
+  // A read that fails leaves the sum as it is; the top taken after it is
+  // still set. A sum above 16 bits fails, and the height lines are left out.
+  long y = 0;
+  bool overflow = false;
+  auto add = [&](int n) {
+    if (auto h = SectionHeight(*form, n)) {
+      if (AddHeight(y, *h)) return *h;
+      overflow = true;
+    }
+    return 0L;
+  };
+  t_.HeaderHeight = add(1);
+  add(3);
+  t_.DetailTop = y;
+  add(0);
+  t_.PageFooterTop = y;
+  add(4);
+  t_.FormFooterTop = y;
+  add(2);
+  t_.Total = y;
+  totalValid_ = !overflow;
+
+  t_.PageBreakTops.assign(1, 0);
+  if (pass == 1) {
+    for (const ControlDesign& c : form->Controls())
+      if (c.ControlType() == kPageBreak && c.Section() == 0) {
+        // The page-break tab control is not built yet: the form is written
+        // as one page and the analysis says so.
+        NotConvertedYet(s_, t_.OwnerFormName, "page break " + c.Name());
+      }
+  }
+  if (!isSubform) WriteFormHeader(*form);
+  AddHint(s_, {"FormCode", formName, t_.ParentControlName});
+  if (auto source = form->Text("RecordSource"); source && !source->empty())
+    WriteFormDataControl(*this);
+  if (!isSubform) {
+    for (const ControlDesign& c : form->Controls())
+      if (c.ControlType() == kTab) NotConvertedYet(s_, t_.OwnerFormName, "tab control " + c.Name());
+  }
+  WalkControls();
+  for (const ControlDesign& c : form->Controls()) {
+    if (c.ControlType() != kRectangle) continue;
+    t_.CurrentControl = &c;
+    SetSectionOffset(c, false);
+    WriteShape(*this);
+  }
+  if (isSubform) return;
+
+  for (int n = 1; n <= 4; ++n)
+    if (!t_.SectionText[n].empty()) {
+      ++t_.FormControlCount;
+      break;
+    }
+  if (auto interval = form->Number("TimerInterval"); interval && *interval > 0) {
+    t_.BodyText += "\r\nBegin VB.Timer Timer1\r\nLeft = 0\r\nTop = 0\r\nInterval = " +
+                   std::to_string(*interval) + "\r\nEnd";
+  }
+  AddHint(s_,
+          {"CtlCounts", std::to_string(t_.FormControlCount), std::to_string(t_.FormPartialCount)});
+  if (t_.FormControlCount > 254) AddHint(s_, {"TooManyControls", formName});
+  WriteComponentLines(true);
+}
+
+void FormWriter::WriteFormHeader(const FormDesign& form) {
+  WriteComponentLines(false);
+  std::string& b = t_.BodyText;
+  const std::string name = form.Name();
+  const std::string safe = SafeName(name);
+  if (!StartsWithLetter(name))
+    b += "Begin VB.Form a" + safe.substr(0, 39);
+  else
+    b += "Begin VB.Form " + safe.substr(0, 40);
+  auto line = [&b](std::string_view head, const std::optional<std::string>& v,
+                   std::string_view tail = "") {
+    if (v) b += "\r\n" + std::string(head) + *v + std::string(tail);
+  };
+  line("BorderStyle = ", ValueText(form, "BorderStyle"));
+  {
+    auto caption = form.Text("Caption");
+    line("Caption =\"", caption && !caption->empty() ? caption : std::optional(name), "\"");
+  }
+  std::optional<std::string> height;
+  if (totalValid_) height = std::to_string(t_.Total);
+  line("ClientHeight = ", height);
+  b += "\r\nClientLeft = 250 \r\nClientTop = 500 ";
+  line("ClientWidth = ", ValueText(form, "Width"));
+  line("Height = ", height);
+  b += "\r\nLeft = 250\r\nLinkTopic = \"\"";
+  line("MaxButton = ", ValueText(form, "MaxButton"));
+  line("MinButton = ", ValueText(form, "MinButton"));
+  b += "\r\nShowInTaskbar = 0\r\nTop = 500";
+  line("Width = ", ValueText(form, "Width"));
+  if (const SectionDesign* detail = form.Section(0))
+    if (auto color = detail->Number("BackColor")) line("BackColor= &H", ColorHex(*color), "&");
+  line("ControlBox=", ValueText(form, "ControlBox"));
+  std::string font;
+  AddFixedFontLines(font, "BeginProperty Font ", "Arial", "8");
+  font.resize(font.size() - 2);
+  b += "\r\n" + font;
+  b += "\r\nForeColor=&H00000000&";
+  {
+    auto popup = form.Flag("PopUp");
+    auto modal = form.Flag("Modal");
+    // A guard that cannot be read counts as met.
+    bool dialog = popup.value_or(true) && modal.value_or(true);
+    if (!popup || !modal) dialog = false;
+    if (s_.IsMdi && !dialog) b += "\r\nMDIChild = -1";
+  }
+  line("HelpContextID=", ValueText(form, "HelpContextId"));
+  if (auto picture = form.Bytes("PictureData"); picture && !picture->empty()) {
+    std::string offset = ExtractPicture(*this, name, "", false);
+    if (!offset.empty()) {
+      b += "\r\nPicture = \"" + safe + ".frx\":" + offset + "\r\nAutoRedraw = -1";
+      AddHint(s_, {"FormImage", ValueText(form, "PictureSizeMode").value_or(""),
+                   ValueText(form, "PictureTiling").value_or("")});
+    }
+  }
+}
+
+void FormWriter::AddComponent(const std::string& guid, const std::string& file) {
+  for (const auto& f : t_.ComponentFiles)
+    if (f == file) return;
+  t_.ComponentFiles.push_back(file);
+  t_.ComponentGuids.push_back(guid);
+}
+
+void FormWriter::WriteComponentLines(bool finish) {
+  if (!finish) {
+    t_.ComponentFiles.clear();
+    t_.ComponentGuids.clear();
+    t_.UsedControlNames.clear();
+    t_.HeaderText = "VERSION 5.00";
+    return;
+  }
+  for (size_t i = 0; i < t_.ComponentFiles.size(); ++i)
+    t_.HeaderText +=
+        "\r\nObject=\"{" + t_.ComponentGuids[i] + "}\"; \"" + t_.ComponentFiles[i] + "\"";
+}
+
+void FormWriter::MakeControlName(const ControlDesign& c) {
+  std::string name = SafeName(c.Name()).substr(0, 40);
+  if (!name.empty() && (name[0] == '_' || (name[0] >= '0' && name[0] <= '9'))) name = "A" + name;
+  int counter = 0;
+  for (size_t i = 0; i < t_.UsedControlNames.size(); ++i) {
+    if (counter > 26) {
+      name = name.substr(0, 38) + "A";
+      counter = 0;
+    }
+    if (t_.UsedControlNames[i] == name) {
+      name += static_cast<char>(65 + counter);
+      ++counter;
+      i = static_cast<size_t>(-1);
+    }
+  }
+  t_.UsedControlNames.push_back(name);
+  s_.CurrentControlName = name;
+}
+
+void FormWriter::PutControlText(const std::string& text) {
+  const ControlDesign* c = t_.CurrentControl;
+  const int section = c ? c->Section() : 0;
+  if (t_.InTabControl) {
+    t_.BodyText += "\r\n" + text;
+  } else if (t_.HasPageBreaks && section == 0) {
+    t_.PageTabBody += text + "\r\n";
+  } else if (!t_.InSubform && section > 0) {
+    t_.PageIndex = 0;
+    t_.PageLeft = 0;
+    if (section > 4) {
+      if (s_.Ui) s_.Ui->ShowMessage("unhandled select file!", MessageIcon::Stop);
+      return;
+    }
+    t_.SectionText[section] += text + "\r\n";
+  } else {
+    t_.BodyText += "\r\n" + text;
+    t_.PageIndex = 0;
+    t_.PageLeft = 0;
+  }
+}
+
+void FormWriter::CreateSection(const FormDesign& form, int n) {
+  if (t_.InSubform) return;
+  if (n < 1 || n > 4) {
+    if (s_.Ui) s_.Ui->ShowMessage("Bad parameter: CreateSection", MessageIcon::Stop);
+    return;
+  }
+  const SectionDesign* section = form.Section(n);
+  std::string text = "Begin VB.Frame Section\r\nCaption =  \"\"\r\n";
+  if (section) {
+    if (auto color = section->Number("BackColor"))
+      AddLine(text, "BackColor= &H" + ColorHex(*color) + "&");
+    AddLine(text, "Height = ", ValueText(*section, "Height"));
+  }
+  AddLine(text, "Left = 0");
+  AddLine(text, "Index = " + std::to_string(n));
+  if (section) AddTagLine(text, *section);
+  AddLine(text, "Top = " + std::to_string(t_.SectionOffset));
+  AddLine(text, "Width = ", ValueText(form, "Width"));
+  AddLine(text, "BorderStyle = 0");
+  if (n >= 3) {
+    AddLine(text, "Visible = 0");
+  } else if (section) {
+    auto visible = section->Flag("Visible");
+    if (!visible || !*visible) AddLine(text, "Visible = 0");
+  }
+  if (t_.SectionText[n].empty()) t_.SectionText[n] = text;
+}
+
+void FormWriter::LocatePage() {
+  const ControlDesign* c = t_.CurrentControl;
+  if (t_.HasPageBreaks && c && c->Section() == 0) {
+    const long top = c->Number("Top").value_or(0);
+    int page = 0;
+    for (int i = static_cast<int>(t_.PageBreakTops.size()) - 1; i >= 0; --i)
+      if (t_.PageBreakTops[i] < top) {
+        page = i;
+        break;
+      }
+    if (t_.PageControlCounts.size() <= static_cast<size_t>(page))
+      t_.PageControlCounts.resize(page + 1);
+    const int count = ++t_.PageControlCounts[page];
+    const std::string shown =
+        c->ControlType() == kOptionGroup ? "grp" + s_.CurrentControlName : s_.CurrentControlName;
+    t_.PageTabHead += "Tab(" + std::to_string(page) + ").Control(" + std::to_string(count - 1) +
+                      ")=\"" + shown + "\"\r\n";
+    t_.PageIndex = page;
+    t_.PageLeft = page == 0 ? 0 : -75000;
+    return;
+  }
+  if (!t_.InTabControl) t_.PageLeft = 0;
+}
+
+std::optional<long> FormWriter::ControlLeft(const ControlDesign& c) const {
+  auto left = c.Number("Left");
+  if (!left) return std::nullopt;
+  return *left + t_.PageLeft + t_.SubformLeft;
+}
+
+std::optional<long> FormWriter::ControlTop(const ControlDesign& c) const {
+  auto top = c.Number("Top");
+  if (!top) return std::nullopt;
+  const long o = (c.Section() == 0 || t_.InSubform || t_.InTabControl) ? t_.SectionOffset : 0;
+  const long breakTop =
+      t_.PageIndex >= 0 && static_cast<size_t>(t_.PageIndex) < t_.PageBreakTops.size()
+          ? t_.PageBreakTops[t_.PageIndex]
+          : 0;
+  return *top + o + t_.SubformTop - breakTop - t_.TabShift;
+}
+
+void FormWriter::SetSectionOffset(const ControlDesign& c, bool adjust) {
+  const FormDesign* form = t_.CurrentForm;
+  // The footers move up when the detail section becomes a tab control of the
+  // first page's height.
+  auto adjusted = [&](long top) {
+    if (!adjust || t_.PageBreakTops.size() < 2 || !form) return top;
+    long detail = SectionHeight(*form, 0).value_or(0);
+    return top - (detail - t_.PageBreakTops[1]) + 520;
+  };
+  if (adjust && t_.HasPageBreaks && c.Section() == 0) {
+    t_.SectionOffset = 520;
+    return;
+  }
+  switch (c.Section()) {
+    case 1:
+      t_.SectionOffset = 0;
+      break;
+    case 3:
+      t_.SectionOffset = t_.HeaderHeight;
+      break;
+    case 0:
+      t_.SectionOffset = t_.DetailTop;
+      break;
+    case 4:
+      t_.SectionOffset = adjusted(t_.PageFooterTop);
+      break;
+    case 2:
+      t_.SectionOffset = adjusted(t_.FormFooterTop);
+      break;
+    default:
+      break;
+  }
+}
+
+void FormWriter::WalkControls() {
+  const FormDesign& form = *t_.CurrentForm;
+  const std::string formName = form.Name();
+  for (const ControlDesign& c : form.Controls()) {
+    t_.CurrentControl = &c;
+    // Controls on tab pages belong to the tab walk.
+    const DesignObject& parent = c.Parent();
+    if (parent.Name() != formName) {
+      if (IsTabOrPage(parent)) continue;
+      if (const ControlDesign* pc = c.ParentControl()) {
+        const DesignObject& grand = pc->Parent();
+        if (grand.Name() != formName && IsTabOrPage(grand)) continue;
+      }
+    }
+    const int section = c.Section();
+    if (t_.HasPageBreaks && section == 0) {
+      t_.SectionOffset = 520;
+    } else {
+      switch (section) {
+        case 1:
+          t_.SectionOffset = 0;
+          if (t_.SectionText[1].empty()) CreateSection(form, 1);
+          break;
+        case 3:
+          if (t_.HeaderOnly) continue;
+          t_.SectionOffset = t_.HeaderHeight;
+          if (t_.SectionText[3].empty()) CreateSection(form, 3);
+          break;
+        case 0:
+          if (t_.HeaderOnly) continue;
+          t_.SectionOffset = t_.DetailTop;
+          break;
+        case 4:
+          if (t_.HeaderOnly) continue;
+          SetSectionOffset(c);
+          if (t_.SectionText[4].empty()) CreateSection(form, 4);
+          break;
+        case 2:
+          if (t_.HeaderOnly) {
+            long footer = SectionHeight(form, 2).value_or(0);
+            long controlHeight = 0;
+            if (const FormDesign* p = store_.OpenForm(t_.ParentFormName, nullptr))
+              if (const ControlDesign* sc = p->Control(t_.ParentControlName))
+                controlHeight = sc->Number("Height").value_or(0);
+            t_.SectionOffset = controlHeight - footer;
+          } else {
+            SetSectionOffset(c);
+            if (t_.SectionText[2].empty()) CreateSection(form, 2);
+          }
+          break;
+        default:
+          break;
+      }
+    }
+    WriteControl(c);
+  }
+}
+
+void FormWriter::WriteControl(const ControlDesign& c) {
+  const std::string formName = t_.CurrentForm->Name();
+  switch (c.ControlType()) {
+    case kLabel:
+      WriteLabel(*this);
+      break;
+    case kLine:
+      WriteLineControl(*this);
+      break;
+    case kImage:
+      WriteImage(*this);
+      break;
+    case kButton:
+      WriteCommandButton(*this);
+      break;
+    case kCheckBox:
+      WriteCheckBox(*this);
+      break;
+    case kOptionGroup:
+      WriteOptionGroup(*this);
+      break;
+    case kBoundObject:
+      WriteBoundObjectFrame(*this);
+      break;
+    case kTextBox:
+      WriteTextBox(*this);
+      break;
+    case kCustom:
+      WriteCustomControl(*this);
+      break;
+    case kOptionButton:
+    case kToggle:
+      if (c.Parent().Name() == formName) WriteOptionButton(*this);
+      break;
+    case kListBox:
+    case kComboBox:
+      NotConvertedYet(s_, t_.OwnerFormName, ControlKindName(c.ControlType()) + " " + c.Name());
+      break;
+    case kSubform: {
+      auto source = c.Text("SourceObject");
+      if (source && !source->empty()) NotConvertedYet(s_, t_.OwnerFormName, "subform " + c.Name());
+      break;
+    }
+    case kUnboundObject:
+      AddHint(s_, {"AddToReport", t_.OwnerFormName, "10", SafeName(c.Name()), "0", "", ""});
+      break;
+    default:
+      break;
+  }
+}
+
+}  // namespace morvane
