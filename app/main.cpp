@@ -11,6 +11,7 @@
 #include "app/command_line_ui.h"
 #include "app/text_output.h"
 #include "forms/design_store.h"
+#include "macros/macro_converter.h"
 #include "platform/catalog.h"
 #include "session/access_link.h"
 #include "session/conversion_session.h"
@@ -216,8 +217,10 @@ int RunConvert(const Options& o, const char* argv0) {
   }
 
   TranslatorCodeConverter code;
+  MacroConverterImpl macroConverter;
   Converters converters;
   converters.Code = &code;
+  converters.Macros = &macroConverter;
   RunSummary summary = StartTranslation(s, link, converters, request);
   if (!summary.Started) return 1;
 

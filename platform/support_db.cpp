@@ -36,8 +36,8 @@ CREATE TABLE IF NOT EXISTS CustomControlMapping (
 CREATE TABLE IF NOT EXISTS mtm_tblActions (
   Action TEXT, ActionID INTEGER PRIMARY KEY, MapsTo TEXT, NumArgs INTEGER);
 CREATE TABLE IF NOT EXISTS mtm_tblActionArgs (
-  ActionID INTEGER, ArgNumber INTEGER, ArgumentType TEXT, LookupBase INTEGER,
-  AutoExpression TEXT, PRIMARY KEY (ActionID, ArgNumber));
+  ActionID INTEGER, ArgNumber INTEGER, ArgumentType INTEGER, LookupBase INTEGER,
+  AutoExpression INTEGER, PRIMARY KEY (ActionID, ArgNumber));
 CREATE TABLE IF NOT EXISTS mtm_tblLookups (
   LookupNumber INTEGER PRIMARY KEY, Value TEXT);
 )sql";

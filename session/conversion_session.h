@@ -77,6 +77,8 @@ struct ConversionSession {
   bool SettingsDirty = false;
   std::array<bool, 21> ListControlsUsed{};
   std::string StartupFormName;
+  // Procedure names the macro converter has given out; grows across macros.
+  std::vector<std::string> MacroProcNames;
 
   // Per-form fields.
   bool FormFailed = false;

@@ -49,6 +49,18 @@ void RenameFile(const std::string& from, const std::string& to) {
   fs::rename(from, to, ec);
 }
 
+// The file of that name in its directory, the case of the name aside, as the
+// converters and the driver name some files in different cases.
+std::string FindFileNoCase(const std::string& path) {
+  if (fs::exists(path)) return path;
+  const fs::path p(path);
+  std::error_code ec;
+  for (const auto& entry : fs::directory_iterator(p.parent_path(), ec))
+    if (EqualsNoCase(entry.path().filename().string(), p.filename().string()))
+      return entry.path().string();
+  return path;
+}
+
 // The property code a form's module gets for each of the Access form
 // properties its code uses.
 struct PropertyBlock {
@@ -127,7 +139,7 @@ void ConvertMacrosStep(ConversionSession& s, Converters& c, RunSummary& summary)
     return;
   }
   c.Macros->ConvertMacros(s, s.OutputPath);                                     // C1
-  RenameFile(s.OutputPath + "Macro.txt", s.OutputPath + "Modu_MacroCode.txt");  // C2
+  RenameFile(FindFileNoCase(s.OutputPath + "Macro.txt"), s.OutputPath + "Modu_MacroCode.txt");  // C2
   std::string path = s.OutputPath + "Modu_MacroCode.txt";
   if (!fs::exists(path)) return;
   c.Code->TranslateCode(s, path, kModeModule);   // C3

@@ -1,0 +1,323 @@
+// The macro reader: walks the saved text of each macro, builds one Function
+// per macro (or per named macro of a group), and turns each action into a
+// statement through the mapping tables.
+#include "macros/macro_converter.h"
+
+#include <array>
+#include <filesystem>
+
+#include "macros/macro_expression.h"
+#include "macros/macro_names.h"
+#include "macros/macro_tables.h"
+#include "platform/catalog.h"
+#include "platform/export_parser.h"
+#include "platform/source_tree.h"
+#include "platform/support_db.h"
+#include "platform/text_file.h"
+#include "session/conversion_session.h"
+#include "session/naming.h"
+#include "translator/analysis_writers.h"
+
+namespace morvane {
+
+namespace {
+
+constexpr long kMsgBoxAction = 22;     // a Beep before the statement
+constexpr long kRunCodeAction = 33;    // "Call Foo()" becomes "Foo"
+constexpr long kStopMacroAction = 45;  // "Exit" becomes "Exit Function"
+constexpr int kTextArgument = 4;
+constexpr size_t kMaxArgs = 10;
+
+struct MacroActionRecord {
+  std::array<std::string, kMaxArgs + 1> Args;  // from 1
+  size_t Count = 0;
+  std::string Condition;
+  std::string Action;
+};
+
+// VB's Val: the leading number of a text, 0 when there is none.
+long Val(const std::string& text) {
+  size_t i = 0;
+  while (i < text.size() && text[i] == ' ') ++i;
+  bool negative = false;
+  if (i < text.size() && (text[i] == '-' || text[i] == '+')) negative = text[i++] == '-';
+  long value = 0;
+  while (i < text.size() && text[i] >= '0' && text[i] <= '9')
+    value = value * 10 + (text[i++] - '0');
+  return negative ? -value : value;
+}
+
+std::string ReplaceAllNoCase(const std::string& text, const std::string& find,
+                             const std::string& with) {
+  std::string out;
+  size_t from = 0;
+  for (size_t at; (at = FindNoCase(text, find, from)) != std::string::npos; from = at + find.size())
+    out += text.substr(from, at - from) + with;
+  return out + text.substr(from);
+}
+
+std::string RemoveChar(std::string text, char c) {
+  std::erase(text, c);
+  return text;
+}
+
+class MacroWriter {
+ public:
+  MacroWriter(ConversionSession& s, const MacroTables& tables, int contextProbe)
+      : s_(s), tables_(tables), contextProbe_(contextProbe) {}
+
+  // Walks one macro; false when its text cannot be read.
+  bool ConvertMacroText(const std::string& macroName, std::string subName, std::string* err);
+  const std::string& Output() const { return out_; }
+  bool ContextFound() const { return contextProbe_ == 2; }
+
+ private:
+  void AddMacroLine(std::string text);
+  void EmitAction();
+  void ConvertActionArgument(long actionId, int index, std::string& value);
+  void FinishProcedure();
+  void BuildProcWrapper();
+  void ReportAction(const std::string& why);
+
+  ConversionSession& s_;
+  const MacroTables& tables_;
+  int contextProbe_;
+  std::string out_;
+  std::string procName_;
+  std::string macroHead_, macroBody_, macroTail_;
+  bool inIfBlock_ = false;
+  bool needsContext_ = false;
+  MacroActionRecord record_;
+  // Where the body's last "End If" of a conditional action starts, so that
+  // an action whose condition is "..." can join that block.
+  std::optional<size_t> lastEndIf_;
+};
+
+void MacroWriter::AddMacroLine(std::string text) {
+  // Templates whose trailing arguments are empty lose one separator.
+  if (!text.empty() && (text.back() == ' ' || text.back() == ',')) text.pop_back();
+  macroBody_ += text + "\r\n";
+}
+
+void MacroWriter::ReportAction(const std::string& why) {
+  if (!s_.SupportDb || contextProbe_ > 0) return;
+  std::string line = record_.Action;
+  for (size_t i = 1; i <= record_.Count; ++i) line += (i == 1 ? " " : ", ") + record_.Args[i];
+  if (!record_.Condition.empty()) line = "If " + record_.Condition + ": " + line;
+  s_.SupportDb->AddReportOutput({"MacroCode", kReasonNoCounterpart, line, 0, why, procName_});
+}
+
+void MacroWriter::ConvertActionArgument(long actionId, int index, std::string& value) {
+  const MacroActionArg* arg = tables_.FindArg(actionId, index);
+  // A missing row leaves the argument as it stands; the rest of the macro
+  // is converted all the same.
+  const MacroActionArg plain;
+  if (!arg) arg = &plain;
+  if (arg->AutoExpression && arg->ArgumentType == kTextArgument) {
+    std::string text = !value.empty() && value[0] == '=' ? value.substr(1) : value;
+    value = ConvertMacroExpression(text, &needsContext_);
+  } else if (!value.empty() && value[0] == '=') {
+    std::string text = value.substr(1);
+    value = ConvertMacroExpression(text, &needsContext_);
+  } else if (arg->ArgumentType == kTextArgument) {
+    value = "\"" + DoubleQuotes(value) + "\"";
+  } else if (!value.empty() && arg->LookupBase > 0) {
+    const std::string* text = tables_.FindLookup(arg->LookupBase + Val(value));
+    value = text ? *text : std::string();
+  }
+}
+
+void MacroWriter::EmitAction() {
+  MacroActionRecord& r = record_;
+  // RunCommand's argument would be mapped by a function private to Access;
+  // the stored command number is already the constant's value.
+  const MacroAction* action = tables_.FindAction(r.Action);
+  if (!action) {
+    ReportAction("unknown macro action; nothing written");
+    return;
+  }
+  std::string s = action->MapsTo.value_or("");
+  for (int i = 1; i <= action->NumArgs && i <= static_cast<int>(kMaxArgs); ++i) {
+    ConvertActionArgument(action->ActionID, i - 1, r.Args[i]);
+    s = ReplaceAllNoCase(s, "|" + std::to_string(i), r.Args[i]);
+  }
+  const std::string c = TrimBlanks(r.Condition);
+  bool joined = false;
+  if (c.empty()) {
+    if (inIfBlock_) {
+      inIfBlock_ = false;
+      macroBody_ += "End If\r\n";
+    }
+    lastEndIf_.reset();
+  } else if (c == "...") {
+    r.Condition.clear();
+    // The action shares the condition of the action before: it goes into
+    // that action's block, which is closed again behind it.
+    if (lastEndIf_ && macroBody_.compare(*lastEndIf_, 8, "End If\r\n") == 0) {
+      macroBody_.erase(*lastEndIf_, 8);
+      joined = true;
+    }
+  } else {
+    AddMacroLine("If (" + c + ") Then");
+    inIfBlock_ = true;
+  }
+  if (action->ActionID == kMsgBoxAction && r.Args[2] != "0") AddMacroLine("Beep");
+  if (action->ActionID == kStopMacroAction) s += " Function";
+  if (action->ActionID == kRunCodeAction && s.size() >= 2 && s.ends_with("()"))
+    s = s.size() > 7 ? s.substr(5, s.size() - 7) : std::string();
+  if (!s.empty())
+    AddMacroLine(s);
+  else
+    ReportAction("no Visual Basic counterpart; nothing written");
+  if (joined) {
+    lastEndIf_ = macroBody_.size();
+    macroBody_ += "End If\r\n";
+  } else if (!r.Condition.empty() && inIfBlock_) {
+    inIfBlock_ = false;
+    lastEndIf_ = macroBody_.size();
+    macroBody_ += "End If\r\n";
+  } else if (!c.empty() && c != "...") {
+    lastEndIf_.reset();
+  }
+}
+
+void MacroWriter::BuildProcWrapper() {
+  if (procName_.empty()) return;
+  const std::string rule = "'" + std::string(60, '-') + "\r\n";
+  macroHead_ = rule + "' " + procName_ + "\r\n'\r\n" + rule + "Function " + procName_ +
+               " ()\r\nOn Error GoTo " + procName_ + "_Err\r\n";
+  if (needsContext_) {
+    macroHead_ += "With CodeContextObject\r\n";
+    if (contextProbe_ == 1) contextProbe_ = 2;
+  }
+  macroTail_.clear();
+  if (inIfBlock_) {
+    macroTail_ += "End If\r\n";
+    inIfBlock_ = false;
+  }
+  if (needsContext_) macroTail_ += "End With\r\n";
+  macroTail_ += "\r\n" + procName_ + "_Exit:\r\nExit Function\r\n\r\n" + procName_ +
+                "_Err:\r\nMsgBox Error$\r\nResume " + procName_ +
+                "_Exit\r\n\r\nEnd Function\r\n\r\n";
+}
+
+void MacroWriter::FinishProcedure() {
+  BuildProcWrapper();
+  if (!macroHead_.empty() || !macroBody_.empty() || !macroTail_.empty())
+    out_ += macroHead_ + "\r\n" + macroBody_ + "\r\n" + macroTail_ + "\r\n";
+  macroHead_.clear();
+  macroBody_.clear();
+  macroTail_.clear();
+  needsContext_ = false;
+  lastEndIf_.reset();
+}
+
+// Argument and comment values are decoded from the export's quoting (\" and
+// \\ and octal escapes); a value that is not quoted is taken as it stands.
+std::string DecodedValue(const std::string& line, size_t eq) {
+  std::string rest = TrimBlanks(std::string_view(line).substr(eq + 1));
+  std::string value;
+  size_t end = 0;
+  if (DecodeQuotedPiece(rest, &value, &end)) return value;
+  return line.size() >= eq + 3 ? line.substr(eq + 2, line.size() - eq - 3) : std::string();
+}
+
+bool MacroWriter::ConvertMacroText(const std::string& macroName, std::string subName,
+                                   std::string* err) {
+  inIfBlock_ = false;
+  needsContext_ = false;
+  record_ = MacroActionRecord{};
+  macroHead_.clear();
+  macroBody_.clear();
+  macroTail_.clear();
+  lastEndIf_.reset();
+
+  std::vector<std::string> lines;
+  if (!s_.AccessApp || !s_.AccessApp->LoadMacroText(macroName, &lines, err)) return false;
+  for (auto& line : lines) line = TrimBlanks(line);
+
+  bool grouped = false;
+  for (const auto& line : lines) {
+    size_t eq = line.find('=');
+    if (eq != std::string::npos && TrimBlanks(std::string_view(line).substr(0, eq)) == "MacroName")
+      grouped = true;
+  }
+  if (!grouped) {
+    const size_t dot = macroName.find('.');
+    procName_ = SafeName(dot == std::string::npos ? macroName : macroName.substr(0, dot));
+  } else {
+    procName_.clear();
+  }
+
+  std::string previous;
+  for (const auto& line : lines) {
+    const size_t eq = line.find('=');
+    if (eq != std::string::npos) {
+      const std::string key = TrimBlanks(std::string_view(line).substr(0, eq));
+      // The value of Key ="text" stands between the two quotes.
+      const std::string raw =
+          line.size() >= eq + 3 ? line.substr(eq + 2, line.size() - eq - 3) : std::string();
+      if (key == "Comment") {
+        std::string text = DecodedValue(line, eq);
+        for (char& ch : text)
+          if (ch == '\r' || ch == '\n') ch = ' ';
+        AddMacroLine("'" + text);
+      } else if (key == "MacroName") {
+        FinishProcedure();
+        subName = RemoveChar(line.substr(eq + 1), '"');
+        procName_ = MacroProcName(s_, macroName, subName);
+      } else if (key == "Condition") {
+        inIfBlock_ = true;
+        std::string text = raw;
+        record_.Condition = RemoveChar(ConvertMacroExpression(text, &needsContext_), '\\');
+      } else if (key == "Action") {
+        record_.Action = raw;
+      } else if (key == "Argument") {
+        if (record_.Count < kMaxArgs) record_.Args[++record_.Count] = DecodedValue(line, eq);
+      }
+    } else if (previous == "Begin" && line == "End") {
+      FinishProcedure();  // an empty block ends a macro of the group
+      procName_.clear();
+    } else if (line == "End") {
+      if (!record_.Action.empty()) EmitAction();
+      inIfBlock_ = false;
+      record_ = MacroActionRecord{};
+    }
+    previous = line;
+  }
+  if (contextProbe_ <= 0) FinishProcedure();
+  return true;
+}
+
+}  // namespace
+
+void MacroConverterImpl::ConvertMacros(ConversionSession& s, const std::string& outputPath) {
+  if (s.OptionWordLength != 11 || !s.SourceDb) return;
+  MacroTables tables(s.SupportDb);
+  std::string text = "Attribute VB_Name = \"MacroCode\"\r\nPublic CodeContextObject As VB.Form\r\n";
+  for (const auto& name : s.SourceDb->ContainerDocuments("Scripts")) {
+    MacroWriter writer(s, tables, 0);
+    std::string err;
+    if (writer.ConvertMacroText(name, std::string(), &err))
+      text += writer.Output();
+    else if (s.SupportDb)
+      s.SupportDb->AddRunNote(name, "the macro's text could not be read: " + err);
+  }
+  WriteFileBytes(outputPath + "macro.txt", text, nullptr);
+  if (auto startup = s.SourceDb->Property("StartupForm"); startup && !startup->empty())
+    AppendFileBytes(outputPath + "_Startup.txt", *startup + "\r\n", nullptr);
+}
+
+bool MacroNeedsContext(ConversionSession& s, std::string& name) {
+  MacroTables tables(s.SupportDb);
+  s.MacroProcNames.assign(1, std::string());
+  const size_t dot = name.find('.');
+  const std::string macro = dot == std::string::npos ? name : name.substr(0, dot);
+  const std::string sub = dot == std::string::npos ? std::string() : name.substr(dot + 1);
+  name = MacroProcName(s, macro, sub);
+  MacroWriter writer(s, tables, 1);
+  writer.ConvertMacroText(macro, sub, nullptr);
+  return writer.ContextFound();
+}
+
+}  // namespace morvane

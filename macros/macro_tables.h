@@ -1,0 +1,46 @@
+// The mapping tables of macro actions, read once per use from the support
+// database: actions by name, their arguments, and the texts of enumerated
+// argument values.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace morvane {
+
+class SupportDatabase;
+
+struct MacroAction {
+  std::string Action;
+  long ActionID = 0;
+  std::optional<std::string> MapsTo;  // nullopt: no Visual Basic counterpart
+  int NumArgs = 0;
+};
+
+struct MacroActionArg {
+  bool AutoExpression = false;
+  int ArgumentType = 0;  // 4: text
+  long LookupBase = 0;   // above 0: an enumeration
+};
+
+class MacroTables {
+ public:
+  // Reads the three tables; empty tables when the database has none.
+  explicit MacroTables(SupportDatabase* db);
+
+  // The first action of that name, compared without regard to case.
+  const MacroAction* FindAction(const std::string& name) const;
+  const MacroActionArg* FindArg(long actionId, int index) const;
+  const std::string* FindLookup(long key) const;
+  const std::vector<MacroAction>& Actions() const { return actions_; }
+
+ private:
+  std::vector<MacroAction> actions_;
+  std::map<std::pair<long, int>, MacroActionArg> args_;
+  std::map<long, std::string> lookups_;
+};
+
+}  // namespace morvane
