@@ -129,7 +129,8 @@ ExportKind ClassifyExport(const std::vector<std::string>& lines, std::string_vie
     if (t == "Begin Report") return ExportKind::Report;
     if (t == "Begin InputTables" || t == "Begin OutputColumns") return ExportKind::Query;
     if (t == "Begin" && IStartsWith(first, "Version =") &&
-        (HasKeyLine(lines, "Action") || HasKeyLine(lines, "MacroName")))
+        (HasKeyLine(lines, "Action") || HasKeyLine(lines, "MacroName") ||
+         HasKeyLine(lines, "Comment")))
       return ExportKind::Macro;
     break;
   }
