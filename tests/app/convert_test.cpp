@@ -42,16 +42,17 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_EQ(Snapshot((dir / "Orders").string()), before);
 
-  for (auto f :
-       {"Orders.vbp", "basOrders.bas", "basStatistics.bas", "clsCustomer.bas", "Date Helpers.bas",
-        "MorvaneConversionCode.bas", "MDIParent.frm", "morvane.db", "analysis/index.html"})
+  for (auto f : {"Orders.vbp", "basOrders.bas", "basStatistics.bas", "clsCustomer.bas",
+                 "Date Helpers.bas", "MorvaneConversionCode.bas", "MacroCode.bas", "MDIParent.frm",
+                 "morvane.db", "analysis/index.html"})
     EXPECT_TRUE(fs::exists(dir / "out" / f)) << f;
   // Extraction files of the translator do not stay.
   for (const auto& e : fs::directory_iterator(dir / "out"))
     EXPECT_NE(e.path().extension(), ".txt") << e.path();
 
   const std::string vbp = ReadFile(dir / "out" / "Orders.vbp");
-  const auto order = {"Module=basOrders; basOrders.bas",
+  const auto order = {"Module=MacroCode; MacroCode.bas",
+                      "Module=basOrders; basOrders.bas",
                       "Module=basStatistics; basStatistics.bas",
                       "Class=clsCustomer; clsCustomer.bas",
                       "Module=Date_Helpers; Date Helpers.bas",
@@ -76,7 +77,15 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
     EXPECT_TRUE(problems.empty()) << e.path().filename() << ": " << problems.front();
     ++checked;
   }
-  EXPECT_EQ(checked, 6);
+  EXPECT_EQ(checked, 7);
+
+  // Macros: one function per macro of the group, AutoExec called at start.
+  const std::string macros = ReadFile(dir / "out" / "MacroCode.bas");
+  for (const char* wanted :
+       {"Function AutoExec ()", "Function mcrOrders_Refresh ()", "        If (.txtCount > 0) Then",
+        "    For iRunMacroCount = 1 to  2\r\n        Call mcrOrders_Refresh\r\n",
+        "    db.Execute \"qryAppendArchive\""})
+    EXPECT_NE(macros.find(wanted), std::string::npos) << wanted;
 
   // The conversion code holds the run-time support the modules call, and
   // nothing else.
@@ -84,6 +93,7 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   for (const char* wanted : {"Public Function SysCmdVB(", "Public Function DSum(",
                              "Public Function DCount(", "Public Function DLookup("})
     EXPECT_NE(code.find(wanted), std::string::npos) << wanted;
+  EXPECT_NE(code.find("    Call Autoexec\r\nEnd Sub"), std::string::npos);
   for (const char* unwanted : {"Function AddItems", "Public Function DAvg(",
                                "Public Function OptionGroupValue(", "Public Function DMax("})
     EXPECT_EQ(code.find(unwanted), std::string::npos) << unwanted;
@@ -101,9 +111,10 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   auto db = SupportDatabase::Open(dir / "out" / "morvane.db", MORVANE_DATA_DIR, &err);
   ASSERT_TRUE(db) << err;
   auto stats = db->Stats();
-  ASSERT_EQ(stats.size(), 4u);
-  EXPECT_EQ(stats[0].ModuleName, "basOrders");
-  EXPECT_GT(stats[0].TotalLines, 50);
+  ASSERT_EQ(stats.size(), 5u);
+  EXPECT_EQ(stats[0].ModuleName, "MacroCode");
+  EXPECT_EQ(stats[1].ModuleName, "basOrders");
+  EXPECT_GT(stats[1].TotalLines, 50);
   EXPECT_FALSE(db->ReportOutput().empty());
 }
 
@@ -183,7 +194,7 @@ TEST(List, PrintsTheCatalogInItsOrder) {
   EXPECT_EQ(r.out,
             "Forms:\n  frmOrders\nModules:\n  basOrders\n  basStatistics\n  clsCustomer\n"
             "  Date Helpers\n"
-            "Reports:\nMacros:\n  AutoExec\n");
+            "Reports:\nMacros:\n  AutoExec\n  mcrOrders\n");
 }
 
 }  // namespace
