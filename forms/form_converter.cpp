@@ -1,0 +1,39 @@
+// The driver's form converter over the form writer and the hint processor.
+#include "forms/form_converter.h"
+
+#include "forms/design_store.h"
+#include "forms/form_writer.h"
+#include "platform/support_db.h"
+#include "session/conversion_session.h"
+#include "session/hint_processor.h"
+
+namespace morvane {
+
+void DesignFormConverter::ConvertForm(ConversionSession& s, const std::string& name) {
+  FormWriter writer(s, store_);
+  std::string err;
+  if (!writer.ConvertForm(name, &err)) {
+    // Nothing was written; the form stays out of the project and the
+    // analysis says why.
+    s.FormFailed = true;
+    if (s.SupportDb) s.SupportDb->AddRunNote(name, err.empty() ? "the form was not written" : err);
+  }
+}
+
+void DesignFormConverter::ProcessHints(ConversionSession& s, const std::string& name) {
+  morvane::ProcessHints(s, name, actions_);
+}
+
+void DesignFormConverter::AddDatasheetGrids(ConversionSession& s, const std::string& name) {
+  if (!s.SupportDb) return;
+  for (const auto& grid : s.DatasheetForms)
+    if (!grid.empty())
+      s.SupportDb->AddRunNote(name, "the datasheet subform " + grid + " is not converted yet");
+}
+
+std::string DesignFormConverter::RecordSource(ConversionSession&, const std::string& name) {
+  const FormDesign* form = store_.OpenForm(name, nullptr);
+  return form ? form->Text("RecordSource").value_or("") : std::string();
+}
+
+}  // namespace morvane
