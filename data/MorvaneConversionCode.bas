@@ -82,12 +82,17 @@ End Function
 '   = <> < > <= >=   comparison
 '   Not, And, Or, Xor
 '
-' Limits: no names. Fields, controls, variables, Forms!... and Me!...
-' references, and calls of any other function (IIf, Nz, DLookup, ...) are not
-' understood, and neither are Like, Is, Eqv and Imp. Such an expression, and
-' any text that is not a complete expression, raises error
-' vbObjectError + 31005. Null takes part in operations by Visual Basic's
-' own rules.
+'   x Is [Not] Null, x [Not] Like "pattern", x [Not] Between a And b,
+'   x [Not] In (a, b, ...)   as in Access, at the level of comparisons
+'   names      Forms!Form!Control (brackets and "." allowed: [Forms]![F]![C]),
+'              the value of that control of the open form of that name;
+'              a name alone ([Total]) is a control of the active form
+'
+' Limits: fields, variables and Me!... references, report references and
+' calls of any other function (IIf, Nz, DLookup, ...) are not understood,
+' and neither are Eqv and Imp. Such an expression, and any text that is not a
+' complete expression, raises error vbObjectError + 31005. Null takes part in
+' operations by Visual Basic's own rules.
 ' ---------------------------------------------------------------------------
 Public Function Eval(ByVal strExpr As String) As Variant
     mstrEvalText = strExpr
@@ -202,11 +207,117 @@ Private Function EvalCompare() As Variant
         ElseIf EvalSymbol(">") Then
             vntRight = EvalConcat()
             vntValue = (vntValue > vntRight)
-        Else
+        ElseIf Not EvalAccessOperator(vntValue) Then
             Exit Do
         End If
     Loop
     EvalCompare = vntValue
+End Function
+
+' Is [Not] Null, [Not] Like, [Not] Between ... And ..., [Not] In (...):
+' replaces vntValue with the result when one of them comes next.
+Private Function EvalAccessOperator(vntValue As Variant) As Boolean
+    Dim lngStart As Long
+    Dim blnNot As Boolean
+    Dim vntLow As Variant
+    Dim vntHigh As Variant
+    Dim vntItem As Variant
+    Dim blnFound As Boolean
+
+    lngStart = mlngEvalPos
+    If EvalWord("Is") Then
+        blnNot = EvalWord("Not")
+        If Not EvalWord("Null") Then EvalFail
+        vntValue = (IsNull(vntValue) <> blnNot)
+        EvalAccessOperator = True
+        Exit Function
+    End If
+    blnNot = EvalWord("Not")
+    If EvalWord("Like") Then
+        vntItem = EvalConcat()
+        If IsNull(vntValue) Or IsNull(vntItem) Then
+            vntValue = Null
+        Else
+            vntValue = ((LCase$(CStr(vntValue)) Like LCase$(CStr(vntItem))) <> blnNot)
+        End If
+    ElseIf EvalWord("Between") Then
+        vntLow = EvalConcat()
+        If Not EvalWord("And") Then EvalFail
+        vntHigh = EvalConcat()
+        vntValue = ((vntValue >= vntLow And vntValue <= vntHigh) <> blnNot)
+    ElseIf EvalWord("In") Then
+        If Not EvalSymbol("(") Then EvalFail
+        Do
+            vntItem = EvalConcat()
+            If Not IsNull(vntValue) And Not IsNull(vntItem) Then
+                If vntValue = vntItem Then blnFound = True
+            End If
+        Loop While EvalSymbol(",")
+        If Not EvalSymbol(")") Then EvalFail
+        vntValue = (blnFound <> blnNot)
+    Else
+        mlngEvalPos = lngStart
+        Exit Function
+    End If
+    EvalAccessOperator = True
+End Function
+
+' One part of a name: [anything but a bracket] or letters, digits and "_".
+Private Function EvalNamePart() As String
+    Dim lngStart As Long
+
+    EvalSkipBlanks
+    If Mid$(mstrEvalText, mlngEvalPos, 1) = "[" Then
+        lngStart = InStr(mlngEvalPos, mstrEvalText, "]")
+        If lngStart = 0 Then EvalFail
+        EvalNamePart = Mid$(mstrEvalText, mlngEvalPos + 1, lngStart - mlngEvalPos - 1)
+        mlngEvalPos = lngStart + 1
+    Else
+        lngStart = mlngEvalPos
+        Do While EvalIsNameChar(Mid$(mstrEvalText, mlngEvalPos, 1))
+            mlngEvalPos = mlngEvalPos + 1
+        Loop
+        If mlngEvalPos = lngStart Then EvalFail
+        EvalNamePart = Mid$(mstrEvalText, lngStart, mlngEvalPos - lngStart)
+    End If
+End Function
+
+' Forms!Form!Control or a control of the active form. Converted forms carry
+' their Access names with blanks and signs turned into "_".
+Private Function EvalReference() As Variant
+    Dim strFirst As String
+    Dim strForm As String
+    Dim strControl As String
+    Dim frmFound As Object
+    Dim frmEach As Object
+
+    strFirst = EvalNamePart()
+    If StrComp(strFirst, "Forms", vbTextCompare) <> 0 Then
+        EvalReference = Screen.ActiveForm.Controls(strFirst)
+        Exit Function
+    End If
+    If Not (EvalSymbol("!") Or EvalSymbol(".")) Then EvalFail
+    strForm = EvalNamePart()
+    If Not (EvalSymbol("!") Or EvalSymbol(".")) Then EvalFail
+    strControl = EvalNamePart()
+    For Each frmEach In Forms
+        If StrComp(frmEach.Name, EvalSafeName(strForm), vbTextCompare) = 0 Then
+            Set frmFound = frmEach
+        End If
+    Next
+    If frmFound Is Nothing Then EvalFail
+    EvalReference = frmFound.Controls(EvalSafeName(strControl))
+End Function
+
+Private Function EvalSafeName(ByVal strName As String) As String
+    Dim lngChar As Long
+    Dim strChar As String
+
+    For lngChar = 1 To Len(strName)
+        strChar = Mid$(strName, lngChar, 1)
+        If Not EvalIsNameChar(strChar) Then strChar = "_"
+        EvalSafeName = EvalSafeName & strChar
+    Next
 End Function
 
 Private Function EvalConcat() As Variant
@@ -335,6 +446,8 @@ Private Function EvalPrimary() As Variant
     ElseIf EvalWord("Time") Then
         EvalEmptyArguments
         EvalPrimary = Time
+    ElseIf strChar = "[" Or strChar Like "[A-Za-z]" Then
+        EvalPrimary = EvalReference()
     Else
         EvalFail
     End If
