@@ -18,6 +18,7 @@ std::string SubformLinkSql(FormWriter& w, const std::string& source,
 bool IsPlainListControl(ConversionSession& s, const ControlDesign& control);
 // The Visual Basic class for an Access custom control's class, or "".
 // Registers the control's component with the form writer when given.
-std::string MapCustomControl(ConversionSession& s, const std::string& accessClass);
+std::string MapCustomControl(ConversionSession& s, const std::string& accessClass,
+                             FormWriter* w = nullptr);
 
 }  // namespace morvane

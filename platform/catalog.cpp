@@ -1,6 +1,7 @@
 // Shared lookups of the catalog interface and the in-memory catalog.
 #include "platform/catalog.h"
 
+#include "platform/source_query.h"
 #include "platform/text_fold.h"
 
 namespace morvane {
@@ -10,7 +11,24 @@ static bool SameText(const std::string& a, const std::string& b) { return text::
 std::optional<QueryInfo> Catalog::QueryDef(const std::string& name) const {
   for (auto& q : QueryDefs())
     if (SameText(q.Name, name)) return q;
+  for (auto& q : made_)
+    if (SameText(q.Name, name)) return q;
   return std::nullopt;
+}
+
+bool Catalog::CreateQueryDef(const std::string& name, const std::string& sql) {
+  if (name.empty() || QueryDef(name) || TableDef(name)) return false;
+  made_.push_back({name, sql, QueryTypeOfSql(sql)});
+  return true;
+}
+
+bool Catalog::DeleteQueryDef(const std::string& name) {
+  for (auto it = made_.begin(); it != made_.end(); ++it)
+    if (SameText(it->Name, name)) {
+      made_.erase(it);
+      return true;
+    }
+  return false;
 }
 
 std::optional<TableInfo> Catalog::TableDef(const std::string& name) const {

@@ -102,6 +102,18 @@ class Catalog {
 
   // The references of the Access project (VBA, Access, DAO, ...), when known.
   virtual std::vector<ReferenceInfo> References() const = 0;
+
+  // Queries that the converters make during a run (DAO's CreateQueryDef and
+  // QueryDefs.Delete). They are kept in memory beside the database's own,
+  // which is never written, and QueryDef finds them. Making a query fails
+  // when a query or table of that name exists; deleting one fails when no
+  // such query was made.
+  bool CreateQueryDef(const std::string& name, const std::string& sql);
+  bool DeleteQueryDef(const std::string& name);
+  const std::vector<QueryInfo>& MadeQueries() const { return made_; }
+
+ private:
+  std::vector<QueryInfo> made_;
 };
 
 // An in-memory catalog, filled by whoever builds it (the source tree reader,
