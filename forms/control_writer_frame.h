@@ -1,0 +1,73 @@
+// What every control writer shares: the frame of one control (unique name
+// and page, the text handed to its bucket, the hint record and the count),
+// reads of the properties that the line tables compute with, and the guards
+// that count as met when their property cannot be read.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace morvane {
+
+class DesignObject;
+class ControlDesign;
+class FormDesign;
+class FormWriter;
+
+// Step 1 of every writer: the current control gets its unique name and its
+// page. Null when the writer has no control in hand.
+const ControlDesign* BeginControl(FormWriter& w);
+// Hands the built lines (each ended by CR LF) to PutControlText without the
+// last line end.
+void PutText(FormWriter& w, std::string text);
+// A control hint record: the record name, then OwnerFormName, the control's
+// Access name, CurrentControlName and ParentControlName.
+void AddControlHint(FormWriter& w, const ControlDesign& c, std::string_view record);
+// "AddToReport" for a control that is converted only in part: the owner
+// form, the reason, CurrentControlName, 0 and two empty fields.
+void AddReportHint(FormWriter& w, std::string_view reason);
+void CountControl(FormWriter& w, int partial = 0);
+
+// "dat" + SafeName(CurrentForm.Name), the name of the form's data control.
+std::string DataControlName(const FormWriter& w);
+const FormDesign* CurrentFormOf(const FormWriter& w);
+// Whether the control's holder is the form the walker stands in.
+bool ParentIsCurrentForm(const FormWriter& w, const ControlDesign& c);
+// The type of the control's holder; 0 when the holder is the form.
+int ParentType(const ControlDesign& c);
+// The first label whose holder is named `holder`, in the form's order.
+const ControlDesign* AttachedLabel(const FormWriter& w, const std::string& holder);
+
+// Property reads. Each is nullopt when the property cannot be read.
+std::optional<std::string> Hex(const DesignObject& o, std::string_view property);
+// The text with every CR LF turned into one blank.
+std::optional<std::string> OneLine(const DesignObject& o, std::string_view property);
+std::optional<long> Sum(const std::optional<long>& a, long b);
+std::optional<long> Sum(const std::optional<long>& a, const std::optional<long>& b);
+// A number of a text as Visual Basic converts it (Abs, CBool): blanks
+// around it allowed; nullopt for a text that is no number.
+std::optional<double> NumberOfText(std::string_view text);
+std::optional<bool> BoolOfText(std::string_view text);
+std::optional<std::string> AbsText(std::string_view text);
+
+// "Alignment ={AlignmentMap(TextAlign)}" when TextAlign is above 0; the map
+// has no entry for 4 (distribute), which loses the line.
+void AddAlignmentLine(std::string& text, const FormWriter& w, const ControlDesign& c);
+
+// Guards over a read: a read that failed counts as met.
+bool IsTrueOrUnread(const std::optional<bool>& v);
+bool IsZeroOrUnread(const std::optional<long>& v);
+
+// Whether the control has picture bytes; an unreadable PictureData counts
+// as present, and extracting it then fails.
+bool HasPicture(const ControlDesign& c);
+// The Picture line of the control's picture, extracted from control `c` of
+// `holder` into the form's .frx; nullopt when the picture could not be
+// carried over.
+std::optional<std::string> PictureLine(FormWriter& w, const std::string& holder,
+                                       const ControlDesign& c);
+// The holder of an image's picture: the form, or the holder's holder.
+std::string PictureHolder(const ControlDesign& c);
+
+}  // namespace morvane

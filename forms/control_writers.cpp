@@ -1,0 +1,282 @@
+// The control writers of the plain families: labels, lines, images, command
+// buttons, rectangles, bound object frames and custom controls. Each writes
+// the lines of its table in order; a property that cannot be read loses its
+// own line, and a guard over it counts as met. Text boxes are in
+// control_writers_text.cpp, check boxes and option groups and buttons in
+// control_writers_options.cpp.
+#include "forms/control_writers.h"
+
+#include "forms/control_types.h"
+#include "forms/control_writer_frame.h"
+#include "forms/form_design.h"
+#include "forms/form_writer.h"
+#include "forms/frm_text.h"
+#include "forms/record_source.h"
+#include "session/conversion_session.h"
+#include "session/hint_processor.h"
+#include "session/naming.h"
+
+namespace morvane {
+
+namespace {
+
+constexpr const char* kThreedGuid = "{0BA686C6-F7D3-101A-993E-0000C0EF6F5E}#1.0#0";
+constexpr const char* kThreedFile = "THREED32.OCX";
+
+// The reason of an "AddToReport" record for a control that is converted
+// only in part.
+constexpr const char* kPartlyConverted = "4";
+
+// Height, Left, Top and Width in this order, the most common run of lines.
+void AddBoxLines(std::string& text, const FormWriter& w, const ControlDesign& c) {
+  AddLine(text, "Height = ", ValueText(c, "Height"));
+  AddLine(text, "Left = ", w.ControlLeft(c));
+  AddLine(text, "Top = ", w.ControlTop(c));
+  AddLine(text, "Width = ", ValueText(c, "Width"));
+}
+
+// A label's caption holding a line break cannot stand in the form text; the
+// form's load code sets it.
+void AddLabelCaption(std::string& text, FormWriter& w, const ControlDesign& c) {
+  ConversionSession& s = w.Session();
+  auto caption = c.Text("Caption");
+  if (caption && caption->find("\r\n") == std::string::npos) {
+    AddLine(text, "Caption=\"" + EscapeQuotes(*caption) + "\"");
+    return;
+  }
+  AddLine(text, "Caption=\"Caption set in Form_Load event\"");
+  if (caption)
+    AddHint(s, {"LabelCaptionFromCode", s.CurrentControlName,
+                ReplaceAllText(EscapeQuotes(*caption), "\r\n", "\" & vbCrLf & \"")});
+}
+
+// A label whose caption the control it belongs to writes: one in an option
+// group, or the label of an option button that stands on the form.
+bool LabelBelongsToControl(const FormWriter& w, const ControlDesign& c) {
+  if (ParentIsCurrentForm(w, c)) return false;
+  const ControlDesign* parent = c.ParentControl();
+  if (!parent) return false;
+  if (parent->ControlType() == kOptionGroup) return true;
+  return parent->ControlType() == kOptionButton && parent->ParentControl() == nullptr;
+}
+
+// The picture of a command button is looked up on the top form, or in a
+// subform pass on the button's holder.
+std::string ButtonPictureHolder(const FormWriter& w, const ControlDesign& c) {
+  if (!w.Text().InSubform) return w.Text().OwnerFormName;
+  return PictureHolder(c);
+}
+
+}  // namespace
+
+void WriteLabel(FormWriter& w) {
+  const ControlDesign* current = w.Text().CurrentControl;
+  if (!current || LabelBelongsToControl(w, *current)) return;
+  const ControlDesign& c = *BeginControl(w);
+  ConversionSession& s = w.Session();
+  std::string text;
+  AddLine(text, "Begin VB.Label " + s.CurrentControlName);
+  AddLine(text, "BackColor= &H", Hex(c, "BackColor"), "&");
+  if (IsZeroOrUnread(c.Number("BackStyle"))) AddLine(text, "BackStyle=0");
+  AddLine(text, IsZeroOrUnread(c.Number("BorderStyle")) ? "BorderStyle=0" : "BorderStyle=1");
+  AddLabelCaption(text, w, c);
+  AddLine(text, "ForeColor= &H", Hex(c, "ForeColor"), "&");
+  AddFontLines(text, c);
+  AddAlignmentLine(text, w, c);
+  AddBoxLines(text, w, c);
+  AddVisibleLine(text, c);
+  AddTipLine(text, c);
+  AddTagLine(text, c);
+  AddLine(text, "End");
+  PutText(w, std::move(text));
+  // A label's events are generated as an image's.
+  if (ParentIsCurrentForm(w, c)) AddControlHint(w, c, "ImageCode");
+  CountControl(w);
+}
+
+void WriteLineControl(FormWriter& w) {
+  const ControlDesign* current = BeginControl(w);
+  if (!current) return;
+  const ControlDesign& c = *current;
+  ConversionSession& s = w.Session();
+  std::string text;
+  AddLine(text, "Begin VB.Line " + s.CurrentControlName);
+  AddLine(text, "BorderColor =  &H", Hex(c, "BorderColor"), "&");
+  if (auto width = c.Number("BorderWidth"); width && *width > 0)
+    AddLine(text, "BorderWidth = ", width);
+  // A line has only its end points; a slanted line runs from the top right
+  // corner of its box, so the two X values change places.
+  const bool slant = IsTrueOrUnread(c.Flag("LineSlant"));
+  const auto left = w.ControlLeft(c);
+  const auto top = w.ControlTop(c);
+  AddLine(text, slant ? "X2 =" : "X1 =", left);
+  AddLine(text, slant ? "X1 =" : "X2 =", Sum(left, c.Number("Width")));
+  AddLine(text, "Y1 =", top);
+  AddLine(text, "Y2 =", Sum(top, c.Number("Height")));
+  AddVisibleLine(text, c);
+  AddLine(text, "End");
+  PutText(w, std::move(text));
+  CountControl(w);
+}
+
+void WriteImage(FormWriter& w) {
+  const ControlDesign* current = BeginControl(w);
+  if (!current) return;
+  const ControlDesign& c = *current;
+  ConversionSession& s = w.Session();
+  std::string text;
+  AddLine(text, "Begin VB.PictureBox " + s.CurrentControlName);
+  AddFontLines(text, c);
+  AddLine(text, "Height = ", Sum(c.Number("Height"), w.Text().SectionOffset));
+  AddLine(text, "Left = ", w.ControlLeft(c));
+  AddLine(text, "ScaleHeight = 6180");
+  AddLine(text, "ScaleWidth = 7410");
+  if (IsZeroOrUnread(c.Number("BorderStyle"))) AddLine(text, "BorderStyle = 0");
+  AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));
+  AddTabStopLine(text, c);
+  AddEnabledLine(text, c);
+  AddTipLine(text, c);
+  AddTagLine(text, c);
+  AddLine(text, "Top = ", w.ControlTop(c));
+  AddLine(text, "Width = ", ValueText(c, "Width"));
+  AddVisibleLine(text, c);
+  if (HasPicture(c)) AddLine(text, "", PictureLine(w, PictureHolder(c), c));
+  AddLine(text, "End");
+  PutText(w, std::move(text));
+  AddControlHint(w, c, "ImageCode");
+  CountControl(w);
+}
+
+void WriteCommandButton(FormWriter& w) {
+  const ControlDesign* current = BeginControl(w);
+  if (!current) return;
+  const ControlDesign& c = *current;
+  ConversionSession& s = w.Session();
+  std::string text;
+  const bool picture = HasPicture(c);
+  auto caption = c.Text("Caption");
+  std::optional<std::string> shown;
+  if (caption) shown = JoinLines(EscapeQuotes(*caption));
+  // A coloured caption needs the Sheridan button; a picture needs Style 1
+  // of the plain one.
+  auto fore = c.Number("ForeColor");
+  if ((!fore || *fore > 0) && !picture) {
+    w.AddComponent(kThreedGuid, kThreedFile);
+    AddLine(text, "Begin Threed.SSCommand " + s.CurrentControlName);
+    AddLine(text, "_Version = 65536");
+    AddLine(text, "_StockProps = 78");
+    AddLine(text, "ForeColor= &H", Hex(c, "ForeColor"), "&");
+    AddLine(text, "Caption = \"", shown, "\"");
+    if (auto width = c.Real("Width")) AddLine(text, "_ExtentX = " + Extent(*width));
+    if (auto height = c.Real("Height")) AddLine(text, "_ExtentY = " + Extent(*height));
+    AddFontLines(text, c, true);
+    AddLine(text, "AutoSize = 0");
+  } else {
+    AddLine(text, "Begin VB.CommandButton " + s.CurrentControlName);
+    AddFontLines(text, c);
+    if (picture) {
+      if (auto line = PictureLine(w, ButtonPictureHolder(w, c), c)) {
+        AddLine(text, *line);
+        // The tag keeps the caption that the picture button does not show.
+        auto tag = c.Text("Tag");
+        if (!tag || tag->empty()) AddLine(text, "Tag =\"", shown, "\"");
+      }
+      AddLine(text, "Style = 1");
+    } else {
+      AddTagLine(text, c);
+      AddLine(text, "Caption = \"", shown, "\"");
+    }
+  }
+  AddLine(text, "Height = ", ValueText(c, "Height"));
+  AddLine(text, "Left = ", w.ControlLeft(c));
+  AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));
+  AddLine(text, "Top = ", w.ControlTop(c));
+  AddLine(text, "Width = ", ValueText(c, "Width"));
+  AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
+  AddVisibleLine(text, c);
+  if (IsTrueOrUnread(c.Flag("Default"))) AddLine(text, "Default = -1");
+  if (IsTrueOrUnread(c.Flag("Cancel"))) AddLine(text, "Cancel = -1");
+  AddTipLine(text, c);
+  AddEnabledLine(text, c);
+  AddTabStopLine(text, c);
+  AddLine(text, "End");
+  PutText(w, std::move(text));
+  AddControlHint(w, c, "ButtonCode");
+  CountControl(w);
+}
+
+void WriteShape(FormWriter& w) {
+  const ControlDesign* current = BeginControl(w);
+  if (!current) return;
+  const ControlDesign& c = *current;
+  ConversionSession& s = w.Session();
+  std::string text;
+  AddLine(text, "Begin VB.Shape " + s.CurrentControlName);
+  AddVisibleLine(text, c);
+  AddBoxLines(text, w, c);
+  AddLine(text, "FillColor = &H", Hex(c, "BackColor"), "&");
+  AddLine(text, IsZeroOrUnread(c.Number("BackStyle")) ? "FillStyle = 1" : "FillStyle = 0");
+  AddLine(text, "BorderStyle = ", ValueText(c, "BorderStyle"));
+  AddLine(text, "BorderColor = &H", Hex(c, "BorderColor"), "&");
+  AddLine(text, "End");
+  PutText(w, std::move(text));
+  CountControl(w);
+}
+
+void WriteBoundObjectFrame(FormWriter& w) {
+  const ControlDesign* current = BeginControl(w);
+  if (!current) return;
+  const ControlDesign& c = *current;
+  ConversionSession& s = w.Session();
+  std::string text;
+  AddLine(text, "Begin  VB.OLE " + s.CurrentControlName);
+  AddVisibleLine(text, c);
+  AddBoxLines(text, w, c);
+  AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
+  std::optional<std::string> source;
+  if (const FormDesign* form = CurrentFormOf(w)) source = form->Text("RecordSource");
+  if (!source || !source->empty()) {
+    AddLine(text, "DataSource =\"" + DataControlName(w) + "\"");
+    AddLine(text, "DataField =\"", c.Text("ControlSource"), "\"");
+  }
+  AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));
+  AddTabStopLine(text, c);
+  AddEnabledLine(text, c);
+  AddTipLine(text, c);
+  AddTagLine(text, c);
+  AddLine(text, "End");
+  PutText(w, std::move(text));
+  AddControlHint(w, c, "BoundObjectFrameCode");
+  AddReportHint(w, kPartlyConverted);
+  CountControl(w, 1);
+}
+
+void WriteCustomControl(FormWriter& w) {
+  const ControlDesign* current = BeginControl(w);
+  if (!current) return;
+  const ControlDesign& c = *current;
+  ConversionSession& s = w.Session();
+  const std::string vbClass = MapCustomControl(s, c.Text("Class").value_or(""), &w);
+  AddReportHint(w, kPartlyConverted);
+  // An Access class without a Visual Basic counterpart is reported and
+  // left out of the form.
+  if (vbClass.empty()) return;
+  std::string text;
+  AddLine(text, "Begin " + vbClass + " " + s.CurrentControlName);
+  AddLine(text, "Height = ", ValueText(c, "Height"));
+  AddLine(text, "Left = ", w.ControlLeft(c));
+  AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));
+  AddTabStopLine(text, c);
+  AddLine(text, "Top = ", w.ControlTop(c));
+  AddLine(text, "Width = ", ValueText(c, "Width"));
+  AddLine(text, "Visible = ", ValueText(c, "Visible"));
+  AddEnabledLine(text, c);
+  AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
+  AddTipLine(text, c);
+  AddTagLine(text, c);
+  AddLine(text, "End");
+  PutText(w, std::move(text));
+  CountControl(w, 1);
+}
+
+}  // namespace morvane

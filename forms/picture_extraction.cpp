@@ -1,0 +1,253 @@
+// Picture extraction: the PictureData bytes of a form, report or control (a
+// device-independent bitmap, a metafile or an enhanced metafile, without a
+// file header) become a picture record appended to the form's .frx or the
+// report's .dsx. The bytes pass through tblPict of the support database on
+// their way, as the analysis expects a picture in hand there; the kind and
+// the size limit are read from the bytes themselves.
+#include "forms/picture_extraction.h"
+
+#include <sqlite3.h>
+
+#include <cerrno>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+
+#include "forms/design_store.h"
+#include "forms/form_design.h"
+#include "forms/form_writer.h"
+#include "platform/support_db.h"
+#include "session/conversion_session.h"
+#include "session/naming.h"
+#include "session/user_interface.h"
+
+namespace morvane {
+
+namespace {
+
+// A picture larger than this is not carried over; an enhanced metafile
+// counts half its bytes.
+constexpr size_t kPictureLimit = 64000;
+
+enum class PictureKind { None = 0, Bitmap = 1, Metafile = 2, EnhancedMetafile = 3 };
+
+// The first byte of PictureData tells the kind: the size of a bitmap info
+// header, the type word of a metafile's head, the record type of an
+// enhanced metafile's header.
+struct PictureKindRow {
+  unsigned char FirstByte;
+  PictureKind Kind;
+};
+
+constexpr PictureKindRow kPictureKinds[] = {
+    {40, PictureKind::Bitmap},
+    {3, PictureKind::Metafile},
+    {14, PictureKind::EnhancedMetafile},
+};
+
+// "lt\0\0": the mark of a picture record.
+constexpr unsigned char kPictureMark[4] = {0x6C, 0x74, 0x00, 0x00};
+// The class of a stored picture in a .dsx, {0BE35204-8F91-11CE-9DE3-00AA004BB851}.
+constexpr unsigned char kPictureClass[16] = {0x04, 0x52, 0xE3, 0x0B, 0x91, 0x8F, 0xCE, 0x11,
+                                             0x9D, 0xE3, 0x00, 0xAA, 0x00, 0x4B, 0xB8, 0x51};
+// The placeable metafile header: key 9AC6CDD7, handle 0, the box -8, -8,
+// 2168, 2024, 575 units an inch, reserved 0, checksum 5ABE. The box is the
+// same for every picture.
+constexpr unsigned char kPlaceableHeader[22] = {0xD7, 0xCD, 0xC6, 0x9A, 0x00, 0x00, 0xF8, 0xFF,
+                                                0xF8, 0xFF, 0x78, 0x08, 0xE8, 0x07, 0x3F, 0x02,
+                                                0x00, 0x00, 0x00, 0x00, 0xBE, 0x5A};
+// Zero bytes behind a metafile record's payload, part of the record.
+constexpr size_t kMetafileTrailer = 26;
+// The head of a metafile as Access keeps it, dropped from the record.
+constexpr size_t kMetafileHead = 24;
+// Where the metafile bytes of an enhanced metafile start.
+constexpr size_t kEnhancedStart = 144;
+
+PictureKind ProbePictureType(const std::string& data) {
+  if (data.empty()) return PictureKind::None;
+  const auto first = static_cast<unsigned char>(data[0]);
+  for (const PictureKindRow& row : kPictureKinds)
+    if (row.FirstByte == first) return row.Kind;
+  return PictureKind::None;
+}
+
+bool PictureFitsLimit(const std::string& data) {
+  if (ProbePictureType(data) == PictureKind::EnhancedMetafile)
+    return data.size() / 2.0 <= kPictureLimit;
+  return data.size() <= kPictureLimit;
+}
+
+void PutLong(std::string& out, uint32_t v) {
+  for (int i = 0; i < 4; ++i) out += static_cast<char>((v >> (8 * i)) & 0xFF);
+}
+
+template <size_t n>
+void PutBytes(std::string& out, const unsigned char (&bytes)[n]) {
+  out.append(reinterpret_cast<const char*>(bytes), n);
+}
+
+// The prefix of a record whose payload the prefix gives as `n` bytes; a
+// .dsx names the picture's class as well.
+std::string RecordPrefix(uint32_t n, bool dsx) {
+  std::string out;
+  PutLong(out, n + 8);
+  if (dsx) PutBytes(out, kPictureClass);
+  PutBytes(out, kPictureMark);
+  PutLong(out, n);
+  return out;
+}
+
+uint32_t LongAt(const std::string& data, size_t at) {
+  uint32_t v = 0;
+  for (int i = 3; i >= 0; --i) v = (v << 8) | static_cast<unsigned char>(data[at + i]);
+  return v;
+}
+
+// A bitmap becomes a whole BMP file: the file header in front of the bytes,
+// with the offset of the pixels taken from the image size in the header.
+std::optional<std::string> BitmapRecord(const std::string& data, bool dsx) {
+  if (data.size() < 24) return std::nullopt;
+  const auto n = static_cast<uint32_t>(data.size() + 14);
+  const uint32_t imageSize = LongAt(data, 20);
+  std::string out = RecordPrefix(n, dsx);
+  out += "BM";
+  PutLong(out, n);
+  PutLong(out, 0);
+  PutLong(out, n - imageSize);
+  out += data;
+  return out;
+}
+
+// A metafile becomes a placeable metafile. The prefix counts 12 bytes more
+// than the payload written, and 26 zero bytes follow it.
+std::optional<std::string> MetafileRecord(const std::string& data, PictureKind kind, bool dsx) {
+  std::string bytes;
+  if (kind == PictureKind::Metafile) {
+    if (data.size() < kMetafileHead) return std::nullopt;
+    bytes = data.substr(kMetafileHead);
+  } else {
+    const size_t half = data.size() / 2;
+    if (half < kEnhancedStart) return std::nullopt;
+    bytes = data.substr(kEnhancedStart, half - kEnhancedStart);
+  }
+  const auto n = static_cast<uint32_t>(sizeof kPlaceableHeader + bytes.size() + 12);
+  std::string out = RecordPrefix(n, dsx);
+  PutBytes(out, kPlaceableHeader);
+  out += bytes;
+  out.append(kMetafileTrailer, '\0');
+  return out;
+}
+
+// tblPict holds the picture on its way, in the row with ID 1. Without a
+// support database the bytes go to the writers directly.
+bool ClearStagedPicture(ConversionSession& s) {
+  return !s.SupportDb || s.SupportDb->Execute("DELETE FROM tblPict WHERE ID = 1");
+}
+
+bool StagePicture(ConversionSession& s, const std::string& bytes) {
+  if (!s.SupportDb) return true;
+  if (!ClearStagedPicture(s)) return false;
+  sqlite3_stmt* st = nullptr;
+  if (sqlite3_prepare_v2(s.SupportDb->Handle(),
+                         "INSERT INTO tblPict (ID, PictureData) VALUES (1, ?)", -1, &st,
+                         nullptr) != SQLITE_OK)
+    return false;
+  sqlite3_bind_blob(st, 1, bytes.data(), static_cast<int>(bytes.size()), SQLITE_TRANSIENT);
+  const bool ok = sqlite3_step(st) == SQLITE_DONE;
+  sqlite3_finalize(st);
+  return ok;
+}
+
+std::optional<std::string> StagedPicture(ConversionSession& s, const std::string& bytes) {
+  if (!s.SupportDb) return bytes;
+  sqlite3_stmt* st = nullptr;
+  if (sqlite3_prepare_v2(s.SupportDb->Handle(), "SELECT PictureData FROM tblPict WHERE ID = 1", -1,
+                         &st, nullptr) != SQLITE_OK)
+    return std::nullopt;
+  std::optional<std::string> out;
+  if (sqlite3_step(st) == SQLITE_ROW) {
+    const void* blob = sqlite3_column_blob(st, 0);
+    const int size = sqlite3_column_bytes(st, 0);
+    out = blob ? std::string(static_cast<const char*>(blob), static_cast<size_t>(size))
+               : std::string();
+  }
+  sqlite3_finalize(st);
+  return out;
+}
+
+// The picture bytes of the form or report `name`, or of its control.
+std::optional<std::string> PictureBytes(FormWriter& w, const std::string& name,
+                                        const std::string& controlName, bool isReport) {
+  const FormDesign* design =
+      w.Store().Open(isReport ? AccessObjectKind::Report : AccessObjectKind::Form, name, nullptr);
+  if (!design) return std::nullopt;
+  if (controlName.empty()) return design->Bytes("PictureData");
+  const ControlDesign* control = design->Control(controlName);
+  if (!control) return std::nullopt;
+  return control->Bytes("PictureData");
+}
+
+bool AppendRecord(const std::filesystem::path& target, const std::string& record) {
+  std::ofstream out(target, std::ios::binary | std::ios::app);
+  out.write(record.data(), static_cast<std::streamsize>(record.size()));
+  out.close();
+  return static_cast<bool>(out);
+}
+
+// Upper-case hexadecimal, at least four digits; an offset past 65535 keeps
+// all its digits, as the bindings records of the same file do.
+std::string OffsetText(std::uintmax_t offset) {
+  char buf[24];
+  std::snprintf(buf, sizeof buf, "%04jX", offset);
+  return buf;
+}
+
+}  // namespace
+
+std::string ExtractPicture(FormWriter& w, const std::string& holder, const std::string& controlName,
+                           bool isReport) {
+  ConversionSession& s = w.Session();
+  if (s.OptionWordLength != 11) return std::string();
+  auto bytes = PictureBytes(w, holder, controlName, isReport);
+  if (!bytes || !StagePicture(s, *bytes)) return std::string();
+  auto data = StagedPicture(s, *bytes);
+  if (!data || !PictureFitsLimit(*data)) return std::string();
+
+  // A picture of a subform's control goes to the top form's file.
+  const std::filesystem::path target =
+      isReport ? s.OutputPath + SafeName(holder) + ".dsx" : w.FrxPath();
+  std::error_code ec;
+  std::uintmax_t offset =
+      std::filesystem::exists(target, ec) ? std::filesystem::file_size(target, ec) : 0;
+  if (ec) return std::string();
+
+  const PictureKind kind = ProbePictureType(*data);
+  std::optional<std::string> record;
+  switch (kind) {
+    case PictureKind::None:
+      return std::string();
+    case PictureKind::Bitmap:
+      record = BitmapRecord(*data, isReport);
+      break;
+    case PictureKind::Metafile:
+    case PictureKind::EnhancedMetafile:
+      record = MetafileRecord(*data, kind, isReport);
+      break;
+  }
+  if (!record) return std::string();
+  errno = 0;
+  if (!AppendRecord(target, *record)) {
+    // Only the enhanced metafile's writer tells the user why it failed.
+    if (kind == PictureKind::EnhancedMetafile && s.Ui)
+      s.Ui->ShowMessage(std::strerror(errno != 0 ? errno : EIO), MessageIcon::Stop);
+    return std::string();
+  }
+  ClearStagedPicture(s);
+  w.Text().PictureReference = OffsetText(offset);
+  return w.Text().PictureReference;
+}
+
+}  // namespace morvane
