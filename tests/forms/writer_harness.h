@@ -141,4 +141,33 @@ class WriterHarness : public ::testing::Test {
   FormWriter w_;
 };
 
+// The font block of a control in Arial 10, regular.
+inline constexpr const char* kFontBlock = R"(BeginProperty Font 
+Name = "Arial"
+charset = 0
+weight = 400
+Size = 10
+underline = 0
+italic = 0
+strikethrough = 0
+EndProperty
+)";
+
+// The font block of a control type that has no font in Access.
+inline constexpr const char* kNoFontBlock = R"(BeginProperty Font 
+charset = 0
+strikethrough = 0
+EndProperty
+)";
+
+// The writer standing on a control of "frmTest"; Hint is the record of a
+// control of that form.
+class ControlWriters : public WriterHarness {
+ protected:
+  std::string Hint(const std::string& record, const std::string& accessName,
+                   const std::string& vbName) {
+    return Hints({{record, "frmTest", accessName, vbName, ""}});
+  }
+};
+
 }  // namespace morvane::test
