@@ -45,10 +45,12 @@ std::optional<std::string> Hex(const DesignObject& o, std::string_view property)
 std::optional<std::string> OneLine(const DesignObject& o, std::string_view property);
 std::optional<long> Sum(const std::optional<long>& a, long b);
 std::optional<long> Sum(const std::optional<long>& a, const std::optional<long>& b);
-// A number of a text as Visual Basic converts it (Abs, CBool): blanks
-// around it allowed; nullopt for a text that is no number.
+// A text converted as Visual Basic's Abs and CBool convert it, blanks
+// around it allowed; nullopt for a text they refuse. A boolean is a number
+// (true unless 0) or True, False and Access's Yes, No, On, Off.
 std::optional<double> NumberOfText(std::string_view text);
 std::optional<bool> BoolOfText(std::string_view text);
+// The absolute value in default decimal form.
 std::optional<std::string> AbsText(std::string_view text);
 
 // "Alignment ={AlignmentMap(TextAlign)}" when TextAlign is above 0; the map
