@@ -107,13 +107,20 @@ class EventHarness : public ::testing::Test {
       tree_ = SourceTree::Open(dir_ / "src", "", &err);
       EXPECT_TRUE(tree_) << err;
       store_ = std::make_unique<DesignStore>(*tree_);
-      db_ = SupportDatabase::Open(dir_ / "out" / "morvane.db", MORVANE_DATA_DIR, &err);
+      if (!db_) db_ = SupportDatabase::Open(dir_ / "out" / "morvane.db", MORVANE_DATA_DIR, &err);
       EXPECT_TRUE(db_) << err;
       s_.AccessApp = tree_.get();
       s_.SupportDb = db_.get();
       actions_ = std::make_unique<EventHintActions>(*store_);
     }
     return *actions_;
+  }
+
+  // Reads the source tree again on the next use, after a test rewrote it.
+  void Reload() {
+    actions_.reset();
+    store_.reset();
+    tree_.reset();
   }
 
   // The control record of `kind` for a control of frmTest.
