@@ -220,6 +220,24 @@ TEST_F(ControlEvents, RenamesKeepToTheSectionOfTheFormThatHoldsTheControl) {
                            "Private Sub cmdGo2_Click()\nEnd Sub\n"));
 }
 
+TEST_F(ControlEvents, ControlOfASubformIsReachedThroughItsSubformControl) {
+  AddTestForm(ControlBlock("Subform", "sfrmLines", {{"SourceObject", "Form.frmLines"}}));
+  AddForm("frmLines",
+          FormText({}, ControlBlock("TextBox", "txtQty",
+                                    {{"OnChange", "[Event Procedure]"}, {"OnClick", "=Qty()"}})));
+  const std::string code =
+      "Private Sub txtQty_Change()\nEnd Sub\n'MORVANE Form Code for frmLines\n"
+      "Private Sub txtQty_Change()\nEnd Sub\n'MORVANE End Form Code for frmLines\n";
+  SetCode(code);
+  ControlHint hint{"frmTest", "txtQty", "txtQty1", 0, "sfrmLines"};
+  Actions().ControlEvents(s_, "TextBox", "frmTest", hint);
+  EXPECT_EQ(Output(), Crlf(std::string(kFrmHead) +
+                           "Private Sub txtQty_Change()\nEnd Sub\n'MORVANE Form Code for frmLines\n"
+                           "Private Sub txtQty1_Change()\nEnd Sub\n"
+                           "'MORVANE End Form Code for frmLines\n"
+                           "\nPrivate Sub txtQty1_Click()\nCall Qty()\nEnd Sub\n"));
+}
+
 TEST_F(ControlEvents, EnterAndGotFocus) {
   AddTestForm(
       ControlBlock("TextBox", "txtA", {{"OnGotFocus", "mcrBeep"}}) +
