@@ -10,7 +10,9 @@
 
 #include "app/command_line_ui.h"
 #include "app/text_output.h"
+#include "events/event_writer.h"
 #include "forms/design_store.h"
+#include "forms/form_converter.h"
 #include "macros/macro_converter.h"
 #include "platform/catalog.h"
 #include "session/access_link.h"
@@ -218,9 +220,13 @@ int RunConvert(const Options& o, const char* argv0) {
 
   TranslatorCodeConverter code;
   MacroConverterImpl macroConverter;
+  DesignStore store(*link.Tree());
+  EventHintActions hintActions(store);
+  DesignFormConverter forms(store, hintActions);
   Converters converters;
   converters.Code = &code;
   converters.Macros = &macroConverter;
+  converters.Forms = &forms;
   RunSummary summary = StartTranslation(s, link, converters, request);
   if (!summary.Started) return 1;
 

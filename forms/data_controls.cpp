@@ -125,9 +125,11 @@ void WriteFormDataControl(FormWriter& w) {
     top = t.Total - detailHeight + t.PageBreakTops[1] + 520 - 330;
   }
   const bool visible = t.InSubform || form->Flag("NavigationButtons").value_or(true);
-  const std::string text =
+  std::string text =
       s.UseAdo ? WriteAdoDataControl(w, name, t.SubformLeft, type, source, top, visible, formName)
                : WriteDataControl(w, name, t.SubformLeft, type, source, top, visible, formName);
+  // The control's text ends with its line end; the next control brings its own.
+  if (text.ends_with("\r\n")) text.resize(text.size() - 2);
   t.BodyText += "\r\n" + text;
   if (!t.InSubform) return;
 

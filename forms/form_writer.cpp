@@ -262,7 +262,7 @@ void FormWriter::WriteComponentLines(bool finish) {
   }
   for (size_t i = 0; i < t_.ComponentFiles.size(); ++i)
     t_.HeaderText +=
-        "\r\nObject=\"{" + t_.ComponentGuids[i] + "}\"; \"" + t_.ComponentFiles[i] + "\"";
+        "\r\nObject=\"" + t_.ComponentGuids[i] + "\"; \"" + t_.ComponentFiles[i] + "\"";
 }
 
 void FormWriter::MakeControlName(const ControlDesign& c) {

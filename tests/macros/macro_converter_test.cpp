@@ -348,9 +348,10 @@ TEST_F(MacroConversion, MappingDataIsComplete) {
     }
     EXPECT_EQ(tables.FindArg(a.ActionID, a.NumArgs), nullptr) << a.Action;
     // A template names no argument beyond the action's count.
-    if (a.MapsTo)
+    if (a.MapsTo) {
       for (int i = a.NumArgs + 1; i <= 10; ++i)
         EXPECT_EQ(a.MapsTo->find("|" + std::to_string(i)), std::string::npos) << a.Action;
+    }
   }
   EXPECT_EQ(tables.FindAction("MsgBox")->ActionID, 22);
   EXPECT_EQ(tables.FindAction("RunCode")->ActionID, 33);

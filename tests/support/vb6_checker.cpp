@@ -4,6 +4,8 @@
 #include "support/vb6_checker.h"
 
 #include <algorithm>
+#include <cctype>
+#include <set>
 #include <map>
 #include <optional>
 #include <string_view>
@@ -153,6 +155,64 @@ bool StartsWithWord(std::string_view line, std::string_view word) {
          (line.size() == word.size() || IsBlank(line[word.size()]));
 }
 
+// The control libraries a form may use, by the library part of a control's
+// class, with the files that hold them (upper case). A class of a library not
+// here is unknown to the checker; "VB" is the intrinsic controls'.
+struct Library {
+  std::string_view Name;
+  std::vector<std::string_view> Files;
+};
+const std::vector<Library>& Libraries() {
+  static const std::vector<Library> kLibraries = {
+      {"MSAdodcLib", {"MSADODC.OCX"}},
+      {"MSComCtl2", {"MSCOMCT2.OCX"}},
+      {"MSComctlLib", {"MSCOMCTL.OCX"}},
+      {"ComctlLib", {"COMCTL32.OCX"}},
+      {"Threed", {"THREED32.OCX"}},
+      {"SSDataWidgets_A", {"SSDW3A32.OCX", "SSDATA32.OCX"}},
+      {"SSDataWidgets_B", {"SSDW3B32.OCX"}},
+      {"MSDataListLib", {"MSDATLST.OCX"}},
+      {"MSDataGridLib", {"MSDATGRD.OCX"}},
+      {"MSFlexGridLib", {"MSFLXGRD.OCX"}},
+      {"MSDBGrid", {"DBGRID32.OCX"}},
+      {"MSForms", {"FM20.DLL"}},
+      {"MSACAL", {"MSCAL.OCX"}},
+      {"RichTextLib", {"RICHTX32.OCX"}},
+      {"SHDocVwCtl", {"SHDOCVW.DLL", "IEFRAME.DLL"}},
+      {"MSComDlg", {"COMDLG32.OCX"}},
+      {"TabDlg", {"TABCTL32.OCX"}},
+      {"MSMask", {"MSMASK32.OCX"}},
+  };
+  return kLibraries;
+}
+
+// The intrinsic controls of Visual Basic 6.
+constexpr std::string_view kIntrinsicControls[] = {
+    "Label",    "TextBox",    "CommandButton", "CheckBox",     "OptionButton", "Frame",
+    "ListBox",  "ComboBox",   "PictureBox",    "Image",        "Line",         "Shape",
+    "Timer",    "Data",       "OLE",           "HScrollBar",   "VScrollBar",   "DriveListBox",
+    "DirListBox", "FileListBox", "Menu"};
+
+// "Object = "{guid}#1.0#0"; "FILE.OCX"": the file, upper case; empty when the
+// line is not of that shape.
+std::string ObjectLineFile(std::string_view line) {
+  line = Trim(line);
+  if (line.substr(0, 6) != "Object") return {};
+  line = Trim(line.substr(6));
+  if (line.empty() || line.front() != '=') return {};
+  line = Trim(line.substr(1));
+  if (line.size() < 2 || line.front() != '"') return {};
+  const size_t close = line.find('"', 1);
+  if (close == std::string_view::npos || line.substr(1, 1) != "{") return {};
+  line = Trim(line.substr(close + 1));
+  if (line.empty() || line.front() != ';') return {};
+  line = Trim(line.substr(1));
+  if (line.size() < 3 || line.front() != '"' || line.back() != '"') return {};
+  std::string file(line.substr(1, line.size() - 2));
+  for (char& c : file) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+  return file;
+}
+
 // "Key = value", "Key(3) = value" as the designer blocks hold them.
 bool IsPropertyLine(std::string_view line) {
   line = Trim(line);
@@ -280,7 +340,14 @@ class Checker {
       return kStop;
     }
     size_t i = 1;
-    while (i < lines_.size() && StartsWithWord(lines_[i], "Object")) ++i;
+    std::set<std::string> files;
+    for (; i < lines_.size() && Trim(lines_[i]).substr(0, 6) == "Object"; ++i) {
+      std::string file = ObjectLineFile(lines_[i]);
+      if (file.empty())
+        Problem(i, "expected Object = \"{guid}#version#0\"; \"file\"");
+      else
+        files.insert(std::move(file));
+    }
     // "Begin <type> <name>"
     const auto [begin, rest] = SplitWord(LineAt(i));
     const std::string typeText(rest.substr(0, rest.find_first_of(" \t")));
@@ -294,14 +361,21 @@ class Checker {
       return kStop;
     }
     const size_t opened = i;
+    std::vector<size_t> open;  // the controls whose block is open, innermost last
     int depth = 1;
     int propertyDepth = 0;
     for (++i; i < lines_.size(); ++i) {
       const std::string_view t = Trim(lines_[i]);
       if (t == "End") {
         if (--depth == 0) break;
+        if (!open.empty()) open.pop_back();
       } else if (StartsWithWord(t, "Begin")) {
         ++depth;
+        ControlLine(i, t, files);
+        open.push_back(controls_.size() - 1);
+      } else if (propertyDepth == 0 && !open.empty() && IsPropertyLine(t) &&
+                 EqualsNoCase(SplitWord(t).first, "index")) {
+        controls_[open.back()].Indexed = true;
       } else if (StartsWithWord(t, "BeginProperty")) {
         ++propertyDepth;
       } else if (t == "EndProperty") {
@@ -318,8 +392,67 @@ class Checker {
       return kStop;
     }
     if (propertyDepth > 0) Problem(i, "BeginProperty without EndProperty");
+    DuplicateControlNames();
     return AttributeLines(i + 1);
   }
+
+  // "Begin <library>.<class> <name>" inside the designer block: the class is
+  // an intrinsic control or one of a library whose file an Object line names.
+  // Data report sections name their class by GUID and are taken as they are.
+  void ControlLine(size_t line, std::string_view t, const std::set<std::string>& files) {
+    std::string_view rest = Trim(t.substr(5));
+    const size_t blank = rest.find_first_of(" \t");
+    if (blank == std::string_view::npos) {
+      Problem(line, "control without a name");
+      controls_.push_back({"", line, false});
+      return;
+    }
+    const std::string_view type = rest.substr(0, blank);
+    const std::string_view name = Trim(rest.substr(blank));
+    controls_.push_back({std::string(name), line, false});
+    if (type.front() == '{') return;
+    const size_t dot = type.find('.');
+    if (dot == std::string_view::npos) {
+      Problem(line, "control class without its library: " + std::string(type));
+      return;
+    }
+    const std::string_view library = type.substr(0, dot);
+    const std::string_view cls = type.substr(dot + 1);
+    if (library == "VB") {
+      if (std::find(std::begin(kIntrinsicControls), std::end(kIntrinsicControls), cls) ==
+          std::end(kIntrinsicControls))
+        Problem(line, "unknown control class " + std::string(type));
+      return;
+    }
+    for (const Library& l : Libraries()) {
+      if (l.Name != library) continue;
+      for (std::string_view f : l.Files)
+        if (files.count(std::string(f))) return;
+      Problem(line, std::string(type) + " without the Object line of " + std::string(l.Files[0]));
+      return;
+    }
+    Problem(line, "unknown control class " + std::string(type));
+  }
+
+  // Two controls of one name stand only as members of a control array, each
+  // with its Index.
+  void DuplicateControlNames() {
+    std::map<std::string, const Control*> seen;
+    for (const Control& c : controls_) {
+      if (c.Name.empty()) continue;
+      const auto [it, added] = seen.emplace(ToLower(c.Name), &c);
+      if (!added && (!c.Indexed || !it->second->Indexed))
+        Problem(c.Line, "second control named " + c.Name + " (the first is on line " +
+                            std::to_string(it->second->Line + 1) + ") outside a control array");
+    }
+  }
+
+  struct Control {
+    std::string Name;
+    size_t Line;
+    bool Indexed;
+  };
+  std::vector<Control> controls_;
 
   // --- Code ---------------------------------------------------------------
 
