@@ -259,8 +259,11 @@ std::string ProjectModel::VbpText(const std::filesystem::path& baseDir) const {
     for (const auto& l : lines) {
       std::string t = Trimmed(l);
       if (StartsWith(t, "Begin ") || StartsWith(t, "Attribute ")) break;
-      if (!StartsWith(t, "Object =")) continue;
-      std::string value = Trimmed(t.substr(8));
+      // VB writes "Object = ", the form writer "Object=".
+      if (!StartsWith(t, "Object")) continue;
+      std::string value = Trimmed(t.substr(6));
+      if (value.empty() || value.front() != '=') continue;
+      value = Trimmed(value.substr(1));
       value.erase(std::remove(value.begin(), value.end(), '"'), value.end());
       if (std::find(objects.begin(), objects.end(), value) == objects.end())
         objects.push_back(value);

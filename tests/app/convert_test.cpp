@@ -44,14 +44,18 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
 
   for (auto f : {"Orders.vbp", "basOrders.bas", "basStatistics.bas", "clsCustomer.bas",
                  "Date Helpers.bas", "MorvaneConversionCode.bas", "MacroCode.bas", "MDIParent.frm",
-                 "morvane.db", "analysis/index.html"})
+                 "frmOrders.frm", "frmCustomers.frm", "morvane.db", "analysis/index.html"})
     EXPECT_TRUE(fs::exists(dir / "out" / f)) << f;
   // Extraction files of the translator do not stay.
   for (const auto& e : fs::directory_iterator(dir / "out"))
     EXPECT_NE(e.path().extension(), ".txt") << e.path();
 
   const std::string vbp = ReadFile(dir / "out" / "Orders.vbp");
-  const auto order = {"Module=MacroCode; MacroCode.bas",
+  const auto order = {"Object={67397AA1-7FB1-11D0-B148-00A0C922E820}#6.0#0; MSADODC.OCX",
+                      "Object={0BA686C6-F7D3-101A-993E-0000C0EF6F5E}#1.0#0; THREED32.OCX",
+                      "Module=MacroCode; MacroCode.bas",
+                      "Form=frmCustomers.frm",
+                      "Form=frmOrders.frm",
                       "Module=basOrders; basOrders.bas",
                       "Module=basStatistics; basStatistics.bas",
                       "Class=clsCustomer; clsCustomer.bas",
@@ -77,7 +81,28 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
     EXPECT_TRUE(problems.empty()) << e.path().filename() << ": " << problems.front();
     ++checked;
   }
-  EXPECT_EQ(checked, 7);
+  EXPECT_EQ(checked, 9);
+
+  // Forms: the data control, the controls of every section and the event
+  // code, with the macro of a button called in the form's context.
+  const std::string customers = ReadFile(dir / "out" / "frmCustomers.frm");
+  for (const char* wanted :
+       {"   Begin MSAdodcLib.Adodc datfrmCustomers\r\n", "      RecordSource = \"tblCustomers\"\r\n",
+        "   Begin VB.Frame grpgrpTerms\r\n", "      Begin VB.OptionButton grpTerms\r\n",
+        "         Index = 2\r\n", "   Begin Threed.SSCommand cmdOrders\r\n",
+        "   Begin VB.Timer Timer1\r\n      Left = 0\r\n      Top = 0\r\n      Interval = 60000\r\n",
+        "   Begin VB.Frame Section\r\n", "      Begin VB.Line linUnderTitle\r\n",
+        "Private Sub Timer1_Timer()\r\n    Call Form_Timer\r\nEnd Sub",
+        "Private Sub imgLogo_Click()\r\n    Call ShowOverview\r\nEnd Sub",
+        "    FirstOrder.Value =Date()\r\n", "    grpTerms(1).Value = True\r\n",
+        "            If Form_BeforeUpdate Then\r\n                adStatus = adStatusCancel\r\n"})
+    EXPECT_NE(customers.find(wanted), std::string::npos) << wanted;
+  const std::string orders = ReadFile(dir / "out" / "frmOrders.frm");
+  EXPECT_NE(orders.find("Private Sub cmdArchive_Click()\r\n    Set CodeContextObject = Me\r\n"
+                        "    Call mcrOrders_Archive\r\n    Set CodeContextObject = Nothing\r\n"),
+            std::string::npos);
+  EXPECT_NE(orders.find("Unload frmOrders\t'MORVANE DoCmd.Close acForm, Me.Name"),
+            std::string::npos);
 
   // Macros: one function per macro of the group, AutoExec called at start.
   const std::string macros = ReadFile(dir / "out" / "MacroCode.bas");
@@ -102,19 +127,26 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   EXPECT_NE(statistics.find("frmOrders!txtCount = DCount("), std::string::npos);
   EXPECT_NE(statistics.find("varResult = SysCmdVB(4, "), std::string::npos);
 
-  EXPECT_NE(r.out.find("Converted 4 object(s)"), std::string::npos) << r.out;
+  EXPECT_NE(r.out.find("Converted 6 object(s): 2 form(s)"), std::string::npos) << r.out;
   EXPECT_NE(r.out.find("analysis/index.html"), std::string::npos) << r.out;
-  // What the run could not do is said, not skipped.
-  EXPECT_NE(r.out.find("frmOrders: Form conversion is not available"), std::string::npos) << r.out;
+  EXPECT_EQ(r.out.find("Form conversion is not available"), std::string::npos) << r.out;
 
   std::string err;
   auto db = SupportDatabase::Open(dir / "out" / "morvane.db", MORVANE_DATA_DIR, &err);
   ASSERT_TRUE(db) << err;
   auto stats = db->Stats();
-  ASSERT_EQ(stats.size(), 5u);
+  ASSERT_EQ(stats.size(), 7u);
   EXPECT_EQ(stats[0].ModuleName, "MacroCode");
-  EXPECT_EQ(stats[1].ModuleName, "basOrders");
-  EXPECT_GT(stats[1].TotalLines, 50);
+  // The form rows count their controls: the data control, two labels, the
+  // date picker, the check box, the option group's frame and buttons, the
+  // toggle, the button, the image, the line, the rectangle, the timer, the
+  // section frames and the footer's text box.
+  EXPECT_EQ(stats[1].ModuleName, "frmCustomers");
+  EXPECT_EQ(stats[1].CtlCount, 18);
+  EXPECT_EQ(stats[2].ModuleName, "frmOrders");
+  EXPECT_EQ(stats[2].CtlCount, 7);
+  EXPECT_EQ(stats[3].ModuleName, "basOrders");
+  EXPECT_GT(stats[3].TotalLines, 50);
   EXPECT_FALSE(db->ReportOutput().empty());
 }
 
@@ -192,7 +224,7 @@ TEST(List, PrintsTheCatalogInItsOrder) {
   auto r = RunMorvane({"list", kSample.string()});
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_EQ(r.out,
-            "Forms:\n  frmOrders\nModules:\n  basOrders\n  basStatistics\n  clsCustomer\n"
+            "Forms:\n  frmCustomers\n  frmOrders\nModules:\n  basOrders\n  basStatistics\n  clsCustomer\n"
             "  Date Helpers\n"
             "Reports:\nMacros:\n  AutoExec\n  mcrOrders\n");
 }

@@ -141,7 +141,11 @@ TEST(ProjectModel, NamesEachControlLibraryOfItsFormsOnce) {
       "Object = \"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0\"; \"MSCOMCTL.OCX\"\n";
   test::WriteFile(dir / "a.frm", test::Crlf("VERSION 5.00\n" + object +
                                             "Begin VB.Form a\nEnd\nAttribute VB_Name = \"a\"\n"));
-  test::WriteFile(dir / "b.frm", test::Crlf("VERSION 5.00\n" + object +
+  // The form writer leaves out the blanks around "=".
+  const std::string packed =
+      "Object=\"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0\"; \"MSCOMCTL.OCX\"\n"
+      "Object=\"{67397AA1-7FB1-11D0-B148-00A0C922E820}#6.0#0\"; \"MSADODC.OCX\"\n";
+  test::WriteFile(dir / "b.frm", test::Crlf("VERSION 5.00\n" + packed +
                                             "Begin VB.Form b\nEnd\nAttribute VB_Name = \"b\"\n"));
   ProjectModel p;
   p.AddFile(dir / "a.frm");
@@ -151,6 +155,9 @@ TEST(ProjectModel, NamesEachControlLibraryOfItsFormsOnce) {
   ASSERT_NE(vbp.find(line), std::string::npos) << vbp;
   EXPECT_EQ(vbp.find(line), vbp.rfind(line));
   EXPECT_LT(vbp.find(line), vbp.find("Form=a.frm"));
+  EXPECT_NE(vbp.find("Object={67397AA1-7FB1-11D0-B148-00A0C922E820}#6.0#0; MSADODC.OCX\r\n"),
+            std::string::npos)
+      << vbp;
 }
 
 }  // namespace

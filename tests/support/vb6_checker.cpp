@@ -366,6 +366,7 @@ class Checker {
     int propertyDepth = 0;
     for (++i; i < lines_.size(); ++i) {
       const std::string_view t = Trim(lines_[i]);
+      if (t.empty()) continue;  // VB6 reads past empty lines of a designer block
       if (t == "End") {
         if (--depth == 0) break;
         if (!open.empty()) open.pop_back();

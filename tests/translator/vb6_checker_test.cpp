@@ -204,5 +204,33 @@ TEST(Vb6Checker, FileHeaders) {
   });
 }
 
+TEST(Vb6Checker, ControlsOfADesignerBlock) {
+  RunCases({
+      {"each library's control needs the Object line of its file; an empty line is read past",
+       "f.frm",
+       "VERSION 5.00\nObject=\"{67397AA1-7FB1-11D0-B148-00A0C922E820}#6.0#0\"; \"msadodc.ocx\"\n"
+       "Begin VB.Form frmA\n   Begin MSAdodcLib.Adodc datA\n   End\n\n"
+       "   Begin Threed.SSCommand cmdA\n   End\n   Begin MSComCtl2.DTPicker dtp\n   End\n"
+       "End\nAttribute VB_Name = \"frmA\"\n",
+       {"line 7: Threed.SSCommand without the Object line of THREED32.OCX",
+        "line 9: MSComCtl2.DTPicker without the Object line of MSCOMCT2.OCX"}},
+      {"classes unknown to Visual Basic, and an Object line of another shape",
+       "f.frm",
+       "VERSION 5.00\nObject=MSCOMCTL.OCX\nBegin VB.Form frmA\n   Begin VB.ListView lv\n   End\n"
+       "   Begin Foo.Bar fb\n   End\n   Begin Label lbl\n   End\nEnd\nAttribute VB_Name = \"frmA\"\n",
+       {"line 2: expected Object = \"{guid}#version#0\"; \"file\"",
+        "line 4: unknown control class VB.ListView", "line 6: unknown control class Foo.Bar",
+        "line 8: control class without its library: Label"}},
+      {"two controls of one name stand only in a control array",
+       "f.frm",
+       "VERSION 5.00\nBegin VB.Form frmA\n   Begin VB.Frame grpA\n"
+       "      Begin VB.OptionButton optA\n         Index = 1\n      End\n"
+       "      Begin VB.OptionButton optA\n         Index = 2\n      End\n   End\n"
+       "   Begin VB.Label lbl\n   End\n   Begin VB.Frame fra\n      Begin VB.TextBox LBL\n"
+       "      End\n      Index = 3\n   End\nEnd\nAttribute VB_Name = \"frmA\"\n",
+       {"line 14: second control named LBL (the first is on line 11) outside a control array"}},
+  });
+}
+
 }  // namespace
 }  // namespace morvane::test
