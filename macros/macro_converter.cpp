@@ -5,7 +5,10 @@
 
 #include <array>
 #include <filesystem>
+#include <optional>
 
+#include "forms/design_store.h"
+#include "forms/form_design.h"
 #include "macros/macro_expression.h"
 #include "macros/macro_names.h"
 #include "macros/macro_tables.h"
@@ -68,6 +71,9 @@ class MacroWriter {
 
   // Walks one macro; false when its text cannot be read.
   bool ConvertMacroText(const std::string& macroName, std::string subName, std::string* err);
+  // Walks the text of a macro embedded in a form or report's event, as the
+  // procedure `procName`.
+  void ConvertEmbeddedMacro(const std::vector<std::string>& lines, const std::string& procName);
   const std::string& Output() const { return out_; }
   bool ContextFound() const { return contextProbe_ == 2; }
 
@@ -78,6 +84,8 @@ class MacroWriter {
   void FinishProcedure();
   void BuildProcWrapper();
   void ReportAction(const std::string& why);
+  void Reset();
+  void Walk(std::vector<std::string> lines, const std::string& macroName, std::string subName);
 
   ConversionSession& s_;
   const MacroTables& tables_;
@@ -222,8 +230,7 @@ std::string DecodedValue(const std::string& line, size_t eq) {
   return line.size() >= eq + 3 ? line.substr(eq + 2, line.size() - eq - 3) : std::string();
 }
 
-bool MacroWriter::ConvertMacroText(const std::string& macroName, std::string subName,
-                                   std::string* err) {
+void MacroWriter::Reset() {
   inIfBlock_ = false;
   needsContext_ = false;
   record_ = MacroActionRecord{};
@@ -231,7 +238,11 @@ bool MacroWriter::ConvertMacroText(const std::string& macroName, std::string sub
   macroBody_.clear();
   macroTail_.clear();
   lastEndIf_.reset();
+}
 
+bool MacroWriter::ConvertMacroText(const std::string& macroName, std::string subName,
+                                   std::string* err) {
+  Reset();
   std::vector<std::string> lines;
   if (!s_.AccessApp || !s_.AccessApp->LoadMacroText(macroName, &lines, err)) return false;
   for (auto& line : lines) line = TrimBlanks(line);
@@ -248,7 +259,23 @@ bool MacroWriter::ConvertMacroText(const std::string& macroName, std::string sub
   } else {
     procName_.clear();
   }
+  Walk(std::move(lines), macroName, std::move(subName));
+  return true;
+}
 
+void MacroWriter::ConvertEmbeddedMacro(const std::vector<std::string>& text,
+                                       const std::string& procName) {
+  Reset();
+  std::vector<std::string> lines = text;
+  for (auto& line : lines) line = TrimBlanks(line);
+  procName_ = procName;
+  Walk(std::move(lines), procName, std::string());
+  // The probe looks at the one procedure the text holds.
+  if (contextProbe_ == 1) BuildProcWrapper();
+}
+
+void MacroWriter::Walk(std::vector<std::string> lines, const std::string& macroName,
+                       std::string subName) {
   std::string previous;
   for (const auto& line : lines) {
     const size_t eq = line.find('=');
@@ -286,7 +313,31 @@ bool MacroWriter::ConvertMacroText(const std::string& macroName, std::string sub
     previous = line;
   }
   if (contextProbe_ <= 0) FinishProcedure();
-  return true;
+}
+
+// A macro embedded in an event of a form or report is named
+// "<form>.<control>.<event>" or "<form>.<event>"; its lines come from the
+// design. Empty when the name is no such macro.
+std::optional<std::vector<std::string>> EmbeddedMacroLines(ConversionSession& s,
+                                                           const std::string& name) {
+  const size_t dot = name.find('.');
+  if (!s.AccessApp || dot == std::string::npos) return std::nullopt;
+  const std::string owner = name.substr(0, dot);
+  DesignStore store(*s.AccessApp);
+  for (auto kind : {AccessObjectKind::Form, AccessObjectKind::Report}) {
+    const FormDesign* design = store.Open(kind, owner, nullptr);
+    if (!design) continue;
+    for (const auto& m : design->EmbeddedMacros())
+      if (EqualsNoCase(m.Name, name)) return SplitLines(m.Text);
+  }
+  return std::nullopt;
+}
+
+bool IsTreeMacro(ConversionSession& s, const std::string& name) {
+  if (!s.SourceDb) return false;
+  for (const auto& m : s.SourceDb->ContainerDocuments("Scripts"))
+    if (EqualsNoCase(m, name)) return true;
+  return false;
 }
 
 }  // namespace
@@ -303,6 +354,26 @@ void MacroConverterImpl::ConvertMacros(ConversionSession& s, const std::string& 
     else if (s.SupportDb)
       s.SupportDb->AddRunNote(name, "the macro's text could not be read: " + err);
   }
+  // Macros embedded in the events of forms and reports follow, each a
+  // procedure named after its form, control and event.
+  if (s.AccessApp) {
+    DesignStore store(*s.AccessApp);
+    for (auto [kind, container] : {std::pair{AccessObjectKind::Form, "Forms"},
+                                   std::pair{AccessObjectKind::Report, "Reports"}}) {
+      for (const auto& owner : s.SourceDb->ContainerDocuments(container)) {
+        const FormDesign* design = store.Open(kind, owner, nullptr);
+        if (!design) continue;
+        for (const auto& m : design->EmbeddedMacros()) {
+          const size_t dot = m.Name.find('.');
+          MacroWriter writer(s, tables, 0);
+          writer.ConvertEmbeddedMacro(
+              SplitLines(m.Text),
+              MacroProcName(s, m.Name.substr(0, dot), m.Name.substr(dot + 1)));
+          text += writer.Output();
+        }
+      }
+    }
+  }
   WriteFileBytes(outputPath + "macro.txt", text, nullptr);
   if (auto startup = s.SourceDb->Property("StartupForm"); startup && !startup->empty())
     AppendFileBytes(outputPath + "_Startup.txt", *startup + "\r\n", nullptr);
@@ -316,6 +387,12 @@ bool MacroNeedsContext(ConversionSession& s, std::string& name) {
   const std::string sub = dot == std::string::npos ? std::string() : name.substr(dot + 1);
   name = MacroProcName(s, macro, sub);
   MacroWriter writer(s, tables, 1);
+  if (!IsTreeMacro(s, macro)) {
+    if (auto lines = EmbeddedMacroLines(s, macro + (sub.empty() ? "" : "." + sub))) {
+      writer.ConvertEmbeddedMacro(*lines, name);
+      return writer.ContextFound();
+    }
+  }
   writer.ConvertMacroText(macro, sub, nullptr);
   return writer.ContextFound();
 }

@@ -7,6 +7,7 @@
 #include "platform/support_db.h"
 #include "support/run_command.h"
 #include "support/temp_dir.h"
+#include "support/vb6_checker.h"
 
 namespace morvane {
 namespace {
@@ -83,8 +84,11 @@ TEST(Golden, EveryCaseGivesItsExpectedFiles) {
     if (update) {
       fs::remove_all(expected);
       fs::create_directories(expected);
+      // The conversion code has tests of its own and changes with every
+      // template; a case compares what its input exercises.
       for (const auto& f : fs::directory_iterator(out / "out"))
-        if (f.is_regular_file() && f.path().extension() != ".db")
+        if (f.is_regular_file() && f.path().extension() != ".db" &&
+            f.path().filename() != "MorvaneConversionCode.bas")
           fs::copy_file(f.path(), expected / f.path().filename(),
                         fs::copy_options::overwrite_existing);
       WriteFile(expected / "tblReportOutput.tsv", ReportRows(*db));
@@ -105,6 +109,14 @@ TEST(Golden, EveryCaseGivesItsExpectedFiles) {
       ++compared;
     }
     EXPECT_GT(compared, 0);
+    // Every Visual Basic file of the run keeps VB6's structure.
+    for (const auto& f : fs::directory_iterator(out / "out")) {
+      const std::string ext = f.path().extension().string();
+      if (ext != ".bas" && ext != ".frm" && ext != ".cls" && ext != ".dsr") continue;
+      const auto problems =
+          test::CheckVb6Structure(f.path().filename().string(), ReadFile(f.path()));
+      EXPECT_TRUE(problems.empty()) << f.path().filename() << ": " << problems.front();
+    }
   }
   EXPECT_GT(cases, 0);
 }

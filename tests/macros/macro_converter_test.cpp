@@ -218,6 +218,66 @@ TEST_F(MacroConversion, NeedsContextLooksAtEveryFinishedProcedureOfTheGroup) {
     EXPECT_EQ(e.path().filename(), "morvane.db");
 }
 
+TEST_F(MacroConversion, MacrosEmbeddedInFormEventsBecomeProceduresOfTheirOwn) {
+  Open({{"M", Row("Beep")}});
+  fs::create_directories(root_ / "src" / "forms");
+  WriteFile(root_ / "src" / "forms" / "frmGo.txt", test::Crlf(R"(Version =20
+VersionRequired =20
+Begin Form
+    OnLoadEmMacro = Begin
+        Version =196611
+        ColumnsShown =0
+        Begin
+            Action ="Beep"
+        End
+    End
+    Begin
+        Begin Section
+            Height =1000
+            Name ="Detail"
+            Begin
+                Begin CommandButton
+                    Name ="cmdGo"
+                    OnClickEmMacro = Begin
+                        Version =196611
+                        ColumnsShown =0
+                        Begin
+                            Action ="SetValue"
+                            Argument ="[txtA]"
+                            Argument ="1"
+                        End
+                    End
+                End
+            End
+        End
+    End
+End
+)"));
+  std::string err;
+  tree_ = SourceTree::Open(root_ / "src", "", &err);
+  ASSERT_TRUE(tree_) << err;
+  catalog_ = tree_->BuildCatalog();
+  s_.SourceDb = catalog_.get();
+  s_.AccessApp = tree_.get();
+
+  const std::string text = Convert();
+  EXPECT_NE(text.find("Function frmGo_cmdGo_OnClick ()\r\nOn Error GoTo frmGo_cmdGo_OnClick_Err\r\n"
+                      "With CodeContextObject\r\n\r\n.txtA  = 1\r\n"),
+            std::string::npos)
+      << text;
+  EXPECT_NE(text.find("Function frmGo_OnLoad ()\r\nOn Error GoTo frmGo_OnLoad_Err\r\n\r\nBeep\r\n"),
+            std::string::npos)
+      << text;
+  // The event writers learn the procedure's name, and that the button's
+  // macro works on the form it is called from.
+  std::string name = "frmGo.cmdGo.OnClick";
+  EXPECT_TRUE(MacroNeedsContext(s_, name));
+  EXPECT_EQ(name, "frmGo_cmdGo_OnClick");
+  name = "frmGo.OnLoad";
+  EXPECT_FALSE(MacroNeedsContext(s_, name));
+  EXPECT_EQ(name, "frmGo_OnLoad");
+}
+
 // One action per row of the mapping data, with the statement each gives.
 struct ActionCase {
   const char* action;

@@ -216,14 +216,17 @@ std::string ObjectLineFile(std::string_view line) {
 // "Key = value", "Key(3) = value" as the designer blocks hold them.
 bool IsPropertyLine(std::string_view line) {
   line = Trim(line);
+  // "Buttons.Button(2).Caption": names with dots, each may carry an index.
   size_t i = 0;
-  while (i < line.size() && (IsNameChar(line[i]) || line[i] == '.')) ++i;
-  if (i == 0) return false;
-  if (i < line.size() && line[i] == '(') {
-    const size_t close = line.find(')', i);
-    if (close == std::string_view::npos) return false;
-    i = close + 1;
+  while (i < line.size() && (IsNameChar(line[i]) || line[i] == '.')) {
+    while (i < line.size() && (IsNameChar(line[i]) || line[i] == '.')) ++i;
+    if (i < line.size() && line[i] == '(') {
+      const size_t close = line.find(')', i);
+      if (close == std::string_view::npos) return false;
+      i = close + 1;
+    }
   }
+  if (i == 0) return false;
   while (i < line.size() && IsBlank(line[i])) ++i;
   return i < line.size() && line[i] == '=';
 }
