@@ -1,0 +1,230 @@
+// The form writer: header, sections, unique names, placement, control counts
+// and the assembled .frm and .hnt texts.
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "forms/design_store.h"
+#include "forms/form_writer.h"
+#include "platform/text_file.h"
+#include "session/conversion_session.h"
+#include "session/naming.h"
+#include "session/user_interface.h"
+#include "support/temp_dir.h"
+#include "support/vb6_checker.h"
+
+namespace morvane {
+namespace {
+
+using test::ReadFile;
+using test::TempDir;
+
+std::string Form(const std::string& properties, const std::string& sections) {
+  return "Version =20\nVersionRequired =20\nBegin Form\n" + properties + "    Begin\n" + sections +
+         "    End\nEnd\n";
+}
+
+std::string Detail(const std::string& controls, int height = 2000) {
+  return "        Begin Section\n            Height =" + std::to_string(height) +
+         "\n            BackColor =16777215\n            Name =\"Detail\"\n            Begin\n" +
+         controls + "            End\n        End\n";
+}
+
+std::string Label(const std::string& name, int left, int top) {
+  return "                Begin Label\n                    Left =" + std::to_string(left) +
+         "\n                    Top =" + std::to_string(top) +
+         "\n                    Width =1000\n                    Height =240\n"
+         "                    Name =\"" +
+         name + "\"\n                    Caption =\"" + name + "\"\n                End\n";
+}
+
+class FormWriterTest : public ::testing::Test {
+ protected:
+  FormWriterTest()
+      : store_([this](AccessObjectKind, const std::string& name, DesignStore::ExportText* out,
+                      bool* missing, std::string*) {
+          auto it = texts_.find(name);
+          if (it == texts_.end()) {
+            *missing = true;
+            return false;
+          }
+          out->Lines = SplitLines(it->second);
+          out->File = name + ".txt";
+          return true;
+        }) {
+    s_.OptionWordLength = 11;
+    s_.OutputPath = dir_.path().string() + "/";
+    s_.Ui = &ui_;
+  }
+
+  // Converts the form and returns its .frm text; the .hnt text in hints_.
+  std::string Convert(const std::string& name, const std::string& text) {
+    texts_[name] = text;
+    FormWriter w(s_, store_);
+    std::string err;
+    EXPECT_TRUE(w.ConvertForm(name, &err)) << err;
+    // The files take the name as Visual Basic can have it.
+    hints_ = ReadFile(dir_ / (SafeName(name) + ".hnt"));
+    return ReadFile(dir_ / (SafeName(name) + ".frm"));
+  }
+
+  TempDir dir_;
+  std::map<std::string, std::string> texts_;
+  DesignStore store_;
+  ScriptedUserInterface ui_{true};
+  ConversionSession s_;
+  std::string hints_;
+};
+
+TEST_F(FormWriterTest, HeaderOfAPlainForm) {
+  const std::string frm = Convert(
+      "Orders", Form("    Width =6000\n    MinMaxButtons =2\n    HelpContextId =7\n",
+                     Detail("", 2000)));
+  EXPECT_EQ(frm, test::Crlf("VERSION 5.00\n"
+                            "Begin VB.Form Orders\n"
+                            "BorderStyle = 2\n"
+                            "Caption =\"Orders\"\n"
+                            "ClientHeight = 2000\n"
+                            "ClientLeft = 250 \n"
+                            "ClientTop = 500 \n"
+                            "ClientWidth = 6000\n"
+                            "Height = 2000\n"
+                            "Left = 250\n"
+                            "LinkTopic = \"\"\n"
+                            "MaxButton = -1\n"
+                            "MinButton = 0\n"
+                            "ShowInTaskbar = 0\n"
+                            "Top = 500\n"
+                            "Width = 6000\n"
+                            "BackColor= &HFFFFFF&\n"
+                            "ControlBox=-1\n"
+                            "BeginProperty Font \n"
+                            "Name = \"Arial\"\n"
+                            "charset = 0\n"
+                            "weight = 400\n"
+                            "Size = 8\n"
+                            "underline = 0\n"
+                            "italic = 0\n"
+                            "strikethrough = 0\n"
+                            "EndProperty\n"
+                            "ForeColor=&H00000000&\n"
+                            "MDIChild = -1\n"
+                            "HelpContextID=7\n"
+                            "End\n"));
+  EXPECT_EQ(hints_, test::Crlf("FormCode\nOrders\n\nCtlCounts\n0\n0\n\n"));
+}
+
+TEST_F(FormWriterTest, NamesCaptionsAndDialogs) {
+  std::string frm = Convert("1 Order", Form("    Caption =\"\"\n", Detail("")));
+  EXPECT_NE(frm.find("\r\nBegin VB.Form a1_Order\r\nBorderStyle"), std::string::npos);
+  EXPECT_NE(frm.find("Caption =\"1 Order\""), std::string::npos);
+
+  const std::string longName(60, 'x');
+  frm = Convert(longName, Form("", Detail("")));
+  EXPECT_NE(frm.find("Begin VB.Form " + std::string(40, 'x') + "\r\n"), std::string::npos);
+
+  // A pop-up modal form is a dialog; one that is only pop-up is a child.
+  frm = Convert("Dialog", Form("    PopUp = NotDefault\n    Modal = NotDefault\n", Detail("")));
+  EXPECT_EQ(frm.find("MDIChild"), std::string::npos);
+  frm = Convert("Popup", Form("    PopUp = NotDefault\n", Detail("")));
+  EXPECT_NE(frm.find("MDIChild = -1"), std::string::npos);
+  s_.IsMdi = false;
+  frm = Convert("NoMdi", Form("", Detail("")));
+  EXPECT_EQ(frm.find("MDIChild"), std::string::npos);
+}
+
+TEST_F(FormWriterTest, SectionsStackAndGetTheirFrames) {
+  const std::string sections =
+      "        Begin FormHeader\n            Height =600\n            BackColor =255\n"
+      "            Name =\"FormHeader\"\n            Tag =\"top \"\"one\"\"\"\n"
+      "            Begin\n" +
+      Label("lblHead", 100, 50) +
+      "            End\n        End\n"
+      "        Begin PageHeader\n            Height =300\n            Name =\"PageHeader\"\n"
+      "        End\n" +
+      Detail(Label("lblDetail", 100, 50), 1000) +
+      "        Begin FormFooter\n            Height =400\n            Visible = NotDefault\n"
+      "            Name =\"FormFooter\"\n            Begin\n" +
+      Label("lblFoot", 100, 70) + "            End\n        End\n";
+  const std::string frm = Convert("Sections", Form("    Width =5000\n", sections));
+  // Header 600 + page header 300 + detail 1000 + footer 400.
+  EXPECT_NE(frm.find("ClientHeight = 2300\r\n"), std::string::npos);
+  // A detail control moves below the sections above it; a header control keeps
+  // its top inside its frame.
+  EXPECT_NE(frm.find("Top = 950\r\n"), std::string::npos) << frm;
+  EXPECT_NE(frm.find("Begin VB.Frame Section\r\nCaption =  \"\"\r\nBackColor= &HFF&\r\n"
+                     "Height = 600\r\nLeft = 0\r\nIndex = 1\r\nTag =\"top \"\"one\"\"\"\r\n"
+                     "Top = 0\r\nWidth = 5000\r\nBorderStyle = 0\r\n"),
+            std::string::npos)
+      << frm;
+  EXPECT_NE(frm.find("Index = 2\r\nTop = 1900\r\nWidth = 5000\r\nBorderStyle = 0\r\n"),
+            std::string::npos)
+      << frm;
+  // The frames form one control; two frames, one count.
+  EXPECT_NE(hints_.find("CtlCounts\r\n4\r\n"), std::string::npos) << hints_;
+  // The code side, with its name attribute, comes later from the translator.
+  auto problems =
+      test::CheckVb6Structure("Sections.frm", frm + "Attribute VB_Name = \"Sections\"\r\n");
+  EXPECT_TRUE(problems.empty()) << problems.front();
+  EXPECT_TRUE(frm.ends_with("\r\nEnd\r\nEnd\r\n"));
+}
+
+TEST_F(FormWriterTest, ControlNamesAreUniqueInTheForm) {
+  texts_["F"] = Form("", Detail(""));
+  FormWriter w(s_, store_);
+  ASSERT_TRUE(store_.OpenForm("F", nullptr));
+  const std::string texts = Form("", Detail(Label("Text1", 0, 0) + Label("1st", 0, 0) +
+                                            Label(std::string(40, 'n'), 0, 0)));
+  texts_["G"] = texts;
+  const FormDesign* g = store_.OpenForm("G", nullptr);
+  ASSERT_TRUE(g);
+  const ControlDesign& text1 = g->Controls()[0];
+  w.MakeControlName(text1);
+  EXPECT_EQ(s_.CurrentControlName, "Text1");
+  w.MakeControlName(text1);
+  EXPECT_EQ(s_.CurrentControlName, "Text1A");
+  w.MakeControlName(text1);
+  EXPECT_EQ(s_.CurrentControlName, "Text1AB");
+  w.MakeControlName(g->Controls()[1]);
+  EXPECT_EQ(s_.CurrentControlName, "A1st");
+  const ControlDesign& longOne = g->Controls()[2];
+  w.MakeControlName(longOne);
+  w.MakeControlName(longOne);
+  EXPECT_EQ(s_.CurrentControlName, std::string(40, 'n') + "A");
+  // Past 27 collisions the name is cut to 38 characters and gets an "A".
+  for (int i = 0; i < 30; ++i) w.MakeControlName(text1);
+  EXPECT_EQ(w.Text().UsedControlNames.size(), 36u);
+  for (size_t i = 0; i < w.Text().UsedControlNames.size(); ++i)
+    for (size_t j = i + 1; j < w.Text().UsedControlNames.size(); ++j)
+      EXPECT_NE(w.Text().UsedControlNames[i], w.Text().UsedControlNames[j]);
+}
+
+TEST_F(FormWriterTest, CountsTimerAndTheControlLimit) {
+  std::string labels;
+  for (int i = 0; i < 254; ++i) labels += Label("l" + std::to_string(i), 0, i * 10);
+  std::string frm = Convert("Full", Form("    TimerInterval =500\n", Detail(labels, 9000)));
+  EXPECT_NE(hints_.find("CtlCounts\r\n254\r\n0\r\n"), std::string::npos);
+  EXPECT_EQ(hints_.find("TooManyControls"), std::string::npos);
+  EXPECT_NE(frm.find("\r\nBegin VB.Timer Timer1\r\nLeft = 0\r\nTop = 0\r\nInterval = 500\r\nEnd"),
+            std::string::npos);
+  labels += Label("l254", 0, 0);
+  frm = Convert("Over", Form("", Detail(labels, 9000)));
+  EXPECT_NE(hints_.find("CtlCounts\r\n255\r\n0\r\nTooManyControls\r\nOver\r\n"), std::string::npos);
+  // The text is written all the same.
+  EXPECT_NE(frm.find("l254"), std::string::npos);
+}
+
+TEST_F(FormWriterTest, ADesignThatCannotBeOpenedWritesNothing) {
+  FormWriter w(s_, store_);
+  std::string err;
+  EXPECT_FALSE(w.ConvertForm("Missing", &err));
+  EXPECT_FALSE(err.empty());
+  EXPECT_FALSE(std::filesystem::exists(dir_ / "Missing.frm"));
+  s_.OptionWordLength = 0;
+  texts_["Here"] = Form("", Detail(""));
+  EXPECT_FALSE(FormWriter(s_, store_).ConvertForm("Here"));
+  EXPECT_FALSE(std::filesystem::exists(dir_ / "Here.frm"));
+}
+
+}  // namespace
+}  // namespace morvane
