@@ -10,6 +10,8 @@
 #include "platform/text_file.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
+#include "session/strings.h"
+#include "session/user_interface.h"
 
 namespace morvane {
 
@@ -276,8 +278,13 @@ std::string HintActions::ConvertContinuousForm(ConversionSession& s, const std::
   return "";
 }
 
+// Turning labels into control arrays is not built yet, so a form over the
+// limit is left out of the project, with the message that says so.
 bool HintActions::ReduceControlCount(ConversionSession& s, const std::string& formName) {
-  NotAvailable(s, formName, "Reducing a form over the control limit");
+  const std::string text =
+      FormatText(kMsgTooManyControls, {formName, std::to_string(s.ControlCount)});
+  if (s.Ui) s.Ui->ShowMessage(text, MessageIcon::Stop);
+  if (s.SupportDb) s.SupportDb->AddRunNote(formName, text);
   return true;
 }
 

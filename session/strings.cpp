@@ -40,6 +40,9 @@ constexpr Entry kEnglish[] = {
      "Unable to get catalog of Access Data Project. Make sure that the selected file is an Access "
      "data project, and try again."},
     {kMsgNoSuchObject, "The source has no %1 named \"%2\"."},
+    {kMsgTooManyControls,
+     "The form \"%1\" has %2 controls.  Visual Basic has a limit of 254 controls, and Morvane was "
+     "unable to find a way to reduce the control count.  The form will not be converted."},
     {kMsgSourceUnreadable, "The source %1 cannot be read: %2"},
     {kMsgOutputInsideSource,
      "The output directory %1 lies inside the source tree; choose a directory outside it."},

@@ -37,6 +37,7 @@ enum StringId : int {
   kMsgNotBuiltStage = 143,
   kMsgObjectNotInSource = 144,
   kMsgConversionCodeMissing = 145,
+  kMsgTooManyControls = 146,
   // Captions of the main window.
   kCapStartTranslation = 201,
   kCapProject = 202,

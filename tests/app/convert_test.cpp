@@ -179,6 +179,32 @@ TEST(Convert, ModulesSelectedByName) {
   EXPECT_EQ(lines[2], "  MultiUse = -1  'True");
 }
 
+TEST(Convert, AFormOverTheControlLimitStaysOutOfTheProjectWithItsMessage) {
+  TempDir dir;
+  std::string labels;
+  for (int i = 0; i < 255; ++i)
+    labels += "Begin Label\nLeft =0\nTop =" + std::to_string(i * 10) +
+              "\nWidth =100\nHeight =100\nName =\"l" + std::to_string(i) + "\"\nEnd\n";
+  fs::create_directories(dir / "src" / "forms");
+  WriteFile(dir / "src" / "forms" / "frmBig.txt",
+            "Version =20\nBegin Form\nBegin\nBegin Section\nHeight =3000\nName =\"Detail\"\n"
+            "Begin\n" + labels + "End\nEnd\nEnd\nEnd\n");
+  WriteFile(dir / "src" / "forms" / "frmSmall.txt",
+            "Version =20\nBegin Form\nBegin\nBegin Section\nHeight =300\nName =\"Detail\"\n"
+            "End\nEnd\nEnd\n");
+  auto r = RunMorvane(
+      {"convert", (dir / "src").string(), "-o", (dir / "out").string(), "--no-mdi", "--yes"});
+  ASSERT_EQ(r.status, 0) << r.err;
+  EXPECT_NE(r.err.find("The form \"frmBig\" has 255 controls.  Visual Basic has a limit of 254 "
+                       "controls, and Morvane was unable to find a way to reduce the control "
+                       "count.  The form will not be converted."),
+            std::string::npos)
+      << r.err;
+  const std::string vbp = ReadFile(dir / "out" / "src.vbp");
+  EXPECT_EQ(vbp.find("frmBig"), std::string::npos) << vbp;
+  EXPECT_NE(vbp.find("Form=frmSmall.frm"), std::string::npos) << vbp;
+}
+
 TEST(Convert, BadRequestsStopWithOneLineAndAStatus) {
   TempDir dir;
   struct Case {
