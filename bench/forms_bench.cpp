@@ -1,0 +1,125 @@
+// Timed driver for forms: generates a source tree of 300 forms (first
+// argument) of 100 controls (second argument) with 20 event procedures each,
+// converts it through the driver the command line uses (form writer, hint
+// records, event code, translation of the form modules), and prints forms per
+// second, controls per second and the peak memory. Run it with 50, 100 and
+// 200 controls to see that the time grows with the controls linearly.
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "events/event_writer.h"
+#include "forms/design_store.h"
+#include "forms/form_converter.h"
+#include "macros/macro_converter.h"
+#include "platform/text_file.h"
+#include "session/access_link.h"
+#include "session/conversion_session.h"
+#include "session/driver.h"
+#include "session/user_interface.h"
+#include "translator/code_converter.h"
+
+namespace fs = std::filesystem;
+using namespace morvane;
+
+namespace {
+
+long PeakKiB() {
+  std::ifstream status("/proc/self/status");
+  std::string line;
+  while (std::getline(status, line))
+    if (line.rfind("VmHWM:", 0) == 0) return std::atol(line.c_str() + 6);
+  return 0;
+}
+
+std::string N(int i) { return std::to_string(i); }
+
+// One control of the generated form; a quarter are text boxes with an
+// attached label, the rest labels, buttons and check boxes in turn.
+void AddControl(std::vector<std::string>& t, int i, bool withEvent) {
+  const std::string top = N(200 + (i % 40) * 300), left = N(100 + (i / 40) * 2000);
+  const char* kinds[] = {"TextBox", "Label", "CommandButton", "CheckBox"};
+  const std::string kind = kinds[i % 4];
+  t.push_back("                Begin " + kind);
+  t.push_back("                    Left =" + left);
+  t.push_back("                    Top =" + top);
+  t.push_back("                    Width =1500");
+  t.push_back("                    Height =255");
+  t.push_back("                    Name =\"ctl" + N(i) + "\"");
+  if (kind == "TextBox") t.push_back("                    ControlSource =\"Field" + N(i % 10) + "\"");
+  if (kind == "Label" || kind == "CommandButton")
+    t.push_back("                    Caption =\"Control " + N(i) + "\"");
+  if (withEvent) t.push_back("                    OnClick =\"[Event Procedure]\"");
+  t.push_back("                End");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const int forms = argc > 1 ? std::atoi(argv[1]) : 300;
+  const int controls = argc > 2 ? std::atoi(argv[2]) : 100;
+  constexpr int kEvents = 20;
+  const fs::path root = fs::temp_directory_path() / ("morvane-fbench-" + std::to_string(getpid()));
+  fs::create_directories(root / "src" / "forms");
+  for (int f = 0; f < forms; ++f) {
+    std::vector<std::string> t = {"Version =20", "VersionRequired =20", "Begin Form",
+                                  "    Width =9000", "    RecordSource =\"tblOrders\"",
+                                  "    Caption =\"Form " + N(f) + "\"", "    Begin",
+                                  "        Begin Section", "            Height =12000",
+                                  "            Name =\"Detail\"", "            Begin"};
+    for (int c = 0; c < controls; ++c) AddControl(t, c, c % (controls / kEvents) == 0);
+    for (const char* l : {"            End", "        End", "    End", "End", "CodeBehindForm",
+                          "Attribute VB_GlobalNameSpace = False", "Attribute VB_Creatable = True",
+                          "Attribute VB_PredeclaredId = True", "Attribute VB_Exposed = False",
+                          "Option Compare Database", "Option Explicit", ""})
+      t.emplace_back(l);
+    for (int c = 0; c < controls; c += controls / kEvents) {
+      t.push_back("Private Sub ctl" + N(c) + "_Click()");
+      t.push_back("    Me.Caption = \"clicked " + N(c) + "\"");
+      t.push_back("End Sub");
+      t.push_back("");
+    }
+    WriteTextLines(root / "src" / "forms" / ("frmBench" + N(f) + ".txt"), t, nullptr);
+  }
+
+  ConversionSession s;
+  ScriptedUserInterface ui(true);
+  s.Ui = &ui;
+  s.DataDir = MORVANE_BENCH_DATA_DIR;
+  AccessLink link;
+  std::string err;
+  if (!link.ChooseDatabase(s, {root / "src", {}, {}}, &err)) {
+    std::fprintf(stderr, "%s\n", err.c_str());
+    return 1;
+  }
+  RunRequest request;
+  request.OutputDir = (root / "out").string();
+  request.Forms = link.Listing().Forms;
+  TranslatorCodeConverter code;
+  DesignStore store(*link.Tree());
+  EventHintActions actions(store);
+  DesignFormConverter formConverter(store, actions);
+  MacroConverterImpl macros;
+  Converters converters;
+  converters.Code = &code;
+  converters.Forms = &formConverter;
+  converters.Macros = &macros;
+
+  const auto start = std::chrono::steady_clock::now();
+  RunSummary summary = StartTranslation(s, link, converters, request);
+  const double seconds =
+      std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  std::printf(
+      "%d forms of %d controls converted in %.2f s: %.1f forms/s, %.0f controls/s; "
+      "peak memory %ld KiB; %d forms in the project\n",
+      forms, controls, seconds, forms / seconds, forms * controls / seconds, PeakKiB(),
+      summary.Forms);
+  fs::remove_all(root);
+  return summary.Forms == forms ? 0 : 1;
+}
