@@ -309,6 +309,13 @@ RunSummary StartTranslation(ConversionSession& s, AccessLink& link, Converters& 
   project.SaveAs(fs::path(s.OutputPath) / s.ProjectFile, nullptr);
   summary.Started = true;
   RunConversion(s, link, c, summary);  // 14
+  // The converters note what they could not do in the analysis; the summary
+  // says all of it.
+  if (s.SupportDb) {
+    summary.Notes.clear();
+    for (const auto& [object, text] : s.SupportDb->RunNotes())
+      summary.Notes.push_back(object.empty() ? text : object + ": " + text);
+  }
   return summary;
 }
 
