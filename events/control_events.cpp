@@ -229,14 +229,21 @@ void OptionGroupCode(const ControlEventWriter& w) {
   else if (!beforeUpdate.empty())
     code.AppendProc(w.Header("_Validate(Index As Integer, Cancel As Boolean)"),
                     {code.EventLine(beforeUpdate, "")});
+  // The translator's second pass gives the group's own Sub procedures the
+  // Index parameter too, so the calls to them pass it on.
   if (const std::string v = w.Value("AfterUpdate"); !v.empty())
     code.AppendProc(w.Header("_Click(Index As Integer)"),
-                    {code.EventLine(v, w.OwnCall("_AfterUpdate"))});
+                    {code.EventLine(v, w.OwnCall("_AfterUpdate") + "(Index)")});
   if (const std::string v = w.Value("OnEnter"); !v.empty())
     code.AppendProc(w.Header("_GotFocus(Index As Integer)"),
-                    {code.EventLine(v, w.OwnCall("_Enter"))});
-  if (!w.Value("OnExit").empty())
-    code.AppendProc(w.Header("_LostFocus(Index As Integer)"), w.ExitBlock());
+                    {code.EventLine(v, w.OwnCall("_Enter") + "(Index)")});
+  if (!w.Value("OnExit").empty()) {
+    // The focus goes back to the option that lost it.
+    std::vector<std::string> block = w.ExitBlock();
+    for (auto& line : block)
+      if (line.ends_with(".SetFocus")) line.insert(line.size() - 9, "(Index)");
+    code.AppendProc(w.Header("_LostFocus(Index As Integer)"), block);
+  }
 }
 
 void TextBoxCode(const ControlEventWriter& w) {

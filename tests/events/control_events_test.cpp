@@ -366,11 +366,11 @@ TEST_F(ControlEvents, OptionGroupProceduresTakeTheIndexOfTheControlArray) {
                  "\nPrivate Sub grpShip_Validate(Index As Integer, Cancel As Boolean)\n"
                  "Call Check()\nEnd Sub\n"
                  "\nPrivate Sub grpShip_Click(Index As Integer)\n"
-                 "Call grpShip_AfterUpdate\nEnd Sub\n"
+                 "Call grpShip_AfterUpdate(Index)\nEnd Sub\n"
                  "\nPrivate Sub grpShip_GotFocus(Index As Integer)\nCall mcrBeep\n"
                  "End Sub\n"
                  "\nPrivate Sub grpShip_LostFocus(Index As Integer)\n"
-                 "If grpShip_Exit() Then\ngrpShip.SetFocus\nExit Sub\nEnd If\nEnd Sub\n"));
+                 "If grpShip_Exit() Then\ngrpShip(Index).SetFocus\nExit Sub\nEnd If\nEnd Sub\n"));
 }
 
 TEST_F(ControlEvents, LabelOnTheFormFoldsDoubleClickIntoItsNewClick) {
