@@ -287,8 +287,7 @@ void WriteCheckBox(FormWriter& w) {
   AddEnabledLine(text, c);
   AddVisibleLine(text, c);
   if (IsCalculated(c))
-    AddHint(s, {"AddDataCtlEntry", DataControlName(w),
-                s.CurrentControlName + ".value " + c.Text("ControlSource").value_or("")});
+    AddCalculatedBinding(w, c, ".value");
   else
     AddBindingLines(text, w, c);
   AddLine(text, "End");

@@ -47,9 +47,7 @@ void AddTextBinding(std::string& text, FormWriter& w, const ControlDesign& c) {
     AddBindingLines(text, w, c);
     return;
   }
-  ConversionSession& s = w.Session();
-  AddHint(s, {"AddDataCtlEntry", DataControlName(w),
-              s.CurrentControlName + ".text " + c.Text("ControlSource").value_or("")});
+  AddCalculatedBinding(w, c, ".text");
 }
 
 // A default value that is not an expression, or nullopt.

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cstdio>
 
+#include "forms/control_writer_frame.h"
 #include "forms/form_design.h"
 #include "forms/form_writer.h"
 #include "session/conversion_session.h"
@@ -139,6 +140,40 @@ void AddBindingLines(std::string& text, FormWriter& w, const ControlDesign& c) {
   const std::string formName = form ? form->Name() : w.Text().OwnerFormName;
   AddLine(text, "DataSource =\"dat" + SafeName(formName) + "\"");
   AddLine(text, "DataField =\"" + *source + "\"");
+}
+
+namespace {
+
+// Whether an Access expression names what Visual Basic cannot read as it
+// stands: fields in brackets or behind "!", and the aggregates of a form's
+// records.
+bool NeedsReview(std::string_view expression) {
+  if (expression.find_first_of("[!") != std::string_view::npos) return true;
+  const std::string lower = ToLower(expression);
+  for (std::string_view f : {"count", "sum", "avg", "min", "max", "first", "last", "stdev", "var"}) {
+    for (size_t p = lower.find(f); p != std::string::npos; p = lower.find(f, p + 1)) {
+      const bool start = p == 0 || !(std::isalnum(static_cast<unsigned char>(lower[p - 1])) ||
+                                     lower[p - 1] == '_');
+      size_t q = p + f.size();
+      while (q < lower.size() && lower[q] == ' ') ++q;
+      if (start && q < lower.size() && lower[q] == '(') return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace
+
+void AddCalculatedBinding(FormWriter& w, const ControlDesign& c, std::string_view member) {
+  ConversionSession& s = w.Session();
+  const std::string source = c.Text("ControlSource").value_or("");
+  const std::string line = s.CurrentControlName + std::string(member) + " " + source;
+  AddHint(s, {"AddDataCtlEntry", DataControlName(w), line});
+  // The expression is Access's, copied as it stands; one that names fields
+  // or aggregates of the records gets a row asking for review.
+  if (NeedsReview(source))
+    AddHint(s, {"AddToReport", w.Text().OwnerFormName, "7", s.CurrentControlName + " " + source,
+                "0", line, ""});
 }
 
 void AddDefaultValueHint(FormWriter& w, const ControlDesign& c, std::string_view member) {

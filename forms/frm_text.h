@@ -52,6 +52,11 @@ void AddVisibleLine(std::string& text, const DesignObject& o);
 void AddEnabledLine(std::string& text, const DesignObject& o);
 void AddTabStopLine(std::string& text, const DesignObject& o);
 
+// A calculated control is filled from the data control's code: the
+// statement "<control><member> <expression>" as a hint, and an analysis row
+// asking for review when the expression names fields or aggregates.
+void AddCalculatedBinding(FormWriter& w, const ControlDesign& c, std::string_view member);
+
 // DataSource and DataField lines of a bound control, or, for a calculated
 // control ("=..."), the hint record `calculatedHint` with its fields built
 // by the caller. Returns true when the control source is an expression.

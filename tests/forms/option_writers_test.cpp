@@ -95,7 +95,10 @@ TEST_F(OptionWriters, CalculatedCheckBoxGoesThroughTheDataControl) {
   Stand("chkCalc");
   WriteCheckBox(w_);
   EXPECT_EQ(Written().find("DataField"), std::string::npos);
+  // Fields in brackets are Access's: the statement is marked for review.
   EXPECT_EQ(HintText(), Hints({{"AddDataCtlEntry", "datfrmTest", "chkCalc.value =[A] Or [B]"},
+                               {"AddToReport", "frmTest", "7", "chkCalc =[A] Or [B]", "0",
+                                "chkCalc.value =[A] Or [B]", ""},
                                {"CheckBoxCode", "frmTest", "chkCalc", "chkCalc", ""}}));
 }
 
