@@ -176,6 +176,14 @@ void OptionGroupRule(ConversionSession& s, std::string& line,
   }
 }
 
+// "Index = 2" of a designer block.
+bool IsIndexLine(std::string_view trimmed) {
+  if (!StartsWithNoCase(trimmed, "Index")) return false;
+  std::string_view rest = trimmed.substr(5);
+  while (!rest.empty() && rest.front() == ' ') rest.remove_prefix(1);
+  return !rest.empty() && rest.front() == '=';
+}
+
 }  // namespace
 
 void RecordsetPass(ConversionSession& s, const std::string& file) {
@@ -183,6 +191,7 @@ void RecordsetPass(ConversionSession& s, const std::string& file) {
   if (!ReadTextLines(file, &lines, nullptr)) return;
   std::vector<std::string> members{""}, locals{""}, groups{""};
   bool inDeclarations = true;
+  std::string pendingOption;  // the option button whose block is open
   for (auto& line : lines) {
     const std::string trimmed = TrimBlanks(line);
     if (line.empty() || line[0] == '\'') continue;
@@ -215,12 +224,22 @@ void RecordsetPass(ConversionSession& s, const std::string& file) {
       locals.assign(1, "");
       continue;
     }
+    // An option button stands for a group only as a member of a control
+    // array, which its Index line shows; a stand-alone option button or
+    // toggle keeps its plain name and events.
     if (StartsWithNoCase(trimmed, "Begin VB.OptionButton")) {
-      const std::string name = TrimBlanks(trimmed.substr(21));
-      bool known = false;
-      for (const auto& g : groups) known = known || g == name;
-      if (!known && !name.empty()) groups.push_back(name);
+      pendingOption = TrimBlanks(trimmed.substr(21));
       continue;
+    }
+    if (!pendingOption.empty()) {
+      if (IsIndexLine(trimmed)) {
+        bool known = false;
+        for (const auto& g : groups) known = known || g == pendingOption;
+        if (!known) groups.push_back(pendingOption);
+        pendingOption.clear();
+      } else if (StartsWithNoCase(trimmed, "Begin ") || EqualsNoCase(trimmed, "End")) {
+        pendingOption.clear();
+      }
     }
     RecordsetRule(line, members);
     RecordsetRule(line, locals);

@@ -234,6 +234,31 @@ TEST(RecordsetPass, OptionGroupsBecomeButtonArrays) {
   }
 }
 
+TEST(RecordsetPass, AStandAloneOptionButtonIsNoGroup) {
+  // A toggle of its own is an option button without Index: its name and
+  // events stay as they are, the group beside it is rewritten.
+  const std::vector<std::string> designer = {"VERSION 5.00",
+                                             "Begin VB.Form Orders",
+                                             "   Begin VB.OptionButton tglAlone",
+                                             "      Style = 1",
+                                             "   End",
+                                             "   Begin VB.Frame grpgrpX",
+                                             "      Begin VB.OptionButton grpX",
+                                             "         Height = 210",
+                                             "         Index = 1",
+                                             "      End",
+                                             "   End",
+                                             "End",
+                                             "Attribute VB_Name = \"Orders\""};
+  Translation t;
+  auto code = RunForm(
+      t, {"Private Sub tglAlone_Click()", "If Me.grpX = 2 Then Me.tglAlone.Value = True", "End Sub"},
+      designer);
+  ASSERT_EQ(code.size(), 3u);
+  EXPECT_EQ(code[0], "Private Sub tglAlone_Click()");
+  EXPECT_EQ(code[1], "If Me.grpX(2) Then Me.tglAlone.Value = True");
+}
+
 TEST(PipelineStages, AModuleUsingEveryFamilyKeepsVb6Structure) {
   Translation t;
   std::vector<std::string> input = {
