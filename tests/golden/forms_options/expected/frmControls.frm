@@ -410,6 +410,7 @@ Begin VB.Form frmControls
       Enabled = 0
       Top = 120
       Width = 1000
+      Picture = "frmControls.frx":0000
    End
    Begin  VB.OLE Photo
       Height = 1000
