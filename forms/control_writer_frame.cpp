@@ -49,6 +49,14 @@ void CountControl(FormWriter& w, int partial) {
   w.Text().FormPartialCount += partial;
 }
 
+void FinishControl(FormWriter& w, const ControlDesign& c, std::string text,
+                   std::string_view eventRecord) {
+  AddLine(text, "End");
+  PutText(w, std::move(text));
+  AddControlHint(w, c, eventRecord);
+  CountControl(w);
+}
+
 const FormDesign* CurrentFormOf(const FormWriter& w) { return w.Text().CurrentForm; }
 
 std::string DataControlName(const FormWriter& w) {

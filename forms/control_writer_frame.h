@@ -28,6 +28,10 @@ void AddControlHint(FormWriter& w, const ControlDesign& c, std::string_view reco
 // form, the reason, CurrentControlName, 0 and two empty fields.
 void AddReportHint(FormWriter& w, std::string_view reason);
 void CountControl(FormWriter& w, int partial = 0);
+// Closes a control's lines with "End", puts them into the form, sends the
+// control's event record (`eventRecord`, such as "ButtonCode") and counts it.
+void FinishControl(FormWriter& w, const ControlDesign& c, std::string text,
+                   std::string_view eventRecord);
 
 // "dat" + SafeName(CurrentForm.Name), the name of the form's data control.
 std::string DataControlName(const FormWriter& w);

@@ -141,10 +141,7 @@ void WriteImage(FormWriter& w) {
   AddLine(text, "Width = ", ValueText(c, "Width"));
   AddVisibleLine(text, c);
   if (HasPicture(c)) AddLine(text, "", PictureLine(w, PictureHolder(c), c));
-  AddLine(text, "End");
-  PutText(w, std::move(text));
-  AddControlHint(w, c, "ImageCode");
-  CountControl(w);
+  FinishControl(w, c, std::move(text), "ImageCode");
 }
 
 void WriteCommandButton(FormWriter& w) {
@@ -199,10 +196,7 @@ void WriteCommandButton(FormWriter& w) {
   AddTipLine(text, c);
   AddEnabledLine(text, c);
   AddTabStopLine(text, c);
-  AddLine(text, "End");
-  PutText(w, std::move(text));
-  AddControlHint(w, c, "ButtonCode");
-  CountControl(w);
+  FinishControl(w, c, std::move(text), "ButtonCode");
 }
 
 void WriteShape(FormWriter& w) {

@@ -290,10 +290,7 @@ void WriteCheckBox(FormWriter& w) {
     AddCalculatedBinding(w, c, ".value");
   else
     AddBindingLines(text, w, c);
-  AddLine(text, "End");
-  PutText(w, std::move(text));
-  AddControlHint(w, c, "CheckBoxCode");
-  CountControl(w);
+  FinishControl(w, c, std::move(text), "CheckBoxCode");
 }
 
 void WriteOptionGroup(FormWriter& w) {
@@ -327,10 +324,7 @@ void WriteOptionGroup(FormWriter& w) {
   }
   CountControl(w);  // the frame
   GroupMembers(w, c, text).Write();
-  AddLine(text, "End");
-  PutText(w, std::move(text));
-  AddControlHint(w, c, "OptionGroupCode");
-  CountControl(w);
+  FinishControl(w, c, std::move(text), "OptionGroupCode");
 }
 
 void WriteOptionButton(FormWriter& w) {
@@ -357,10 +351,7 @@ void WriteOptionButton(FormWriter& w) {
     AddTogglePicture(text, w, c);
   }
   AddPlainValue(text, w, c, kOptionButtonValues);
-  AddLine(text, "End");
-  PutText(w, std::move(text));
-  AddControlHint(w, c, "OptionGroupCode");
-  CountControl(w);
+  FinishControl(w, c, std::move(text), "OptionGroupCode");
 }
 
 }  // namespace morvane

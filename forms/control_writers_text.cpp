@@ -131,10 +131,7 @@ void WriteTextBox(FormWriter& w) {
   AddTipLine(text, c);
   AddTagLine(text, c);
   AddVisibleLine(text, c);
-  AddLine(text, "End");
-  PutText(w, std::move(text));
-  AddControlHint(w, c, "TextBoxCode");
-  CountControl(w);
+  FinishControl(w, c, std::move(text), "TextBoxCode");
 }
 
 }  // namespace morvane
