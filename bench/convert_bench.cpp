@@ -4,15 +4,14 @@
 // line uses, and prints modules and lines per second and the peak memory.
 #include <unistd.h>
 
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <vector>
 
 #include "platform/text_file.h"
+#include "bench/bench_run.h"
 #include "session/access_link.h"
 #include "session/conversion_session.h"
 #include "session/driver.h"
@@ -40,14 +39,6 @@ constexpr const char* kBody[] = {
     "End Sub",
 };
 
-long PeakKiB() {
-  std::ifstream status("/proc/self/status");
-  std::string line;
-  while (std::getline(status, line))
-    if (line.rfind("VmHWM:", 0) == 0) return std::atol(line.c_str() + 6);
-  return 0;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -70,31 +61,18 @@ int main(int argc, char** argv) {
                    nullptr);
   }
 
-  ConversionSession s;
-  ScriptedUserInterface ui(true);
-  s.Ui = &ui;
-  s.DataDir = MORVANE_BENCH_DATA_DIR;
-  AccessLink link;
-  std::string err;
-  if (!link.ChooseDatabase(s, {root / "src", {}, {}}, &err)) {
-    std::fprintf(stderr, "%s\n", err.c_str());
-    return 1;
-  }
-  RunRequest request;
-  request.OutputDir = (root / "out").string();
-  request.Modules = link.Listing().Modules;
+  bench::BenchRun run;
+  if (!run.Open(root)) return 1;
+  run.Request().Modules = run.Link().Listing().Modules;
   TranslatorCodeConverter code;
   Converters converters;
   converters.Code = &code;
-
-  const auto start = std::chrono::steady_clock::now();
-  RunSummary summary = StartTranslation(s, link, converters, request);
-  const double seconds =
-      std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  double seconds = 0;
+  const RunSummary summary = run.Run(converters, &seconds);
   std::printf(
       "%d modules, %ld lines converted in %.2f s: %.0f modules/s, %.0f lines/s; "
       "peak memory %ld KiB; %d modules in the project\n",
-      modules, totalLines, seconds, modules / seconds, totalLines / seconds, PeakKiB(),
+      modules, totalLines, seconds, modules / seconds, totalLines / seconds, bench::PeakKiB(),
       summary.Modules);
   fs::remove_all(root);
   return summary.Modules == modules ? 0 : 1;

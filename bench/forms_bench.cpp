@@ -6,11 +6,9 @@
 // 200 controls to see that the time grows with the controls linearly.
 #include <unistd.h>
 
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <vector>
 
@@ -19,6 +17,7 @@
 #include "forms/form_converter.h"
 #include "macros/macro_converter.h"
 #include "platform/text_file.h"
+#include "bench/bench_run.h"
 #include "session/access_link.h"
 #include "session/conversion_session.h"
 #include "session/driver.h"
@@ -29,14 +28,6 @@ namespace fs = std::filesystem;
 using namespace morvane;
 
 namespace {
-
-long PeakKiB() {
-  std::ifstream status("/proc/self/status");
-  std::string line;
-  while (std::getline(status, line))
-    if (line.rfind("VmHWM:", 0) == 0) return std::atol(line.c_str() + 6);
-  return 0;
-}
 
 std::string N(int i) { return std::to_string(i); }
 
@@ -88,21 +79,11 @@ int main(int argc, char** argv) {
     WriteTextLines(root / "src" / "forms" / ("frmBench" + N(f) + ".txt"), t, nullptr);
   }
 
-  ConversionSession s;
-  ScriptedUserInterface ui(true);
-  s.Ui = &ui;
-  s.DataDir = MORVANE_BENCH_DATA_DIR;
-  AccessLink link;
-  std::string err;
-  if (!link.ChooseDatabase(s, {root / "src", {}, {}}, &err)) {
-    std::fprintf(stderr, "%s\n", err.c_str());
-    return 1;
-  }
-  RunRequest request;
-  request.OutputDir = (root / "out").string();
-  request.Forms = link.Listing().Forms;
+  bench::BenchRun run;
+  if (!run.Open(root)) return 1;
+  run.Request().Forms = run.Link().Listing().Forms;
   TranslatorCodeConverter code;
-  DesignStore store(*link.Tree());
+  DesignStore store(*run.Link().Tree());
   EventHintActions actions(store);
   DesignFormConverter formConverter(store, actions);
   MacroConverterImpl macros;
@@ -111,14 +92,12 @@ int main(int argc, char** argv) {
   converters.Forms = &formConverter;
   converters.Macros = &macros;
 
-  const auto start = std::chrono::steady_clock::now();
-  RunSummary summary = StartTranslation(s, link, converters, request);
-  const double seconds =
-      std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  double seconds = 0;
+  const RunSummary summary = run.Run(converters, &seconds);
   std::printf(
       "%d forms of %d controls converted in %.2f s: %.1f forms/s, %.0f controls/s; "
       "peak memory %ld KiB; %d forms in the project\n",
-      forms, controls, seconds, forms / seconds, forms * controls / seconds, PeakKiB(),
+      forms, controls, seconds, forms / seconds, forms * controls / seconds, bench::PeakKiB(),
       summary.Forms);
   fs::remove_all(root);
   return summary.Forms == forms ? 0 : 1;
