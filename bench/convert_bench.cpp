@@ -10,12 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/text_file.h"
 #include "bench/bench_run.h"
-#include "session/access_link.h"
-#include "session/conversion_session.h"
-#include "session/driver.h"
-#include "session/user_interface.h"
+#include "platform/text_file.h"
 #include "translator/code_converter.h"
 
 namespace fs = std::filesystem;

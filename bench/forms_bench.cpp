@@ -12,16 +12,12 @@
 #include <string>
 #include <vector>
 
+#include "bench/bench_run.h"
 #include "events/event_writer.h"
 #include "forms/design_store.h"
 #include "forms/form_converter.h"
 #include "macros/macro_converter.h"
 #include "platform/text_file.h"
-#include "bench/bench_run.h"
-#include "session/access_link.h"
-#include "session/conversion_session.h"
-#include "session/driver.h"
-#include "session/user_interface.h"
 #include "translator/code_converter.h"
 
 namespace fs = std::filesystem;
