@@ -53,6 +53,7 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   const std::string vbp = ReadFile(dir / "out" / "Orders.vbp");
   const auto order = {"Object={67397AA1-7FB1-11D0-B148-00A0C922E820}#6.0#0; MSADODC.OCX",
                       "Object={0BA686C6-F7D3-101A-993E-0000C0EF6F5E}#1.0#0; THREED32.OCX",
+                      "Object={8E27C92E-1264-101C-8A2F-040224009C02}#7.0#0; MSCAL.OCX",
                       "Module=MacroCode; MacroCode.bas",
                       "Form=frmCustomers.frm",
                       "Form=frmOrders.frm",
@@ -92,6 +93,7 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
         "         Index = 2\r\n", "   Begin Threed.SSCommand cmdOrders\r\n",
         "   Begin VB.Timer Timer1\r\n      Left = 0\r\n      Top = 0\r\n      Interval = 60000\r\n",
         "   Begin VB.Frame Section\r\n", "      Begin VB.Line linUnderTitle\r\n",
+        "      Begin VB.Label lblPrinted\r\n", "   Begin MSACAL.Calendar calNextVisit\r\n",
         "Private Sub Timer1_Timer()\r\n    Call Form_Timer\r\nEnd Sub",
         "Private Sub imgLogo_Click()\r\n    Call ShowOverview\r\nEnd Sub",
         "    FirstOrder.Value =Date()\r\n", "    grpTerms(1).Value = True\r\n",
@@ -137,12 +139,11 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   auto stats = db->Stats();
   ASSERT_EQ(stats.size(), 7u);
   EXPECT_EQ(stats[0].ModuleName, "MacroCode");
-  // The form rows count their controls: the data control, two labels, the
-  // date picker, the check box, the option group's frame and buttons, the
-  // toggle, the button, the image, the line, the rectangle, the timer, the
-  // section frames and the footer's text box.
+  // The form rows count their controls, the section frames as one; the
+  // calendar is converted in part.
   EXPECT_EQ(stats[1].ModuleName, "frmCustomers");
-  EXPECT_EQ(stats[1].CtlCount, 18);
+  EXPECT_EQ(stats[1].CtlCount, 20);
+  EXPECT_EQ(stats[1].CtlsPartiallyConverted, 1);
   EXPECT_EQ(stats[2].ModuleName, "frmOrders");
   EXPECT_EQ(stats[2].CtlCount, 7);
   EXPECT_EQ(stats[3].ModuleName, "basOrders");
