@@ -219,8 +219,8 @@ int RunConvert(const Options& o, const char* argv0) {
   }
 
   TranslatorCodeConverter code;
-  MacroConverterImpl macroConverter;
   DesignStore store(*link.Tree());
+  MacroConverterImpl macroConverter(&store);
   EventHintActions hintActions(store);
   DesignFormConverter forms(store, hintActions);
   Converters converters;

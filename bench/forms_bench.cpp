@@ -82,7 +82,7 @@ int main(int argc, char** argv) {
   DesignStore store(*run.Link().Tree());
   EventHintActions actions(store);
   DesignFormConverter formConverter(store, actions);
-  MacroConverterImpl macros;
+  MacroConverterImpl macros(&store);
   Converters converters;
   converters.Code = &code;
   converters.Forms = &formConverter;

@@ -346,7 +346,9 @@ void MacroConverterImpl::ConvertMacros(ConversionSession& s, const std::string& 
   if (s.OptionWordLength != 11 || !s.SourceDb) return;
   MacroTables tables(s.SupportDb);
   std::string text = "Attribute VB_Name = \"MacroCode\"\r\nPublic CodeContextObject As VB.Form\r\n";
-  for (const auto& name : s.SourceDb->ContainerDocuments("Scripts")) {
+  const auto macros = s.SourceDb->ContainerDocuments("Scripts");
+  bool any = !macros.empty();
+  for (const auto& name : macros) {
     MacroWriter writer(s, tables, 0);
     std::string err;
     if (writer.ConvertMacroText(name, std::string(), &err))
@@ -357,7 +359,8 @@ void MacroConverterImpl::ConvertMacros(ConversionSession& s, const std::string& 
   // Macros embedded in the events of forms and reports follow, each a
   // procedure named after its form, control and event.
   if (s.AccessApp) {
-    DesignStore store(*s.AccessApp);
+    std::optional<DesignStore> own;
+    DesignStore& store = designs_ ? *designs_ : own.emplace(*s.AccessApp);
     for (auto [kind, container] : {std::pair{AccessObjectKind::Form, "Forms"},
                                    std::pair{AccessObjectKind::Report, "Reports"}}) {
       for (const auto& owner : s.SourceDb->ContainerDocuments(container)) {
@@ -370,11 +373,15 @@ void MacroConverterImpl::ConvertMacros(ConversionSession& s, const std::string& 
               SplitLines(m.Text),
               MacroProcName(s, m.Name.substr(0, dot), m.Name.substr(dot + 1)));
           text += writer.Output();
+          any = true;
         }
       }
     }
   }
+  // A source without macros of either kind gets no macro module.
+  if (!any) return;
   WriteFileBytes(outputPath + "macro.txt", text, nullptr);
+  if (macros.empty()) return;
   if (auto startup = s.SourceDb->Property("StartupForm"); startup && !startup->empty())
     AppendFileBytes(outputPath + "_Startup.txt", *startup + "\r\n", nullptr);
 }

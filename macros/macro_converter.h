@@ -13,9 +13,18 @@ namespace morvane {
 
 struct ConversionSession;
 
+class DesignStore;
+
 class MacroConverterImpl : public MacroConverter {
  public:
+  // `designs`, when given, is the store the form converter reads the same
+  // source tree through: the embedded macros are taken from the designs it
+  // has already read instead of reading every form and report again.
+  explicit MacroConverterImpl(DesignStore* designs = nullptr) : designs_(designs) {}
   void ConvertMacros(ConversionSession& s, const std::string& outputPath) override;
+
+ private:
+  DesignStore* designs_;
 };
 
 // Whether a macro ("Macro" or "Group.Name") called from an event needs

@@ -133,9 +133,13 @@ void AddFormPropertyCode(ConversionSession& s, FormConverter& forms, const std::
 }
 
 void ConvertMacrosStep(ConversionSession& s, Converters& c, RunSummary& summary) {
-  if (!s.MacrosWanted || !s.SourceDb || s.SourceDb->ContainerDocuments("Scripts").empty()) return;
+  // Forms and reports may hold macros in their events even where the source
+  // has no macro of its own: the converter looks at both and writes nothing
+  // when there are none.
+  if (!s.MacrosWanted || !s.SourceDb) return;
   if (!c.Macros) {
-    Note(s, summary, "", Text(kMsgNotBuiltMacros));
+    if (!s.SourceDb->ContainerDocuments("Scripts").empty())
+      Note(s, summary, "", Text(kMsgNotBuiltMacros));
     return;
   }
   c.Macros->ConvertMacros(s, s.OutputPath);                                     // C1

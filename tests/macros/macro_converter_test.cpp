@@ -43,12 +43,17 @@ const std::string kSeparator = "Begin\nEnd\n";
 class MacroConversion : public ::testing::Test {
  protected:
   // Each call starts a fresh source tree and output directory.
-  void Open(const std::map<std::string, std::string>& macros) {
+  // `forms` are whole form texts by name.
+  void Open(const std::map<std::string, std::string>& macros,
+            const std::map<std::string, std::string>& forms = {}) {
     root_ = dir_ / ("run" + std::to_string(runs_++));
     fs::create_directories(root_ / "src" / "macros");
+    fs::create_directories(root_ / "src" / "forms");
     for (const auto& [name, body] : macros)
       WriteFile(root_ / "src" / "macros" / (name + ".txt"),
                 test::Crlf("Version =196611\nColumnsShown =0\n" + body));
+    for (const auto& [name, text] : forms)
+      WriteFile(root_ / "src" / "forms" / (name + ".txt"), test::Crlf(text));
     std::string err;
     tree_ = SourceTree::Open(root_ / "src", "", &err);
     ASSERT_TRUE(tree_) << err;
@@ -218,10 +223,8 @@ TEST_F(MacroConversion, NeedsContextLooksAtEveryFinishedProcedureOfTheGroup) {
     EXPECT_EQ(e.path().filename(), "morvane.db");
 }
 
-TEST_F(MacroConversion, MacrosEmbeddedInFormEventsBecomeProceduresOfTheirOwn) {
-  Open({{"M", Row("Beep")}});
-  fs::create_directories(root_ / "src" / "forms");
-  WriteFile(root_ / "src" / "forms" / "frmGo.txt", test::Crlf(R"(Version =20
+// A form with a macro in its Load event and one in its button's Click.
+constexpr const char* kEmbeddingForm = R"(Version =20
 VersionRequired =20
 Begin Form
     OnLoadEmMacro = Begin
@@ -252,14 +255,10 @@ Begin Form
         End
     End
 End
-)"));
-  std::string err;
-  tree_ = SourceTree::Open(root_ / "src", "", &err);
-  ASSERT_TRUE(tree_) << err;
-  catalog_ = tree_->BuildCatalog();
-  s_.SourceDb = catalog_.get();
-  s_.AccessApp = tree_.get();
+)";
 
+TEST_F(MacroConversion, MacrosEmbeddedInFormEventsBecomeProceduresOfTheirOwn) {
+  Open({{"M", Row("Beep")}}, {{"frmGo", kEmbeddingForm}});
   const std::string text = Convert();
   EXPECT_NE(text.find("Function frmGo_cmdGo_OnClick ()\r\nOn Error GoTo frmGo_cmdGo_OnClick_Err\r\n"
                       "With CodeContextObject\r\n\r\n.txtA  = 1\r\n"),
@@ -276,6 +275,18 @@ End
   name = "frmGo.OnLoad";
   EXPECT_FALSE(MacroNeedsContext(s_, name));
   EXPECT_EQ(name, "frmGo_OnLoad");
+}
+
+TEST_F(MacroConversion, EmbeddedMacrosAloneStillGiveTheModuleAndNoMacrosGiveNone) {
+  const std::string plainForm =
+      "Version =20\nBegin Form\nBegin\nBegin Section\nHeight =300\nName =\"Detail\"\n"
+      "End\nEnd\nEnd\n";
+  Open({}, {{"frmPlain", plainForm}});
+  Convert();
+  EXPECT_FALSE(fs::exists(root_ / "out" / "macro.txt"));
+
+  Open({}, {{"frmGo", kEmbeddingForm}});
+  EXPECT_NE(Convert().find("Function frmGo_cmdGo_OnClick ()"), std::string::npos);
 }
 
 // One action per row of the mapping data, with the statement each gives.
