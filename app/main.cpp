@@ -11,7 +11,7 @@
 #include "app/command_line_ui.h"
 #include "app/text_output.h"
 #include "events/event_writer.h"
-#include "forms/design_store.h"
+#include "design/design_store.h"
 #include "forms/form_converter.h"
 #include "macros/macro_converter.h"
 #include "platform/catalog.h"

@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/design_store.h"
+#include "design/design_store.h"
 #include "platform/source_tree.h"
 
 namespace {

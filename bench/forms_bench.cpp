@@ -14,7 +14,7 @@
 
 #include "bench/bench_run.h"
 #include "events/event_writer.h"
-#include "forms/design_store.h"
+#include "design/design_store.h"
 #include "forms/form_converter.h"
 #include "macros/macro_converter.h"
 #include "platform/text_file.h"

@@ -5,7 +5,7 @@
 
 #include <utility>
 
-#include "forms/form_design.h"
+#include "design/form_design.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
 

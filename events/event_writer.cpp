@@ -4,7 +4,7 @@
 
 #include "events/control_events.h"
 #include "events/form_events.h"
-#include "forms/design_store.h"
+#include "design/design_store.h"
 #include "platform/support_db.h"
 #include "session/conversion_session.h"
 

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-#include "forms/form_design.h"
+#include "design/form_design.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
 

@@ -6,8 +6,8 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "forms/control_types.h"
-#include "forms/form_design.h"
+#include "design/control_types.h"
+#include "design/form_design.h"
 #include "forms/form_writer.h"
 #include "forms/frm_text.h"
 #include "forms/picture_extraction.h"

@@ -6,9 +6,9 @@
 // control_writers_options.cpp.
 #include "forms/control_writers.h"
 
-#include "forms/control_types.h"
+#include "design/control_types.h"
 #include "forms/control_writer_frame.h"
-#include "forms/form_design.h"
+#include "design/form_design.h"
 #include "forms/form_writer.h"
 #include "forms/frm_text.h"
 #include "forms/record_source.h"

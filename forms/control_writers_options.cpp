@@ -5,10 +5,10 @@
 // ask for one on a bound form.
 #include <string_view>
 
-#include "forms/control_types.h"
+#include "design/control_types.h"
 #include "forms/control_writer_frame.h"
 #include "forms/control_writers.h"
-#include "forms/form_design.h"
+#include "design/form_design.h"
 #include "forms/form_writer.h"
 #include "forms/frm_text.h"
 #include "session/conversion_session.h"

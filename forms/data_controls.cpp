@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "forms/form_design.h"
+#include "design/form_design.h"
 #include "forms/form_writer.h"
 #include "forms/frm_text.h"
 #include "forms/query_fields.h"

@@ -1,7 +1,7 @@
 // The driver's form converter over the form writer and the hint processor.
 #include "forms/form_converter.h"
 
-#include "forms/design_store.h"
+#include "design/design_store.h"
 #include "forms/form_writer.h"
 #include "platform/support_db.h"
 #include "session/conversion_session.h"

@@ -4,8 +4,8 @@
 
 #include "forms/control_writers.h"
 #include "forms/data_controls.h"
-#include "forms/design_store.h"
-#include "forms/form_design.h"
+#include "design/design_store.h"
+#include "design/form_design.h"
 #include "forms/frm_text.h"
 #include "forms/picture_extraction.h"
 #include "platform/support_db.h"

@@ -7,7 +7,7 @@
 #include <cstdio>
 
 #include "forms/control_writer_frame.h"
-#include "forms/form_design.h"
+#include "design/form_design.h"
 #include "forms/form_writer.h"
 #include "session/conversion_session.h"
 #include "session/hint_processor.h"

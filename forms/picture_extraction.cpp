@@ -16,8 +16,8 @@
 #include <fstream>
 #include <optional>
 
-#include "forms/design_store.h"
-#include "forms/form_design.h"
+#include "design/design_store.h"
+#include "design/form_design.h"
 #include "forms/form_writer.h"
 #include "platform/support_db.h"
 #include "session/conversion_session.h"

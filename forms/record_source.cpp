@@ -10,8 +10,8 @@
 #include <algorithm>
 #include <vector>
 
-#include "forms/design_store.h"
-#include "forms/form_design.h"
+#include "design/design_store.h"
+#include "design/form_design.h"
 #include "forms/form_writer.h"
 #include "forms/frm_text.h"
 #include "forms/query_fields.h"

@@ -7,8 +7,8 @@
 #include <filesystem>
 #include <optional>
 
-#include "forms/design_store.h"
-#include "forms/form_design.h"
+#include "design/design_store.h"
+#include "design/form_design.h"
 #include "macros/macro_expression.h"
 #include "macros/macro_names.h"
 #include "macros/macro_tables.h"

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "events/event_writer.h"
-#include "forms/design_store.h"
+#include "design/design_store.h"
 #include "platform/source_tree.h"
 #include "platform/support_db.h"
 #include "session/conversion_session.h"

@@ -8,7 +8,7 @@
 
 #include <filesystem>
 
-#include "forms/form_design.h"
+#include "design/form_design.h"
 #include "forms/frm_text.h"
 #include "tests/forms/data_fixture.h"
 

@@ -9,7 +9,7 @@
 #include <memory>
 #include <string>
 
-#include "forms/design_store.h"
+#include "design/design_store.h"
 #include "forms/form_writer.h"
 #include "platform/catalog.h"
 #include "platform/support_db.h"

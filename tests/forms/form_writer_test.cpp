@@ -4,7 +4,7 @@
 
 #include <map>
 
-#include "forms/design_store.h"
+#include "design/design_store.h"
 #include "forms/form_writer.h"
 #include "platform/text_file.h"
 #include "session/conversion_session.h"

@@ -9,7 +9,7 @@
 #include <regex>
 #include <set>
 
-#include "forms/form_design.h"
+#include "design/form_design.h"
 #include "forms/query_fields.h"
 #include "tests/forms/data_fixture.h"
 

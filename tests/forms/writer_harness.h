@@ -11,8 +11,8 @@
 #include <string>
 #include <vector>
 
-#include "forms/design_store.h"
-#include "forms/form_design.h"
+#include "design/design_store.h"
+#include "design/form_design.h"
 #include "forms/form_writer.h"
 #include "platform/text_file.h"
 #include "session/conversion_session.h"

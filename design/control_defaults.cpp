@@ -1,11 +1,11 @@
 // Reading the property table, once, from the text compiled into the program.
-#include "forms/control_defaults.h"
+#include "design/control_defaults.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <stdexcept>
 
-#include "forms/access_control_defaults_data.h"
+#include "design/access_control_defaults_data.h"
 #include "platform/text_fold.h"
 
 namespace morvane {

@@ -16,7 +16,7 @@
 #include <string_view>
 #include <vector>
 
-#include "forms/control_defaults.h"
+#include "design/control_defaults.h"
 #include "platform/export_parser.h"
 
 namespace morvane {

@@ -4,11 +4,11 @@
 // blocks; exports differ on whether the sections sit in that bare block or
 // beside it, so both are read. Controls nest in bare blocks inside their
 // section and inside their holder.
-#include "forms/design_loader.h"
+#include "design/design_loader.h"
 
 #include <cstdlib>
 
-#include "forms/control_types.h"
+#include "design/control_types.h"
 #include "platform/encoding.h"
 #include "platform/text_fold.h"
 

@@ -2,12 +2,12 @@
 // the form's default-control block, then Access's default for the type), the
 // conversions between text, numbers and booleans, and the values that Access
 // derives (ControlType, Section, BorderStyle, MinButton, EventProcPrefix).
-#include "forms/form_design.h"
+#include "design/form_design.h"
 
 #include <cmath>
 #include <cstdlib>
 
-#include "forms/control_types.h"
+#include "design/control_types.h"
 #include "platform/text_fold.h"
 
 namespace morvane {

@@ -1,15 +1,15 @@
 // The design records read from hand-written exports: control types, the
 // reading rule (text, the form's default block, Access's default, missing),
 // nesting as Parent, sections, pages, pictures, reports and later formats.
-#include "forms/form_design.h"
+#include "design/form_design.h"
 
 #include <gtest/gtest.h>
 
-#include "forms/control_types.h"
-#include "forms/design_loader.h"
+#include "design/control_types.h"
+#include "design/design_loader.h"
 #include "platform/text_file.h"
 #include "support/temp_dir.h"
-#include "tests/forms/design_texts.h"
+#include "tests/design/design_texts.h"
 
 namespace morvane {
 namespace {

@@ -1,8 +1,8 @@
 // Opening designs by name from a source tree, with a cache of loaded designs
 // and the resolver that gives a subform control its form.
-#include "forms/design_store.h"
+#include "design/design_store.h"
 
-#include "forms/design_loader.h"
+#include "design/design_loader.h"
 #include "platform/encoding.h"
 #include "platform/text_fold.h"
 

@@ -1,17 +1,17 @@
 // The design store: opening designs by name once, subform controls resolved
 // to their forms two levels deep, messages for what is missing or broken,
 // and a store over a real source tree on disk.
-#include "forms/design_store.h"
+#include "design/design_store.h"
 
 #include <gtest/gtest.h>
 
 #include <map>
 
-#include "forms/design_loader.h"
+#include "design/design_loader.h"
 #include "platform/text_file.h"
 #include "session/naming.h"
 #include "support/temp_dir.h"
-#include "tests/forms/design_texts.h"
+#include "tests/design/design_texts.h"
 
 namespace morvane {
 namespace {

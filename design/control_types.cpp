@@ -1,5 +1,5 @@
 // Lookups over the control type and section tables.
-#include "forms/control_types.h"
+#include "design/control_types.h"
 
 #include "session/naming.h"
 

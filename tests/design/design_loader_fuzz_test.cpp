@@ -5,8 +5,8 @@
 
 #include <random>
 
-#include "forms/design_loader.h"
-#include "tests/forms/design_texts.h"
+#include "design/design_loader.h"
+#include "tests/design/design_texts.h"
 #include "tests/platform/export_mutator.h"
 
 namespace morvane {

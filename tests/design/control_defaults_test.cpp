@@ -1,11 +1,11 @@
 // The compiled-in table of Access's properties per type: it covers every
 // control type, says which type has which property, and the reader of the
 // table refuses malformed rows.
-#include "forms/control_defaults.h"
+#include "design/control_defaults.h"
 
 #include <gtest/gtest.h>
 
-#include "forms/control_types.h"
+#include "design/control_types.h"
 
 namespace morvane {
 namespace {

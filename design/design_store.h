@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/form_design.h"
+#include "design/form_design.h"
 #include "platform/source_tree.h"
 
 namespace morvane {

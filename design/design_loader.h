@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/form_design.h"
+#include "design/form_design.h"
 
 namespace morvane {
 
