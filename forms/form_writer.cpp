@@ -2,10 +2,10 @@
 // names, routing of control text, section frames and the final assembly.
 #include "forms/form_writer.h"
 
-#include "forms/control_writers.h"
-#include "forms/data_controls.h"
 #include "design/design_store.h"
 #include "design/form_design.h"
+#include "forms/control_writers.h"
+#include "forms/data_controls.h"
 #include "forms/frm_text.h"
 #include "forms/picture_extraction.h"
 #include "platform/support_db.h"
@@ -70,24 +70,20 @@ std::string ControlKindName(int type) {
 
 FormWriter::FormWriter(ConversionSession& s, DesignStore& store) : s_(s), store_(store) {}
 
-std::string FormWriter::FrxPath() const {
-  return s_.OutputPath + SafeName(t_.OwnerFormName) + ".frx";
-}
-
 bool FormWriter::ConvertForm(const std::string& formName, std::string* err) {
   if (s_.OptionWordLength != 11) return false;
   t_ = FormTextSet{};
-  s_.HintText.clear();
+  FormState& state = s_.Form();
+  state.Text = TextDocument();
+  state.Binary.clear();
+  state.Hints.clear();
   if (s_.SupportDb) s_.SupportDb->ClearFields();
   std::string why;
   if (!store_.OpenForm(formName, &why)) {
     if (err) *err = why;
     return false;
   }
-  // A .frx of an earlier run would otherwise keep its records ahead of ours.
   t_.OwnerFormName = formName;
-  std::error_code ec;
-  std::filesystem::remove(FrxPath(), ec);
   WriteForm(formName, false, 1, false);
 
   std::string text = t_.HeaderText + "\r\n" + t_.BodyText;
@@ -96,11 +92,8 @@ bool FormWriter::ConvertForm(const std::string& formName, std::string* err) {
   if (!t_.PageTabHead.empty()) text += "\r\n" + t_.PageTabHead;
   if (!t_.PageTabBody.empty()) text += "\r\n" + t_.PageTabBody + "\r\nEnd";
   text += "\r\nEnd\r\n";
-  const std::string base = s_.OutputPath + SafeName(formName);
-  bool ok = WriteFileBytes(base + ".frm", text, &why);
-  ok = WriteFileBytes(base + ".hnt", s_.HintText + "\r\n", &why) && ok;
-  if (!ok && err) *err = why;
-  return ok;
+  state.Text = TextDocument::FromBytes(text);
+  return true;
 }
 
 void FormWriter::WriteForm(const std::string& formName, bool isSubform, int pass, bool headerOnly) {
@@ -158,7 +151,7 @@ void FormWriter::WriteForm(const std::string& formName, bool isSubform, int pass
       }
   }
   if (!isSubform) WriteFormHeader(*form);
-  AddHint(s_, {"FormCode", formName, t_.ParentControlName});
+  AddHint(s_, FormCodeHint{formName, t_.ParentControlName});
   if (auto source = form->Text("RecordSource"); source && !source->empty())
     WriteFormDataControl(*this);
   if (!isSubform) {
@@ -183,9 +176,8 @@ void FormWriter::WriteForm(const std::string& formName, bool isSubform, int pass
     t_.BodyText += "\r\nBegin VB.Timer Timer1\r\nLeft = 0\r\nTop = 0\r\nInterval = " +
                    std::to_string(*interval) + "\r\nEnd";
   }
-  AddHint(s_,
-          {"CtlCounts", std::to_string(t_.FormControlCount), std::to_string(t_.FormPartialCount)});
-  if (t_.FormControlCount > 254) AddHint(s_, {"TooManyControls", formName});
+  AddHint(s_, ControlCountsHint{t_.FormControlCount, t_.FormPartialCount});
+  if (t_.FormControlCount > 254) AddHint(s_, TooManyControlsHint{formName});
   WriteComponentLines(true);
 }
 
@@ -232,15 +224,15 @@ void FormWriter::WriteFormHeader(const FormDesign& form) {
     // A guard that cannot be read counts as met.
     bool dialog = popup.value_or(true) && modal.value_or(true);
     if (!popup || !modal) dialog = false;
-    if (s_.IsMdi && !dialog) b += "\r\nMDIChild = -1";
+    if (s_.Options.IsMdi && !dialog) b += "\r\nMDIChild = -1";
   }
   line("HelpContextID=", ValueText(form, "HelpContextId"));
   if (auto picture = form.Bytes("PictureData"); picture && !picture->empty()) {
     std::string offset = ExtractPicture(*this, name, "", false);
     if (!offset.empty()) {
       b += "\r\nPicture = \"" + safe + ".frx\":" + offset + "\r\nAutoRedraw = -1";
-      AddHint(s_, {"FormImage", ValueText(form, "PictureSizeMode").value_or(""),
-                   ValueText(form, "PictureTiling").value_or("")});
+      AddHint(s_, FormImageHint{ValueText(form, "PictureSizeMode").value_or(""),
+                                ValueText(form, "PictureTiling").value_or("")});
     }
   }
 }
@@ -281,7 +273,7 @@ void FormWriter::MakeControlName(const ControlDesign& c) {
     }
   }
   t_.UsedControlNames.push_back(name);
-  s_.CurrentControlName = name;
+  s_.Form().CurrentControlName = name;
 }
 
 void FormWriter::PutControlText(const std::string& text) {
@@ -347,8 +339,9 @@ void FormWriter::LocatePage() {
     if (t_.PageControlCounts.size() <= static_cast<size_t>(page))
       t_.PageControlCounts.resize(page + 1);
     const int count = ++t_.PageControlCounts[page];
-    const std::string shown =
-        c->ControlType() == kOptionGroup ? "grp" + s_.CurrentControlName : s_.CurrentControlName;
+    const std::string shown = c->ControlType() == kOptionGroup
+                                  ? "grp" + s_.Form().CurrentControlName
+                                  : s_.Form().CurrentControlName;
     t_.PageTabHead += "Tab(" + std::to_string(page) + ").Control(" + std::to_string(count - 1) +
                       ")=\"" + shown + "\"\r\n";
     t_.PageIndex = page;
@@ -511,7 +504,7 @@ void FormWriter::WriteControl(const ControlDesign& c) {
       break;
     }
     case kUnboundObject:
-      AddHint(s_, {"AddToReport", t_.OwnerFormName, "10", SafeName(c.Name()), "0", "", ""});
+      AddHint(s_, ReportRowHint{t_.OwnerFormName, 10, SafeName(c.Name()), 0, "", ""});
       break;
     default:
       break;

@@ -65,8 +65,9 @@ class FormWriter {
  public:
   FormWriter(ConversionSession& s, DesignStore& store);
 
-  // Writes <OutputPath><SafeName(form)>.frm and .hnt. False with a message
-  // when the design cannot be opened; nothing is written then.
+  // Writes the form's text, binary records and hint records into the
+  // session's form state. False with a message when the design cannot be
+  // opened; the text stays empty then.
   bool ConvertForm(const std::string& formName, std::string* err = nullptr);
   // One walk over a form; calls itself for embedded subforms.
   void WriteForm(const std::string& formName, bool isSubform, int pass, bool headerOnly);
@@ -98,9 +99,6 @@ class FormWriter {
   // SectionOffset from a control's section, as the walk sets it; `adjust`
   // applies the page-break shift to the footers.
   void SetSectionOffset(const ControlDesign& c, bool adjust = true);
-
-  // <OutputPath><SafeName(OwnerFormName)>.frx
-  std::string FrxPath() const;
 
  private:
   void WriteFormHeader(const FormDesign& form);

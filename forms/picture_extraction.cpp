@@ -6,8 +6,6 @@
 // the size limit are read from the bytes themselves.
 #include "forms/picture_extraction.h"
 
-#include <sqlite3.h>
-
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
@@ -141,41 +139,15 @@ std::optional<std::string> MetafileRecord(const std::string& data, PictureKind k
   return out;
 }
 
-// tblPict holds the picture on its way, in the row with ID 1. Without a
-// support database the bytes go to the writers directly.
-bool ClearStagedPicture(ConversionSession& s) {
-  return !s.SupportDb || s.SupportDb->Execute("DELETE FROM tblPict WHERE ID = 1");
-}
-
+// tblPict holds the picture on its way. Without a support database the bytes
+// go to the writers directly.
 bool StagePicture(ConversionSession& s, const std::string& bytes) {
-  if (!s.SupportDb) return true;
-  if (!ClearStagedPicture(s)) return false;
-  sqlite3_stmt* st = nullptr;
-  if (sqlite3_prepare_v2(s.SupportDb->Handle(),
-                         "INSERT INTO tblPict (ID, PictureData) VALUES (1, ?)", -1, &st,
-                         nullptr) != SQLITE_OK)
-    return false;
-  sqlite3_bind_blob(st, 1, bytes.data(), static_cast<int>(bytes.size()), SQLITE_TRANSIENT);
-  const bool ok = sqlite3_step(st) == SQLITE_DONE;
-  sqlite3_finalize(st);
-  return ok;
+  return !s.SupportDb || s.SupportDb->StagePicture(bytes);
 }
 
 std::optional<std::string> StagedPicture(ConversionSession& s, const std::string& bytes) {
   if (!s.SupportDb) return bytes;
-  sqlite3_stmt* st = nullptr;
-  if (sqlite3_prepare_v2(s.SupportDb->Handle(), "SELECT PictureData FROM tblPict WHERE ID = 1", -1,
-                         &st, nullptr) != SQLITE_OK)
-    return std::nullopt;
-  std::optional<std::string> out;
-  if (sqlite3_step(st) == SQLITE_ROW) {
-    const void* blob = sqlite3_column_blob(st, 0);
-    const int size = sqlite3_column_bytes(st, 0);
-    out = blob ? std::string(static_cast<const char*>(blob), static_cast<size_t>(size))
-               : std::string();
-  }
-  sqlite3_finalize(st);
-  return out;
+  return s.SupportDb->StagedPicture();
 }
 
 // The picture bytes of the form or report `name`, or of its control.
@@ -188,13 +160,6 @@ std::optional<std::string> PictureBytes(FormWriter& w, const std::string& name,
   const ControlDesign* control = design->Control(controlName);
   if (!control) return std::nullopt;
   return control->Bytes("PictureData");
-}
-
-bool AppendRecord(const std::filesystem::path& target, const std::string& record) {
-  std::ofstream out(target, std::ios::binary | std::ios::app);
-  out.write(record.data(), static_cast<std::streamsize>(record.size()));
-  out.close();
-  return static_cast<bool>(out);
 }
 
 // Upper-case hexadecimal, at least four digits; an offset past 65535 keeps
@@ -216,13 +181,10 @@ std::string ExtractPicture(FormWriter& w, const std::string& holder, const std::
   auto data = StagedPicture(s, *bytes);
   if (!data || !PictureFitsLimit(*data)) return std::string();
 
-  // A picture of a subform's control goes to the top form's file.
-  const std::filesystem::path target =
-      isReport ? s.OutputPath + SafeName(holder) + ".dsx" : w.FrxPath();
-  std::error_code ec;
-  std::uintmax_t offset =
-      std::filesystem::exists(target, ec) ? std::filesystem::file_size(target, ec) : 0;
-  if (ec) return std::string();
+  // The records go to the binary file of the form or report being
+  // converted; a picture of a subform's control goes to the top form's.
+  std::string& target = s.Form().Binary;
+  const std::uintmax_t offset = target.size();
 
   const PictureKind kind = ProbePictureType(*data);
   std::optional<std::string> record;
@@ -238,14 +200,8 @@ std::string ExtractPicture(FormWriter& w, const std::string& holder, const std::
       break;
   }
   if (!record) return std::string();
-  errno = 0;
-  if (!AppendRecord(target, *record)) {
-    // Only the enhanced metafile's writer tells the user why it failed.
-    if (kind == PictureKind::EnhancedMetafile && s.Ui)
-      s.Ui->ShowMessage(std::strerror(errno != 0 ? errno : EIO), MessageIcon::Stop);
-    return std::string();
-  }
-  ClearStagedPicture(s);
+  target += *record;
+  if (s.SupportDb) s.SupportDb->ClearStagedPicture();
   w.Text().PictureReference = OffsetText(offset);
   return w.Text().PictureReference;
 }

@@ -14,6 +14,7 @@
 #include "macros/macro_tables.h"
 #include "platform/catalog.h"
 #include "platform/export_parser.h"
+#include "platform/output_directory.h"
 #include "platform/source_tree.h"
 #include "platform/support_db.h"
 #include "platform/text_file.h"
@@ -342,8 +343,8 @@ bool IsTreeMacro(ConversionSession& s, const std::string& name) {
 
 }  // namespace
 
-void MacroConverterImpl::ConvertMacros(ConversionSession& s, const std::string& outputPath) {
-  if (s.OptionWordLength != 11 || !s.SourceDb) return;
+TextDocument MacroConverterImpl::ConvertMacros(ConversionSession& s) {
+  if (s.OptionWordLength != 11 || !s.SourceDb) return TextDocument();
   MacroTables tables(s.SupportDb);
   std::string text = "Attribute VB_Name = \"MacroCode\"\r\nPublic CodeContextObject As VB.Form\r\n";
   const auto macros = s.SourceDb->ContainerDocuments("Scripts");
@@ -370,8 +371,7 @@ void MacroConverterImpl::ConvertMacros(ConversionSession& s, const std::string& 
           const size_t dot = m.Name.find('.');
           MacroWriter writer(s, tables, 0);
           writer.ConvertEmbeddedMacro(
-              SplitLines(m.Text),
-              MacroProcName(s, m.Name.substr(0, dot), m.Name.substr(dot + 1)));
+              SplitLines(m.Text), MacroProcName(s, m.Name.substr(0, dot), m.Name.substr(dot + 1)));
           text += writer.Output();
           any = true;
         }
@@ -379,11 +379,12 @@ void MacroConverterImpl::ConvertMacros(ConversionSession& s, const std::string& 
     }
   }
   // A source without macros of either kind gets no macro module.
-  if (!any) return;
-  WriteFileBytes(outputPath + "macro.txt", text, nullptr);
-  if (macros.empty()) return;
-  if (auto startup = s.SourceDb->Property("StartupForm"); startup && !startup->empty())
-    AppendFileBytes(outputPath + "_Startup.txt", *startup + "\r\n", nullptr);
+  if (!any) return TextDocument();
+  // The startup form, for whoever replaces the macros that opened it.
+  if (auto startup = s.SourceDb->Property("StartupForm");
+      !macros.empty() && startup && !startup->empty() && s.Output)
+    s.Output->Write("_Startup.txt", *startup + "\r\n", nullptr);
+  return TextDocument::FromBytes(text);
 }
 
 bool MacroNeedsContext(ConversionSession& s, std::string& name) {

@@ -1,53 +1,23 @@
 // Reading the macro mapping tables out of SQLite.
 #include "macros/macro_tables.h"
 
-#include <sqlite3.h>
-
 #include "platform/support_db.h"
 #include "session/naming.h"
 
 namespace morvane {
 
-namespace {
-
-template <typename Row>
-void ForEachRow(sqlite3* db, const char* sql, Row row) {
-  sqlite3_stmt* stmt = nullptr;
-  if (sqlite3_prepare_v2(db, sql, -1, &stmt, nullptr) != SQLITE_OK) return;
-  while (sqlite3_step(stmt) == SQLITE_ROW) row(stmt);
-  sqlite3_finalize(stmt);
-}
-
-std::optional<std::string> Column(sqlite3_stmt* stmt, int i) {
-  if (sqlite3_column_type(stmt, i) == SQLITE_NULL) return std::nullopt;
-  auto p = reinterpret_cast<const char*>(sqlite3_column_text(stmt, i));
-  return std::string(p, static_cast<size_t>(sqlite3_column_bytes(stmt, i)));
-}
-
-}  // namespace
-
 MacroTables::MacroTables(SupportDatabase* db) {
-  if (!db || !db->Handle()) return;
-  ForEachRow(db->Handle(),
-             "SELECT Action, ActionID, MapsTo, NumArgs FROM mtm_tblActions ORDER BY rowid",
-             [this](sqlite3_stmt* st) {
-               actions_.push_back({Column(st, 0).value_or(""), sqlite3_column_int(st, 1),
-                                   Column(st, 2), sqlite3_column_int(st, 3)});
-             });
-  ForEachRow(db->Handle(),
-             "SELECT ActionID, ArgNumber, ArgumentType, LookupBase, AutoExpression "
-             "FROM mtm_tblActionArgs",
-             [this](sqlite3_stmt* st) {
-               MacroActionArg arg;
-               arg.ArgumentType = sqlite3_column_int(st, 2);
-               arg.LookupBase = sqlite3_column_int(st, 3);
-               arg.AutoExpression = sqlite3_column_int(st, 4) != 0;
-               args_[{sqlite3_column_int(st, 0), sqlite3_column_int(st, 1)}] = arg;
-             });
-  ForEachRow(db->Handle(), "SELECT LookupNumber, Value FROM mtm_tblLookups",
-             [this](sqlite3_stmt* st) {
-               lookups_[sqlite3_column_int(st, 0)] = Column(st, 1).value_or("");
-             });
+  if (!db) return;
+  for (auto& r : db->MacroActions())
+    actions_.push_back({std::move(r.Action), r.ActionID, std::move(r.MapsTo), r.NumArgs});
+  for (const auto& r : db->MacroActionArgs()) {
+    MacroActionArg arg;
+    arg.ArgumentType = r.ArgumentType;
+    arg.LookupBase = r.LookupBase;
+    arg.AutoExpression = r.AutoExpression;
+    args_[{r.ActionID, r.ArgNumber}] = arg;
+  }
+  for (auto& r : db->MacroLookups()) lookups_[r.LookupNumber] = std::move(r.Value);
 }
 
 const MacroAction* MacroTables::FindAction(const std::string& name) const {

@@ -6,6 +6,7 @@
 #include <cctype>
 #include <cstdio>
 
+#include "platform/output_directory.h"
 #include "platform/text_file.h"
 #include "platform/text_fold.h"
 
@@ -73,6 +74,23 @@ size_t CodeStart(const std::vector<std::string>& lines) {
   return std::min(i, lines.size());
 }
 
+// The libraries the header's Object lines name, each once.
+std::vector<std::string> ObjectLines(const std::vector<std::string>& lines) {
+  std::vector<std::string> objects;
+  for (const auto& l : lines) {
+    std::string t = Trimmed(l);
+    if (StartsWith(t, "Begin ") || StartsWith(t, "Attribute ")) break;
+    // VB writes "Object = ", the form writer "Object=".
+    if (!StartsWith(t, "Object")) continue;
+    std::string value = Trimmed(t.substr(6));
+    if (value.empty() || value.front() != '=') continue;
+    value = Trimmed(value.substr(1));
+    value.erase(std::remove(value.begin(), value.end(), '"'), value.end());
+    if (std::find(objects.begin(), objects.end(), value) == objects.end()) objects.push_back(value);
+  }
+  return objects;
+}
+
 std::string AttributeName(const std::vector<std::string>& lines) {
   for (const auto& l : lines) {
     std::string t = Trimmed(l);
@@ -88,8 +106,8 @@ std::string AttributeName(const std::vector<std::string>& lines) {
 }  // namespace
 
 CodeModule::Split CodeModule::Read() const {
-  std::vector<std::string> lines;
-  ReadTextLines(file_, &lines, nullptr);
+  static const std::vector<std::string> kNone;
+  const std::vector<std::string>& lines = text_ ? text_->Lines() : kNone;
   size_t start = CodeStart(lines);
   Split s;
   s.head.assign(lines.begin(), lines.begin() + static_cast<long>(start));
@@ -98,9 +116,10 @@ CodeModule::Split CodeModule::Read() const {
 }
 
 void CodeModule::Write(const Split& s) const {
+  if (!text_) return;
   std::vector<std::string> all = s.head;
   all.insert(all.end(), s.code.begin(), s.code.end());
-  WriteTextLines(file_, all, nullptr);
+  text_->SetLines(std::move(all));
 }
 
 int CodeModule::CountOfLines() const { return static_cast<int>(Read().code.size()); }
@@ -149,9 +168,8 @@ const ProjectComponent* ProjectModel::Find(const std::string& name) const {
   return nullptr;
 }
 
-const ProjectComponent* ProjectModel::AddFile(const std::filesystem::path& file) {
-  std::vector<std::string> lines;
-  if (!ReadTextLines(file, &lines, nullptr)) return nullptr;
+const ProjectComponent* ProjectModel::Add(const std::filesystem::path& file, TextDocument text) {
+  const std::vector<std::string>& lines = text.Lines();
   ProjectComponent c;
   c.File = file;
   c.Kind = ComponentKind::Module;
@@ -176,14 +194,37 @@ const ProjectComponent* ProjectModel::AddFile(const std::filesystem::path& file)
   }
   c.Name = AttributeName(lines);
   if (c.Name.empty()) c.Name = file.stem().string();
+  c.Objects = ObjectLines(lines);
+  c.Text = std::make_shared<TextDocument>(std::move(text));
   for (auto& existing : components_) {
     if (existing.Name == c.Name) {
-      existing = c;
+      existing = std::move(c);
       return &existing;
     }
   }
-  components_.push_back(c);
+  components_.push_back(std::move(c));
   return &components_.back();
+}
+
+const ProjectComponent* ProjectModel::AddFile(const std::filesystem::path& file) {
+  std::string bytes;
+  if (!ReadFileBytes(file, &bytes, nullptr)) return nullptr;
+  const ProjectComponent* c = Add(file, TextDocument::FromBytes(bytes));
+  // The file is on disk already.
+  for (auto& existing : components_)
+    if (&existing == c) existing.Text.reset();
+  return c;
+}
+
+bool ProjectModel::WriteComponent(const std::string& name, OutputDirectory& out, std::string* err) {
+  for (auto& c : components_) {
+    if (c.Name != name || !c.Text) continue;
+    c.Objects = ObjectLines(c.Text->Lines());
+    const bool ok = out.Write(c.File, c.Text->Bytes(), err);
+    c.Text.reset();
+    return ok;
+  }
+  return true;
 }
 
 void ProjectModel::Remove(const std::string& name) {
@@ -254,20 +295,10 @@ std::string ProjectModel::VbpText(const std::filesystem::path& baseDir) const {
   // Each control library a form names in its Object lines, once.
   std::vector<std::string> objects;
   for (const auto& c : components_) {
-    std::vector<std::string> lines;
-    if (!ReadTextLines(c.File, &lines, nullptr)) continue;
-    for (const auto& l : lines) {
-      std::string t = Trimmed(l);
-      if (StartsWith(t, "Begin ") || StartsWith(t, "Attribute ")) break;
-      // VB writes "Object = ", the form writer "Object=".
-      if (!StartsWith(t, "Object")) continue;
-      std::string value = Trimmed(t.substr(6));
-      if (value.empty() || value.front() != '=') continue;
-      value = Trimmed(value.substr(1));
-      value.erase(std::remove(value.begin(), value.end(), '"'), value.end());
+    const std::vector<std::string> own = c.Text ? ObjectLines(c.Text->Lines()) : c.Objects;
+    for (const auto& value : own)
       if (std::find(objects.begin(), objects.end(), value) == objects.end())
         objects.push_back(value);
-    }
   }
   for (const auto& o : objects) out.push_back("Object=" + o);
   for (const auto& c : components_) {
@@ -327,7 +358,7 @@ std::string ProjectModel::VbpText(const std::filesystem::path& baseDir) const {
 }
 
 bool ProjectModel::SaveAs(const std::filesystem::path& vbpFile, std::string* err) {
-  return WriteFileBytes(vbpFile, VbpText(vbpFile.parent_path()), err);
+  return WriteFileWhole(vbpFile, VbpText(vbpFile.parent_path()), err);
 }
 
 }  // namespace morvane

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "platform/output_directory.h"
 #include "platform/support_db.h"
 #include "platform/text_file.h"
 #include "session/conversion_session.h"
@@ -88,6 +89,12 @@ std::string WriteAnalysisReport(ConversionSession& s, const RunSummary& summary)
                 "; to review: " + std::to_string(summary.LinesToReview) +
                 "; not translated: " + std::to_string(summary.LinesNotTranslated) + "</p>");
 
+  if (!summary.Failures.empty()) {
+    out.push_back("<h2>Not written</h2><ul>");
+    for (const auto& failure : summary.Failures) out.push_back("<li>" + Html(failure) + "</li>");
+    out.push_back("</ul>");
+  }
+
   auto notes = s.SupportDb->RunNotes();
   if (!notes.empty()) {
     out.push_back("<h2>Not done in this run</h2><ul>");
@@ -131,7 +138,9 @@ std::string WriteAnalysisReport(ConversionSession& s, const RunSummary& summary)
   std::error_code ec;
   std::filesystem::create_directories(dir, ec);
   std::filesystem::path file = dir / "index.html";
-  if (!WriteTextLines(file, out, nullptr)) return "";
+  const std::string text = JoinCrLf(out);
+  if (s.Output ? !s.Output->Write(file, text, nullptr) : !WriteFileWhole(file, text, nullptr))
+    return "";
   return file.string();
 }
 

@@ -4,11 +4,9 @@
 #include "translator/module_translator.h"
 
 #include <exception>
-#include <filesystem>
 #include <string_view>
 #include <vector>
 
-#include "platform/text_file.h"
 #include "session/conversion_session.h"
 #include "session/converters.h"
 #include "session/naming.h"
@@ -33,21 +31,6 @@ namespace {
 // the data control of another form (a subform's code).
 constexpr std::string_view kFormCodeMark = "'MORVANE Form Code for ";
 constexpr std::string_view kEndFormCodeMark = "'MORVANE End Form Code for ";
-
-constexpr size_t kPrefixLength = 5;     // "form_", "REPT_", "MODU_"
-constexpr size_t kExtensionLength = 4;  // ".frm", ".txt"
-
-std::string ModuleNameOf(const std::string& fileName) {
-  if (fileName.size() <= kPrefixLength) return std::string();
-  std::string rest = fileName.substr(kPrefixLength);
-  return rest.substr(0, rest.size() > kExtensionLength ? rest.size() - kExtensionLength : 0);
-}
-
-const char* OutputExtension(int mode) {
-  if (mode == kModeForm) return ".frm";
-  if (mode == kModeReport) return ".dsr";
-  return ".bas";
-}
 
 // Step 15: the line goes out, and the injection sees every line written.
 void Emit(ModuleTranslation& t, const std::string& line) {
@@ -129,29 +112,19 @@ void TranslateLineSafely(ModuleTranslation& t, const std::string& line) {
 
 }  // namespace
 
-void TranslateCode(ConversionSession& s, std::string& path, int mode) {
-  const std::string input = path;
-  const std::string fileName = FileNameOf(input);
-  path = ModuleNameOf(fileName);
-
-  // The output of an earlier run (for a form, the file of the same name).
-  std::error_code ec;
-  if (fileName.size() > kPrefixLength)
-    std::filesystem::remove(s.OutputPath + fileName.substr(kPrefixLength), ec);
-
-  std::vector<std::string> lines;
-  if (!ReadTextLines(input, &lines, nullptr)) return;
-
-  ModuleTranslation t(s, mode, path);
-  for (const auto& line : lines) TranslateLineSafely(t, line);
+TextDocument TranslateCode(ConversionSession& s, const TextDocument& input,
+                           const std::string& moduleName, int mode) {
+  ModuleTranslation t(s, mode, moduleName);
+  t.Output.reserve(input.Lines().size() + 16);
+  for (const auto& line : input.Lines()) TranslateLineSafely(t, line);
   InjectAtEnd(t);
 
-  const std::string output = s.OutputPath + path + OutputExtension(mode);
-  if (!WriteTextLines(output, t.Output, nullptr)) return;
   ModuleStats(
-      s, {path, t.TotalLines, t.CommentLines, t.LinesNotTranslated, t.LinesPotentiallyConverted,
-          t.BlankLines, t.SubCount, t.ProcCount, 0, 0, t.CodeLines});
+      s, {moduleName, t.TotalLines, t.CommentLines, t.LinesNotTranslated,
+          t.LinesPotentiallyConverted, t.BlankLines, t.SubCount, t.ProcCount, 0, 0, t.CodeLines});
+  TextDocument output(std::move(t.Output));
   RecordsetPass(s, output);
+  return output;
 }
 
 }  // namespace morvane

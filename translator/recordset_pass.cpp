@@ -186,9 +186,8 @@ bool IsIndexLine(std::string_view trimmed) {
 
 }  // namespace
 
-void RecordsetPass(ConversionSession& s, const std::string& file) {
-  std::vector<std::string> lines;
-  if (!ReadTextLines(file, &lines, nullptr)) return;
+void RecordsetPass(ConversionSession& s, TextDocument& text) {
+  std::vector<std::string>& lines = text.Lines();
   std::vector<std::string> members{""}, locals{""}, groups{""};
   bool inDeclarations = true;
   std::string pendingOption;  // the option button whose block is open
@@ -245,11 +244,7 @@ void RecordsetPass(ConversionSession& s, const std::string& file) {
     RecordsetRule(line, locals);
     if (groups.size() > 1 && !inDeclarations) OptionGroupRule(s, line, groups);
   }
-  const std::string copy = file + "1";
-  if (!WriteTextLines(copy, lines, nullptr)) return;
-  std::error_code ec;
-  std::filesystem::remove(file, ec);
-  std::filesystem::rename(copy, file, ec);
+  text.SplitBreaks(0, lines.size());
 }
 
 }  // namespace morvane

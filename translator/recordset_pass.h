@@ -5,11 +5,13 @@
 
 #include <string>
 
+#include "platform/text_document.h"
+
 namespace morvane {
 
 struct ConversionSession;
 
-// Rewrites `file` in place.
-void RecordsetPass(ConversionSession& s, const std::string& file);
+// Rewrites the text in place.
+void RecordsetPass(ConversionSession& s, TextDocument& text);
 
 }  // namespace morvane

@@ -88,9 +88,10 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   // code, with the macro of a button called in the form's context.
   const std::string customers = ReadFile(dir / "out" / "frmCustomers.frm");
   for (const char* wanted :
-       {"   Begin MSAdodcLib.Adodc datfrmCustomers\r\n", "      RecordSource = \"tblCustomers\"\r\n",
-        "   Begin VB.Frame grpgrpTerms\r\n", "      Begin VB.OptionButton grpTerms\r\n",
-        "         Index = 2\r\n", "   Begin Threed.SSCommand cmdOrders\r\n",
+       {"   Begin MSAdodcLib.Adodc datfrmCustomers\r\n",
+        "      RecordSource = \"tblCustomers\"\r\n", "   Begin VB.Frame grpgrpTerms\r\n",
+        "      Begin VB.OptionButton grpTerms\r\n", "         Index = 2\r\n",
+        "   Begin Threed.SSCommand cmdOrders\r\n",
         "   Begin VB.Timer Timer1\r\n      Left = 0\r\n      Top = 0\r\n      Interval = 60000\r\n",
         "   Begin VB.Frame Section\r\n", "      Begin VB.Line linUnderTitle\r\n",
         "      Begin VB.Label lblPrinted\r\n", "   Begin MSACAL.Calendar calNextVisit\r\n",
@@ -189,18 +190,19 @@ TEST(Convert, FormsTheRunCannotConvertAreSaidSo) {
   fs::create_directories(dir / "src" / "forms");
   WriteFile(dir / "src" / "forms" / "frmBig.txt",
             "Version =20\nBegin Form\nBegin\nBegin Section\nHeight =3000\nName =\"Detail\"\n"
-            "Begin\n" + labels + "End\nEnd\nEnd\nEnd\n");
+            "Begin\n" +
+                labels + "End\nEnd\nEnd\nEnd\n");
   WriteFile(dir / "src" / "forms" / "frmSmall.txt",
             "Version =20\nBegin Form\nBegin\nBegin Section\nHeight =300\nName =\"Detail\"\n"
             "Begin\nBegin ListBox\nName =\"lstPick\"\nEnd\nEnd\nEnd\nEnd\nEnd\n");
   auto r = RunMorvane(
       {"convert", (dir / "src").string(), "-o", (dir / "out").string(), "--no-mdi", "--yes"});
   ASSERT_EQ(r.status, 0) << r.err;
-  EXPECT_NE(r.err.find("The form \"frmBig\" has 255 controls.  Visual Basic has a limit of 254 "
+  EXPECT_NE(r.out.find("The form \"frmBig\" has 255 controls.  Visual Basic has a limit of 254 "
                        "controls, and Morvane was unable to find a way to reduce the control "
                        "count.  The form will not be converted."),
             std::string::npos)
-      << r.err;
+      << r.out;
   const std::string vbp = ReadFile(dir / "out" / "src.vbp");
   EXPECT_EQ(vbp.find("frmBig"), std::string::npos) << vbp;
   EXPECT_NE(vbp.find("Form=frmSmall.frm"), std::string::npos) << vbp;
@@ -254,10 +256,11 @@ TEST(Convert, AnOutputDirectoryInsideTheSourceIsRefused) {
 TEST(List, PrintsTheCatalogInItsOrder) {
   auto r = RunMorvane({"list", kSample.string()});
   ASSERT_EQ(r.status, 0) << r.err;
-  EXPECT_EQ(r.out,
-            "Forms:\n  frmCustomers\n  frmOrders\nModules:\n  basOrders\n  basStatistics\n  clsCustomer\n"
-            "  Date Helpers\n"
-            "Reports:\nMacros:\n  AutoExec\n  mcrOrders\n");
+  EXPECT_EQ(
+      r.out,
+      "Forms:\n  frmCustomers\n  frmOrders\nModules:\n  basOrders\n  basStatistics\n  clsCustomer\n"
+      "  Date Helpers\n"
+      "Reports:\nMacros:\n  AutoExec\n  mcrOrders\n");
 }
 
 }  // namespace

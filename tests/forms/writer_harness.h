@@ -17,6 +17,7 @@
 #include "platform/text_file.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
+#include "support/hint_text.h"
 #include "support/temp_dir.h"
 
 namespace morvane::test {
@@ -128,9 +129,10 @@ class WriterHarness : public ::testing::Test {
     if (body.compare(0, 2, "\r\n") == 0) body.erase(0, 2);
     return body;
   }
+  // The text of the records the writers left since the last call.
   std::string HintText() {
-    std::string hints = s_.HintText;
-    s_.HintText.clear();
+    std::string hints = test::HintText(s_.Form().Hints);
+    s_.Form().Hints.clear();
     return hints;
   }
 

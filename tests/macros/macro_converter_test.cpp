@@ -9,6 +9,7 @@
 
 #include "macros/macro_tables.h"
 #include "platform/catalog.h"
+#include "platform/output_directory.h"
 #include "platform/source_tree.h"
 #include "platform/support_db.h"
 #include "session/conversion_session.h"
@@ -66,11 +67,10 @@ class MacroConversion : public ::testing::Test {
     s_.AccessApp = tree_.get();
     s_.SupportDb = db_.get();
     s_.OutputPath = (root_ / "out").string() + "/";
+    output_ = std::make_unique<OutputDirectory>(root_ / "out");
+    s_.Output = output_.get();
   }
-  std::string Convert() {
-    MacroConverterImpl().ConvertMacros(s_, s_.OutputPath);
-    return ReadFile(root_ / "out" / "macro.txt");
-  }
+  std::string Convert() { return MacroConverterImpl().ConvertMacros(s_).Bytes(); }
   // The statements of a one-action macro "M": the body between the error
   // frame's head and its exit label.
   std::string Statement(const std::string& row) {
@@ -96,6 +96,7 @@ class MacroConversion : public ::testing::Test {
   std::unique_ptr<SourceTree> tree_;
   std::unique_ptr<MemoryCatalog> catalog_;
   std::unique_ptr<SupportDatabase> db_;
+  std::unique_ptr<OutputDirectory> output_;
   ConversionSession s_;
 };
 
@@ -205,7 +206,7 @@ TEST_F(MacroConversion, StartupFormIsNotedAndNothingElseIsLeftBehind) {
     (void)e;
     ++files;
   }
-  EXPECT_EQ(files, 3u);  // macro.txt, _Startup.txt, morvane.db
+  EXPECT_EQ(files, 2u);  // _Startup.txt, morvane.db
 }
 
 TEST_F(MacroConversion, NeedsContextLooksAtEveryFinishedProcedureOfTheGroup) {
