@@ -5,8 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+#include <memory>
 #include <random>
 
+#include "platform/jet_guarded_read.h"
 #include "platform/jet_query_sql.h"
 #include "session/strings.h"
 #include "support/temp_dir.h"
@@ -285,6 +288,27 @@ TEST(JetCatalog, RandomDamageNeverCrashesTheCaller) {
     auto cat = JetCatalog::Open(file, {}, &err, std::chrono::milliseconds(1500));
     if (!cat) EXPECT_EQ(err.rfind(file.string() + ": ", 0), 0u) << err;
   }
+}
+
+// Stands in for libmdb over a file that makes it allocate without end: it
+// takes memory (and uses it) until an allocation fails, or gives up after
+// far more than the guard allows and reports an empty database.
+bool AllocateWithoutEnd(const fs::path&, JetContents*, std::string*) {
+  constexpr size_t kBlock = size_t{32} << 20;
+  std::vector<std::unique_ptr<char[]>> held;
+  for (size_t total = 0; total < (size_t{768} << 20); total += kBlock) {
+    held.emplace_back(new char[kBlock]);
+    std::memset(held.back().get(), 1, kBlock);
+  }
+  return true;
+}
+
+TEST(JetCatalog, AReaderThatTakesMemoryWithoutEndIsStoppedAsADamagedFile) {
+  JetContents out;
+  std::string err;
+  EXPECT_FALSE(ReadJetContentsGuarded("/data/grows.mdb", std::chrono::seconds(60),
+                                      size_t{128} << 20, AllocateWithoutEnd, &out, &err));
+  EXPECT_EQ(err, "/data/grows.mdb: the database is damaged (reading its catalog failed)");
 }
 
 TEST(JetCatalog, TheUsersMessagesAreTheSessionsOwn) {
