@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "platform/support_db.h"
+#include "support/fixtures.h"
 #include "support/run_command.h"
 #include "support/temp_dir.h"
 #include "support/vb6_checker.h"
@@ -88,9 +89,10 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   // code, with the macro of a button called in the form's context.
   const std::string customers = ReadFile(dir / "out" / "frmCustomers.frm");
   for (const char* wanted :
-       {"   Begin MSAdodcLib.Adodc datfrmCustomers\r\n", "      RecordSource = \"tblCustomers\"\r\n",
-        "   Begin VB.Frame grpgrpTerms\r\n", "      Begin VB.OptionButton grpTerms\r\n",
-        "         Index = 2\r\n", "   Begin Threed.SSCommand cmdOrders\r\n",
+       {"   Begin MSAdodcLib.Adodc datfrmCustomers\r\n",
+        "      RecordSource = \"tblCustomers\"\r\n", "   Begin VB.Frame grpgrpTerms\r\n",
+        "      Begin VB.OptionButton grpTerms\r\n", "         Index = 2\r\n",
+        "   Begin Threed.SSCommand cmdOrders\r\n",
         "   Begin VB.Timer Timer1\r\n      Left = 0\r\n      Top = 0\r\n      Interval = 60000\r\n",
         "   Begin VB.Frame Section\r\n", "      Begin VB.Line linUnderTitle\r\n",
         "      Begin VB.Label lblPrinted\r\n", "   Begin MSACAL.Calendar calNextVisit\r\n",
@@ -283,7 +285,8 @@ TEST(Convert, FormsTheRunCannotConvertAreSaidSo) {
   fs::create_directories(dir / "src" / "forms");
   WriteFile(dir / "src" / "forms" / "frmBig.txt",
             "Version =20\nBegin Form\nBegin\nBegin Section\nHeight =3000\nName =\"Detail\"\n"
-            "Begin\n" + labels + "End\nEnd\nEnd\nEnd\n");
+            "Begin\n" +
+                labels + "End\nEnd\nEnd\nEnd\n");
   WriteFile(dir / "src" / "forms" / "frmSmall.txt",
             "Version =20\nBegin Form\nBegin\nBegin Section\nHeight =300\nName =\"Detail\"\n"
             "Begin\nBegin ListBox\nName =\"lstPick\"\nEnd\nEnd\nEnd\nEnd\nEnd\n");
@@ -310,17 +313,12 @@ TEST(Convert, BadRequestsStopWithOneLineAndAStatus) {
     std::vector<std::string> args;
     const char* message;
   };
-  const fs::path fixtures = MORVANE_FIXTURES_DIR;
-  fs::copy_file(fixtures / "jet3-northwind-de.mdb", dir / "nw.mdb");
-  fs::create_directories(dir / "nw.src");
   WriteFile(dir / "garbage.mdb", std::string(5000, 'x'));
   fs::create_directories(dir / "garbage.src");
   const Case cases[] = {
       {{"convert", (dir / "none").string(), "-o", (dir / "o1").string()}, "cannot be read"},
       {{"convert", kSample.string(), "-o", (dir / "o2").string(), "--modules", "basNope"},
        "The source has no module named \"basNope\"."},
-      {{"convert", (dir / "nw.mdb").string(), "-o", (dir / "o3").string()},
-       "If the database is an Access 97 database, it must be converted"},
       {{"convert", (dir / "garbage.mdb").string(), "-o", (dir / "o4").string()},
        "Invalid database file selected."},
       {{"list", (dir / "none.mdb").string()}, "cannot be read"},
@@ -331,7 +329,21 @@ TEST(Convert, BadRequestsStopWithOneLineAndAStatus) {
     EXPECT_NE(r.err.find(c.message), std::string::npos) << r.err;
     EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1) << r.err;
   }
-  for (auto o : {"o1", "o2", "o3", "o4"}) EXPECT_FALSE(fs::exists(dir / o)) << o;
+  for (auto o : {"o1", "o2", "o4"}) EXPECT_FALSE(fs::exists(dir / o)) << o;
+}
+
+TEST(Convert, AnAccess97DatabaseIsRefused) {
+  MORVANE_NEED_JET_FIXTURES();
+  TempDir dir;
+  fs::copy_file(test::JetFixtures() / "jet3-northwind-de.mdb", dir / "nw.mdb");
+  fs::create_directories(dir / "nw.src");
+  auto r = RunMorvane({"convert", (dir / "nw.mdb").string(), "-o", (dir / "o3").string()});
+  EXPECT_NE(r.status, 0);
+  EXPECT_NE(r.err.find("If the database is an Access 97 database, it must be converted"),
+            std::string::npos)
+      << r.err;
+  EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1) << r.err;
+  EXPECT_FALSE(fs::exists(dir / "o3"));
 }
 
 TEST(Convert, AnOutputDirectoryInsideTheSourceIsRefused) {
@@ -348,10 +360,11 @@ TEST(Convert, AnOutputDirectoryInsideTheSourceIsRefused) {
 TEST(List, PrintsTheCatalogInItsOrder) {
   auto r = RunMorvane({"list", kSample.string()});
   ASSERT_EQ(r.status, 0) << r.err;
-  EXPECT_EQ(r.out,
-            "Forms:\n  frmCustomers\n  frmOrders\nModules:\n  basOrders\n  basStatistics\n  clsCustomer\n"
-            "  Date Helpers\n"
-            "Reports:\nMacros:\n  AutoExec\n  mcrOrders\n");
+  EXPECT_EQ(
+      r.out,
+      "Forms:\n  frmCustomers\n  frmOrders\nModules:\n  basOrders\n  basStatistics\n  clsCustomer\n"
+      "  Date Helpers\n"
+      "Reports:\nMacros:\n  AutoExec\n  mcrOrders\n");
 }
 
 }  // namespace
@@ -361,8 +374,9 @@ namespace morvane {
 namespace {
 
 TEST(Convert, ADatabaseWithItsTreeBesideItGetsAWorkingCopy) {
+  MORVANE_NEED_JET_FIXTURES();
   test::TempDir dir;
-  const fs::path fixture = fs::path(MORVANE_FIXTURES_DIR) / "jet4-subform-events.mdb";
+  const fs::path fixture = test::JetFixtures() / "jet4-subform-events.mdb";
   fs::copy_file(fixture, dir / "Events.mdb");
   test::WriteFile(dir / "Events.src" / "modules" / "basEvents.bas",
                   test::Crlf("Attribute VB_Name = \"basEvents\"\nPublic Sub Go()\n"
@@ -385,8 +399,9 @@ TEST(Convert, ADatabaseWithItsTreeBesideItGetsAWorkingCopy) {
 }
 
 TEST(List, DetailsOfARealJet4Database) {
+  MORVANE_NEED_JET_FIXTURES();
   test::TempDir dir;
-  fs::copy_file(fs::path(MORVANE_FIXTURES_DIR) / "jet4-banco-horas.mdb", dir / "Horas.mdb");
+  fs::copy_file(test::JetFixtures() / "jet4-banco-horas.mdb", dir / "Horas.mdb");
   auto r = test::RunMorvane({"list", "--details", (dir / "Horas.mdb").string()});
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_NE(r.out.find("Tables:\n  BANCO_HORAS (7 fields)\n"), std::string::npos) << r.out;
