@@ -39,18 +39,6 @@ struct MacroActionRecord {
   std::string Action;
 };
 
-// VB's Val: the leading number of a text, 0 when there is none.
-long Val(const std::string& text) {
-  size_t i = 0;
-  while (i < text.size() && text[i] == ' ') ++i;
-  bool negative = false;
-  if (i < text.size() && (text[i] == '-' || text[i] == '+')) negative = text[i++] == '-';
-  long value = 0;
-  while (i < text.size() && text[i] >= '0' && text[i] <= '9')
-    value = value * 10 + (text[i++] - '0');
-  return negative ? -value : value;
-}
-
 std::string ReplaceAllNoCase(const std::string& text, const std::string& find,
                              const std::string& with) {
   std::string out;
@@ -131,7 +119,7 @@ void MacroWriter::ConvertActionArgument(long actionId, int index, std::string& v
   } else if (arg->ArgumentType == kTextArgument) {
     value = "\"" + DoubleQuotes(value) + "\"";
   } else if (!value.empty() && arg->LookupBase > 0) {
-    const std::string* text = tables_.FindLookup(arg->LookupBase + Val(value));
+    const std::string* text = tables_.FindLookup(static_cast<double>(arg->LookupBase) + Val(value));
     value = text ? *text : std::string();
   }
 }

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <map>
 #include <set>
 
@@ -100,6 +101,32 @@ class MacroConversion : public ::testing::Test {
   ConversionSession s_;
 };
 
+// Enumerated arguments are looked up by Val of the stored text.
+TEST(MacroVal, ReadsTheLeadingNumberAsVisualBasicDoes) {
+  const std::pair<const char*, double> cases[] = {
+      {"2", 2},
+      {" 1615 198th Street", 1615198},
+      {"\t-3.5e2x", -350},
+      {"- 4", -4},
+      {"1d2", 100},
+      {"2e", 2},
+      {".5", 0.5},
+      {"12345678901234567890", 12345678901234567890.0},
+      {"99999999999999999999999", 1e23},
+      {"&HFFFF", -1},
+      {"&H10000", 65536},
+      {"&HFFFFFFFF", -1},
+      {"&o17", 15},
+      {"&H1FFFFFFFF", 0},
+      {"abc", 0},
+      {"", 0},
+      {"-", 0},
+  };
+  for (const auto& [text, value] : cases) EXPECT_EQ(Val(text), value) << text;
+  EXPECT_TRUE(std::isinf(Val("1" + std::string(400, '0'))));
+  EXPECT_EQ(Val("1e-999"), 0);
+}
+
 TEST_F(MacroConversion, PlainMacroGivesOneFunctionWithItsErrorFrame) {
   Open({{"Close All", Comment("Close the forms") + Row("Close", {"2", "frmOrders", "0"})}});
   EXPECT_EQ(Convert(), test::Crlf("Attribute VB_Name = \"MacroCode\"\n"
@@ -194,6 +221,8 @@ TEST_F(MacroConversion, RunMacroSetValueAndExpressionArguments) {
   // An enumeration value without a row gives an empty argument.
   EXPECT_EQ(Statement(Row("Quit", {"7"})), "DoCmd.Quit");
   EXPECT_EQ(Statement(Row("Close", {"-1", "", "0"})), "DoCmd.Close , \"\"");
+  EXPECT_EQ(Statement(Row("Close", {"98765432109876543210", "frmOrders", "0"})),
+            "DoCmd.Close , \"frmOrders\"");
 }
 
 TEST_F(MacroConversion, StartupFormIsNotedAndNothingElseIsLeftBehind) {

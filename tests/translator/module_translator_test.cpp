@@ -85,13 +85,15 @@ TEST(TranslateCode, CallAddItemLinesAreNotTranslated) {
   EXPECT_EQ(t.Stats().CommentLines, 0);
 }
 
-TEST(TranslateCode, CountersStopAtTheSixteenBitLimit) {
+TEST(TranslateCode, CountersGoPastTheSixteenBitLimit) {
   Translation t;
-  t.Run(Lines(33000, ""));
+  Lines lines(40000, "");
+  lines.insert(lines.end(), 30000, "x = 1");
+  t.Run(lines);
   StatsRow stats = t.Stats();
-  EXPECT_EQ(stats.TotalLines, 32767);
-  EXPECT_EQ(stats.BlankLines, 32767);
-  EXPECT_EQ(stats.CodeLines, 32767);
+  EXPECT_EQ(stats.TotalLines, 70000);
+  EXPECT_EQ(stats.BlankLines, 40000);
+  EXPECT_EQ(stats.CodeLines, 69998);
 }
 
 TEST(DesignerGate, CopiesTheDesignerBlockOfAForm) {
