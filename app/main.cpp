@@ -15,6 +15,7 @@
 #include "forms/form_converter.h"
 #include "macros/macro_converter.h"
 #include "platform/catalog.h"
+#include "reports/report_converter.h"
 #include "session/access_link.h"
 #include "session/conversion_session.h"
 #include "session/driver.h"
@@ -223,10 +224,12 @@ int RunConvert(const Options& o, const char* argv0) {
   MacroConverterImpl macroConverter(&store);
   EventHintActions hintActions(store);
   DesignFormConverter forms(store, hintActions);
+  DesignReportConverter reports(store);
   Converters converters;
   converters.Code = &code;
   converters.Macros = &macroConverter;
   converters.Forms = &forms;
+  converters.Reports = &reports;
   RunSummary summary = StartTranslation(s, link, converters, request);
   if (!summary.Started) return 1;
 

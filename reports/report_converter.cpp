@@ -1,0 +1,83 @@
+// The driver's report converter: opens the design, runs the report writer,
+// and writes what it made.
+#include "reports/report_converter.h"
+
+#include "design/design_store.h"
+#include "platform/line_editor.h"
+#include "platform/project_model.h"
+#include "platform/support_db.h"
+#include "platform/text_file.h"
+#include "reports/report_writer.h"
+#include "session/conversion_session.h"
+#include "session/naming.h"
+
+namespace morvane {
+
+namespace {
+
+// The libraries a project with DataReports and a data environment needs.
+struct DesignerLibrary {
+  const char* guid;
+  int major;
+  int minor;
+};
+
+constexpr DesignerLibrary kDesignerLibraries[] = {
+    {"{642AC760-AAB4-11D0-8494-00A0C90DC8A9}", 1, 0},  // Data Report Designer
+    {"{6B263850-900B-11D0-9484-00A0C91110ED}", 1, 0},  // Data Formatting Object Library
+    {"{3D5C6BF0-69A3-11D0-B393-00A0C9055D8E}", 1, 0},  // Data Environment Instance
+};
+
+void Note(ConversionSession& s, const std::string& object, const std::string& text) {
+  if (s.SupportDb) s.SupportDb->AddRunNote(object, text);
+}
+
+bool Write(ConversionSession& s, const std::string& object, const std::string& file,
+           const std::string& bytes) {
+  std::string err;
+  if (WriteFileBytes(s.OutputPath + file, bytes, &err)) return true;
+  Note(s, object, "could not write " + file + (err.empty() ? "" : ": " + err));
+  return false;
+}
+
+}  // namespace
+
+std::string DesignReportConverter::ConvertReport(ConversionSession& s, const std::string& name) {
+  if (s.OptionWordLength != 11) return std::string();
+  std::string err;
+  const FormDesign* design = store_.OpenReport(name, &err);
+  if (!design) {
+    Note(s, name, err.empty() ? "the report was not written" : err);
+    return std::string();
+  }
+  ConvertedReport report = ConvertReportDesign(*design, s.SourceDb, environment_);
+  const std::string file = SafeName(name);
+  if (!Write(s, name, file + ".dsx", report.Dsx) || !Write(s, name, file + ".dsr", report.Dsr)) {
+    std::error_code ec;
+    std::filesystem::remove(s.OutputPath + file + ".dsr", ec);
+    return std::string();
+  }
+  if (s.SupportDb) {
+    for (const LogRow& row : report.Log) s.SupportDb->AddLog(row);
+    for (const ReportOutputRow& row : report.Review) s.SupportDb->AddReportOutput(row);
+    s.SupportDb->MergeStats({file, 0, 0, 0, 0, 0, 0, 0, report.Items, report.ItemsToReview, 0});
+  }
+  return report.InitCode;
+}
+
+void DesignReportConverter::WriteDataEnvironment(ConversionSession& s) {
+  std::string dsx;
+  const std::string text = environment_.Text(s.AdoConnect, &dsx);
+  if (!dsx.empty() && !Write(s, "rptEnvironment", "rptEnvironment.dsx", dsx)) return;
+  if (!Write(s, "rptEnvironment", "rptEnvironment.dsr", text)) return;
+  SilentIndent(s.OutputPath + "rptEnvironment.dsr");
+  if (!s.ActiveProject) return;
+  for (const DesignerLibrary& lib : kDesignerLibraries) {
+    bool have = false;
+    for (const ReferenceInfo& r : s.ActiveProject->References())
+      have = have || EqualsNoCase(r.Guid, lib.guid);
+    if (!have) s.ActiveProject->AddFromGuid(lib.guid, lib.major, lib.minor);
+  }
+}
+
+}  // namespace morvane
