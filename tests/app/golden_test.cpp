@@ -43,6 +43,14 @@ std::string StatsRows(SupportDatabase& db) {
   return out;
 }
 
+std::string LogRows(SupportDatabase& db) {
+  std::string out = "ErrorID\tReport\tLocation\tControlDeleted\r\n";
+  for (const auto& r : db.Log())
+    out += std::to_string(r.ErrorID) + "\t" + r.Report + "\t" + r.Location + "\t" +
+           std::to_string(r.ControlDeleted) + "\r\n";
+  return out;
+}
+
 // The first differing line, for a readable failure.
 std::string FirstDifference(const std::string& expected, const std::string& actual) {
   size_t line = 1, i = 0;
@@ -93,6 +101,7 @@ TEST(Golden, EveryCaseGivesItsExpectedFiles) {
                         fs::copy_options::overwrite_existing);
       WriteFile(expected / "tblReportOutput.tsv", ReportRows(*db));
       WriteFile(expected / "tblStats.tsv", StatsRows(*db));
+      if (!db->Log().empty()) WriteFile(expected / "tblLog.tsv", LogRows(*db));
     }
     int compared = 0;
     for (const auto& f : fs::directory_iterator(expected)) {
@@ -102,6 +111,8 @@ TEST(Golden, EveryCaseGivesItsExpectedFiles) {
         actual = ReportRows(*db);
       else if (name == "tblStats.tsv")
         actual = StatsRows(*db);
+      else if (name == "tblLog.tsv")
+        actual = LogRows(*db);
       else
         actual = ReadFile(out / "out" / name);
       const std::string want = ReadFile(f.path());
