@@ -58,6 +58,11 @@ std::string DesignReportConverter::ConvertReport(ConversionSession& s, const std
     return std::string();
   }
   if (s.SupportDb) {
+    // The log keeps the rows of other reports from earlier runs; this
+    // report's rows are those of its latest conversion.
+    const std::string quoted = "'" + ReplaceAllText(name, "'", "''") + "'";
+    const std::string module = "'" + ReplaceAllText(file, "'", "''") + "'";
+    s.SupportDb->Execute("DELETE FROM tblLog WHERE Report IN (" + quoted + ", " + module + ")");
     for (const LogRow& row : report.Log) s.SupportDb->AddLog(row);
     for (const ReportOutputRow& row : report.Review) s.SupportDb->AddReportOutput(row);
     s.SupportDb->MergeStats({file, 0, 0, 0, 0, 0, 0, 0, report.Items, report.ItemsToReview, 0});
