@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "platform/support_db.h"
+#include "support/designer_checker.h"
 #include "support/run_command.h"
 #include "support/temp_dir.h"
 #include "support/vb6_checker.h"
@@ -128,6 +129,8 @@ TEST(Golden, EveryCaseGivesItsExpectedFiles) {
           test::CheckVb6Structure(f.path().filename().string(), ReadFile(f.path()));
       EXPECT_TRUE(problems.empty()) << f.path().filename() << ": " << problems.front();
     }
+    const auto designers = test::CheckReportDesigners(out / "out");
+    EXPECT_TRUE(designers.empty()) << designers.front();
   }
   EXPECT_GT(cases, 0);
 }
