@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "platform/support_db.h"
+#include "support/designer_checker.h"
 #include "support/run_command.h"
 #include "support/temp_dir.h"
 #include "support/vb6_checker.h"
@@ -57,6 +58,9 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
                       "Module=MacroCode; MacroCode.bas",
                       "Form=frmCustomers.frm",
                       "Form=frmOrders.frm",
+                      "Designer=rptCustomerDirectory.dsr",
+                      "Designer=rptOrdersByDate.dsr",
+                      "Designer=rptEnvironment.dsr",
                       "Module=basOrders; basOrders.bas",
                       "Module=basStatistics; basStatistics.bas",
                       "Class=clsCustomer; clsCustomer.bas",
@@ -82,15 +86,19 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
     EXPECT_TRUE(problems.empty()) << e.path().filename() << ": " << problems.front();
     ++checked;
   }
-  EXPECT_EQ(checked, 9);
+  EXPECT_EQ(checked, 12);
+  // The reports bind to commands of the data environment.
+  const auto designers = test::CheckReportDesigners(dir / "out");
+  EXPECT_TRUE(designers.empty()) << designers.front();
 
   // Forms: the data control, the controls of every section and the event
   // code, with the macro of a button called in the form's context.
   const std::string customers = ReadFile(dir / "out" / "frmCustomers.frm");
   for (const char* wanted :
-       {"   Begin MSAdodcLib.Adodc datfrmCustomers\r\n", "      RecordSource = \"tblCustomers\"\r\n",
-        "   Begin VB.Frame grpgrpTerms\r\n", "      Begin VB.OptionButton grpTerms\r\n",
-        "         Index = 2\r\n", "   Begin Threed.SSCommand cmdOrders\r\n",
+       {"   Begin MSAdodcLib.Adodc datfrmCustomers\r\n",
+        "      RecordSource = \"tblCustomers\"\r\n", "   Begin VB.Frame grpgrpTerms\r\n",
+        "      Begin VB.OptionButton grpTerms\r\n", "         Index = 2\r\n",
+        "   Begin Threed.SSCommand cmdOrders\r\n",
         "   Begin VB.Timer Timer1\r\n      Left = 0\r\n      Top = 0\r\n      Interval = 60000\r\n",
         "   Begin VB.Frame Section\r\n", "      Begin VB.Line linUnderTitle\r\n",
         "      Begin VB.Label lblPrinted\r\n", "   Begin MSACAL.Calendar calNextVisit\r\n",
@@ -129,7 +137,8 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   EXPECT_NE(statistics.find("frmOrders!txtCount = DCount("), std::string::npos);
   EXPECT_NE(statistics.find("varResult = SysCmdVB(4, "), std::string::npos);
 
-  EXPECT_NE(r.out.find("Converted 6 object(s): 2 form(s)"), std::string::npos) << r.out;
+  EXPECT_NE(r.out.find("Converted 8 object(s): 2 form(s), 2 report(s)"), std::string::npos)
+      << r.out;
   EXPECT_NE(r.out.find("analysis/index.html"), std::string::npos) << r.out;
   EXPECT_EQ(r.out.find("Form conversion is not available"), std::string::npos) << r.out;
 
@@ -137,7 +146,7 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   auto db = SupportDatabase::Open(dir / "out" / "morvane.db", MORVANE_DATA_DIR, &err);
   ASSERT_TRUE(db) << err;
   auto stats = db->Stats();
-  ASSERT_EQ(stats.size(), 7u);
+  ASSERT_EQ(stats.size(), 9u);
   EXPECT_EQ(stats[0].ModuleName, "MacroCode");
   // The form rows count their controls, the section frames as one; the
   // calendar is converted in part.
@@ -146,8 +155,11 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   EXPECT_EQ(stats[1].CtlsPartiallyConverted, 1);
   EXPECT_EQ(stats[2].ModuleName, "frmOrders");
   EXPECT_EQ(stats[2].CtlCount, 7);
-  EXPECT_EQ(stats[3].ModuleName, "basOrders");
-  EXPECT_GT(stats[3].TotalLines, 50);
+  // The report rows count the controls that became items.
+  EXPECT_EQ(stats[3].ModuleName, "rptCustomerDirectory");
+  EXPECT_EQ(stats[3].CtlCount, 10);
+  EXPECT_EQ(stats[5].ModuleName, "basOrders");
+  EXPECT_GT(stats[5].TotalLines, 50);
   EXPECT_FALSE(db->ReportOutput().empty());
 }
 
@@ -189,7 +201,8 @@ TEST(Convert, FormsTheRunCannotConvertAreSaidSo) {
   fs::create_directories(dir / "src" / "forms");
   WriteFile(dir / "src" / "forms" / "frmBig.txt",
             "Version =20\nBegin Form\nBegin\nBegin Section\nHeight =3000\nName =\"Detail\"\n"
-            "Begin\n" + labels + "End\nEnd\nEnd\nEnd\n");
+            "Begin\n" +
+                labels + "End\nEnd\nEnd\nEnd\n");
   WriteFile(dir / "src" / "forms" / "frmSmall.txt",
             "Version =20\nBegin Form\nBegin\nBegin Section\nHeight =300\nName =\"Detail\"\n"
             "Begin\nBegin ListBox\nName =\"lstPick\"\nEnd\nEnd\nEnd\nEnd\nEnd\n");
@@ -254,10 +267,12 @@ TEST(Convert, AnOutputDirectoryInsideTheSourceIsRefused) {
 TEST(List, PrintsTheCatalogInItsOrder) {
   auto r = RunMorvane({"list", kSample.string()});
   ASSERT_EQ(r.status, 0) << r.err;
-  EXPECT_EQ(r.out,
-            "Forms:\n  frmCustomers\n  frmOrders\nModules:\n  basOrders\n  basStatistics\n  clsCustomer\n"
-            "  Date Helpers\n"
-            "Reports:\nMacros:\n  AutoExec\n  mcrOrders\n");
+  EXPECT_EQ(
+      r.out,
+      "Forms:\n  frmCustomers\n  frmOrders\nModules:\n  basOrders\n  basStatistics\n  clsCustomer\n"
+      "  Date Helpers\n"
+      "Reports:\n  rptCustomerDirectory\n  rptOrdersByDate\n"
+      "Macros:\n  AutoExec\n  mcrOrders\n");
 }
 
 }  // namespace
