@@ -323,53 +323,28 @@ std::optional<ReportCommand> CommandFor(const FormDesign& report, const Catalog*
   if (source.empty()) return std::nullopt;
   ReportCommand c;
   c.Name = CommandBaseName(report.Name(), source);
-  const bool select = IsStatementSource(source);
+  c.Source = source;
+  c.Statement = IsStatementSource(source);
+  c.HasLevels = !report.GroupLevels().empty();
 
-  std::string orderList;
   for (const GroupLevelDesign& level : report.GroupLevels()) {
     const std::string field = level.Text("ControlSource").value_or("");
     if (field.empty() || field.front() == '=') continue;
-    if (!orderList.empty()) orderList += ", ";
-    orderList += SortName(field) + (level.Flag("SortOrder").value_or(false) ? " DESC" : " ASC");
+    if (!c.OrderList.empty()) c.OrderList += ", ";
+    c.OrderList += SortName(field) + (level.Flag("SortOrder").value_or(false) ? " DESC" : " ASC");
     if (level.Flag("GroupHeader").value_or(false) || level.Flag("GroupFooter").value_or(false)) {
       c.Grouped = true;
       c.Groups.push_back({field, std::nullopt});
     }
   }
 
-  std::optional<QueryInfo> query;
-  if (db && !select) query = db->QueryDef(source);
-  if (select) {
+  if (c.Statement) {
     c.Parameters = StatementParameters(source);
-  } else if (query) {
-    c.Parameters = StatementParameters(query->Sql);
+  } else if (db) {
+    if (auto query = db->QueryDef(source)) c.Parameters = StatementParameters(query->Sql);
   }
-
-  if (select) {
-    // The statement as it stands, its own order giving way to the levels'.
-    std::string sql = OneLineSql(source);
-    const StatementShape shape = ShapeOf(sql);
-    if (!report.GroupLevels().empty() && !orderList.empty()) {
-      const size_t cut = std::min(shape.orderBy, shape.end);
-      sql = TrimBlanks(sql.substr(0, cut)) + " Order By " + orderList;
-    } else if (shape.end != std::string::npos) {
-      sql = TrimBlanks(sql.substr(0, shape.end));
-    }
-    c.Text = sql;
-    c.Type = 1;
-  } else if (report.GroupLevels().empty() && c.Parameters.empty()) {
-    c.Text = source;
-    c.Type = 2;
-  } else {
-    // A query with parameters is read through a statement, which passes
-    // the parameters on.
-    c.Text = "Select * From [" + source + "]";
-    if (!orderList.empty()) c.Text += " Order By " + orderList;
-    c.Type = 1;
-  }
-
   if (db) {
-    if (select) {
+    if (c.Statement) {
       c.Fields = SelectFields(*db, source);
     } else {
       c.Fields = QueryFields(*db, source);
@@ -377,7 +352,57 @@ std::optional<ReportCommand> CommandFor(const FormDesign& report, const Catalog*
     }
   }
   for (ReportCommand::Group& g : c.Groups) g.Field = FindField(c.Fields, g.Name);
+  SetCommandText(c);
   return c;
+}
+
+bool CanAddColumns(const ReportCommand& c) {
+  if (!c.Statement) return true;
+  // The statement becomes a subquery, whose own order would not hold
+  // outside it; the levels' order does.
+  const std::string sql = OneLineSql(c.Source);
+  return c.HasLevels ? !c.OrderList.empty() : ShapeOf(sql).orderBy == std::string::npos;
+}
+
+void SetCommandText(ReportCommand& c) {
+  std::string columns;
+  for (const CalculatedColumn& col : c.Columns)
+    columns += ", (" + col.Expression + ") AS [" + col.Name + "]";
+  const std::string order = c.OrderList.empty() ? "" : " Order By " + c.OrderList;
+  if (c.Statement) {
+    // The statement as it stands, its own order giving way to the levels'.
+    std::string sql = OneLineSql(c.Source);
+    const StatementShape shape = ShapeOf(sql);
+    if (c.Columns.empty()) {
+      if (c.HasLevels && !c.OrderList.empty()) {
+        sql = TrimBlanks(sql.substr(0, std::min(shape.orderBy, shape.end))) + order;
+      } else if (shape.end != std::string::npos) {
+        sql = TrimBlanks(sql.substr(0, shape.end));
+      }
+    } else {
+      // Calculated columns over the statement as a subquery; a PARAMETERS
+      // clause stays in front of the whole.
+      std::string head;
+      if (StartsWithNoCase(sql, "PARAMETERS")) {
+        const size_t semicolon = sql.find(';');
+        head = TrimBlanks(sql.substr(0, semicolon + 1)) + " ";
+        sql = TrimBlanks(sql.substr(semicolon + 1));
+      }
+      const StatementShape inner = ShapeOf(sql);
+      sql = head + "Select q.*" + columns + " From (" +
+            TrimBlanks(sql.substr(0, std::min(inner.orderBy, inner.end))) + ") AS q" + order;
+    }
+    c.Text = sql;
+    c.Type = 1;
+  } else if (!c.HasLevels && c.Parameters.empty() && c.Columns.empty()) {
+    c.Text = c.Source;
+    c.Type = 2;
+  } else {
+    // A query with parameters is read through a statement, which passes
+    // the parameters on.
+    c.Text = "Select *" + columns + " From [" + c.Source + "]" + order;
+    c.Type = 1;
+  }
 }
 
 ReportCommand DataEnvironment::Add(ReportCommand command) {

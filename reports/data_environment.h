@@ -23,6 +23,13 @@ struct CommandParameter {
   int DaoType = kDbText;  // declared in PARAMETERS; text otherwise
 };
 
+// A text box's expression computed by the command, so that an item can
+// show it as a field.
+struct CalculatedColumn {
+  std::string Name;        // the field's name
+  std::string Expression;  // Access's expression, without its "="
+};
+
 struct ReportCommand {
   struct Group {
     std::string Name;                // the group level's ControlSource
@@ -36,6 +43,13 @@ struct ReportCommand {
   std::optional<std::vector<FieldInfo>> Fields;  // nullopt: not known
   std::vector<Group> Groups;
   std::vector<CommandParameter> Parameters;
+  std::vector<CalculatedColumn> Columns;
+
+  // What the text is made of.
+  std::string Source;      // the report's RecordSource
+  bool Statement = false;  // the source is a statement
+  bool HasLevels = false;  // the report has group levels
+  std::string OrderList;   // the levels' sorting
 
   std::string GroupingName() const { return Name + "_Grouping"; }
   // The member a report or an item binds to: the grouping in a group header
@@ -54,6 +68,13 @@ std::optional<ReportCommand> CommandFor(const FormDesign& report, const Catalog*
 // query: it begins with SELECT, PARAMETERS or TRANSFORM and a blank or line
 // break.
 bool IsStatementSource(std::string_view source);
+
+// Makes the command's text and type from its source, its levels' order and
+// its calculated columns.
+void SetCommandText(ReportCommand& c);
+// Whether calculated columns can be added to the command: a statement with
+// an order of its own and no levels to order by keeps its text.
+bool CanAddColumns(const ReportCommand& c);
 
 // The name a command takes from a record source: the report's own name for
 // a SELECT statement, the source's otherwise, made a Visual Basic name.

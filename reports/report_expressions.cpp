@@ -66,7 +66,75 @@ constexpr std::string_view kAccessOnlyFunctions[] = {
     "DCount", "DMin", "DMax",  "DFirst", "DLast",   "Nz",    "Eval",
 };
 
+// Functions of Access's expressions that Jet computes for any program.
+constexpr std::string_view kJetFunctions[] = {
+    "IIf",      "Format",   "Left",       "Right",      "Mid",       "Len",       "Trim",
+    "LTrim",    "RTrim",    "UCase",      "LCase",      "InStr",     "Space",     "String",
+    "Chr",      "Asc",      "Str",        "Val",        "CStr",      "CLng",      "CInt",
+    "CDbl",     "CSng",     "CCur",       "CDate",      "CBool",     "Int",       "Fix",
+    "Round",    "Abs",      "Sgn",        "IsNull",     "IsNumeric", "IsDate",    "Year",
+    "Month",    "Day",      "Hour",       "Minute",     "Second",    "Weekday",   "DateAdd",
+    "DateDiff", "DatePart", "DateSerial", "TimeSerial", "DateValue", "TimeValue", "Switch",
+};
+
+// Words of an expression that name no field.
+constexpr std::string_view kOperatorWords[] = {"And", "Or",   "Not",  "Xor",   "Mod",    "Like",
+                                               "Is",  "Null", "True", "False", "Between"};
+
+bool Listed(std::string_view word, const std::string_view* list, size_t n) {
+  for (size_t i = 0; i < n; ++i)
+    if (EqualsNoCase(word, list[i])) return true;
+  return false;
+}
+
 }  // namespace
+
+std::optional<std::string> JetColumnExpression(std::string_view source,
+                                               const std::vector<std::string>& fields) {
+  const std::string body = Trimmed(Body(source));
+  if (body.empty()) return std::nullopt;
+  auto isField = [&fields](std::string_view name) {
+    for (const std::string& f : fields)
+      if (EqualsNoCase(f, name)) return true;
+    return false;
+  };
+  for (size_t i = 0; i < body.size();) {
+    const char ch = body[i];
+    if (ch == '"' || ch == '\'' || ch == '#') {
+      const size_t close = body.find(ch, i + 1);
+      if (close == std::string::npos) return std::nullopt;
+      i = close + 1;
+    } else if (ch == '[') {
+      const size_t close = body.find(']', i);
+      if (close == std::string::npos || !isField(body.substr(i + 1, close - i - 1)))
+        return std::nullopt;
+      i = close + 1;
+      // A name behind "!" or "." reads a form, report or table member.
+      if (i < body.size() && (body[i] == '!' || body[i] == '.')) return std::nullopt;
+    } else if (std::isdigit(static_cast<unsigned char>(ch))) {
+      while (i < body.size() &&
+             (std::isalnum(static_cast<unsigned char>(body[i])) || body[i] == '.'))
+        ++i;
+    } else if (IsNameChar(ch)) {
+      size_t end = i;
+      while (end < body.size() && IsNameChar(body[end])) ++end;
+      const std::string word = body.substr(i, end - i);
+      size_t next = end;
+      while (next < body.size() && body[next] == ' ') ++next;
+      const bool call = next < body.size() && body[next] == '(';
+      if (call ? !Listed(word, kJetFunctions, std::size(kJetFunctions))
+               : !(isField(word) || Listed(word, kOperatorWords, std::size(kOperatorWords))))
+        return std::nullopt;
+      if (end < body.size() && (body[end] == '!' || body[end] == '.')) return std::nullopt;
+      i = end;
+    } else if (ch == '!') {
+      return std::nullopt;
+    } else {
+      ++i;
+    }
+  }
+  return body;
+}
 
 bool HasPageOrDateField(std::string_view source) {
   for (std::string_view mark : kPageDateMarks)

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace morvane {
 
@@ -40,6 +41,13 @@ std::optional<AggregateItem> Aggregate(std::string_view source);
 // The text of an expression made only of quoted strings and numbers joined
 // by "&" ("=\"***\"", "=1"); nullopt for any other.
 std::optional<std::string> ConstantText(std::string_view source);
+
+// The expression behind the "=" when the database can compute it as a
+// column of the report's records: every name it reads is one of `fields`
+// (in brackets or as a plain word), and every function is one that Jet
+// runs outside Access too. nullopt otherwise.
+std::optional<std::string> JetColumnExpression(std::string_view source,
+                                               const std::vector<std::string>& fields);
 
 // Whether an expression (without its "=") can run as Visual Basic code as
 // it stands: it names no field or control in brackets or behind "!", and no

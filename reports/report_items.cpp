@@ -213,6 +213,16 @@ bool TextBoxItem(ReportState& st, const ControlDesign& c) {
       st.ItemText += t;
       return true;
     }
+    // A calculated field of the detail is a column of the command.
+    if (auto column = st.Calculated.find(&c); column != st.Calculated.end()) {
+      OpenItem(t, st, kItemTextBox);
+      AddLine(t, "DataMember =" + Quoted(st.Command->Name));
+      AddLine(t, "DataField =" + Quoted(column->second));
+      TextBoxTail(t, c, st.UniqueName(c.Name(), "txt"));
+      st.ItemText += t;
+      st.Review(c.Name() + " " + src, "DataField =" + Quoted(column->second));
+      return true;
+    }
     // Functions stand in the report header, report footer and group footers.
     if (section == 0 || section == 4 || (section % 2 == 1 && section != 1)) {
       st.Log(kReportFunctionSection, c.Name());
@@ -338,6 +348,34 @@ bool BoundFieldItem(ReportState& st, const ControlDesign& c, bool checkBox) {
 }
 
 }  // namespace
+
+void AddCalculatedColumns(ReportState& st, const FormDesign& report, ReportCommand& command) {
+  const SectionDesign* detail = report.Section(0);
+  if (!detail || !command.Fields || !CanAddColumns(command)) return;
+  std::vector<std::string> names;
+  for (const FieldInfo& f : *command.Fields) names.push_back(f.Name);
+  const size_t fieldCount = names.size();
+  for (const ControlDesign& c : detail->Controls()) {
+    if (c.ControlType() != kTextBox) continue;
+    const std::string src = ControlSourceOf(c);
+    if (src.empty() || src.front() != '=' || HasPageOrDateField(src) || ConstantText(src)) continue;
+    // Only the table's own fields count, not the columns added before.
+    auto expression = JetColumnExpression(
+        src, std::vector<std::string>(names.begin(), names.begin() + fieldCount));
+    if (!expression) continue;
+    std::string name = "Calc_" + SafeName(c.Name());
+    for (int n = 2;
+         std::find_if(names.begin(), names.end(),
+                      [&](const std::string& x) { return EqualsNoCase(x, name); }) != names.end();
+         ++n)
+      name = "Calc_" + SafeName(c.Name()) + std::to_string(n);
+    names.push_back(name);
+    command.Columns.push_back({name, *expression});
+    command.Fields->push_back({name, kDbText, 255});
+    st.Calculated[&c] = name;
+  }
+  if (!command.Columns.empty()) SetCommandText(command);
+}
 
 std::string ReportState::UniqueName(const std::string& name, const std::string& prefix) {
   std::string base = SafeName(name);

@@ -5,6 +5,7 @@
 // calls WriteItem for each control of a section.
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -26,6 +27,9 @@ struct ReportState {
   std::string ItemText;                // their blocks, each line ended by CR LF
   std::vector<std::string> UsedNames;  // lower case, items and sections
   std::vector<std::string> InitLines;
+  // Calculated text boxes whose expression the command computes, with the
+  // name of the column.
+  std::map<const ControlDesign*, std::string> Calculated;
   ConvertedReport* Out = nullptr;
 
   // A name for the designer: SafeName of `name`, beginning with a letter
@@ -36,6 +40,10 @@ struct ReportState {
   // A row asking the user to review what an item became.
   void Review(const std::string& codeLine, const std::string& translated);
 };
+
+// Gives the command a column for each calculated text box of the detail
+// section that the database can compute, and notes them in the state.
+void AddCalculatedColumns(ReportState& st, const FormDesign& report, ReportCommand& command);
 
 // Writes the item of control `c` (of Access section `section`) into the
 // state's item text and counts it, or leaves it out with a tblLog row.

@@ -135,7 +135,10 @@ ConvertedReport ConvertReportDesign(const FormDesign& report, const Catalog* db,
   ReportState st;
   st.Report = &report;
   st.Out = &out;
-  if (auto command = CommandFor(report, db)) st.Command = environment.Add(std::move(*command));
+  if (auto command = CommandFor(report, db)) {
+    AddCalculatedColumns(st, report, *command);
+    st.Command = environment.Add(std::move(*command));
+  }
 
   AddParameterCode(st);
 

@@ -118,10 +118,11 @@ TEST(DataEnvironment, ParametersAreDeclaredOrReadFromForms) {
 
 TEST(DataEnvironment, EqualCommandsAreSharedAndOthersNumbered) {
   DataEnvironment env;
-  ReportCommand plain{"tblOrders", "tblOrders", 2, false, std::nullopt, {}, {}};
-  ReportCommand sorted{
-      "tblOrders", "Select * From [tblOrders] Order By OrderDate ASC", 1, false, std::nullopt, {},
-      {}};
+  ReportCommand plain;
+  plain.Name = plain.Text = "tblOrders";
+  ReportCommand sorted = plain;
+  sorted.Text = "Select * From [tblOrders] Order By OrderDate ASC";
+  sorted.Type = 1;
   EXPECT_EQ(env.Add(plain).Name, "tblOrders");
   EXPECT_EQ(env.Add(sorted).Name, "tblOrders2");
   EXPECT_EQ(env.Add(plain).Name, "tblOrders");
