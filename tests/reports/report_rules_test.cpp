@@ -99,6 +99,17 @@ TEST(ReportExpressions, ConstantsAndPlainVisualBasic) {
   EXPECT_FALSE(IsPlainVbExpression("Nz(x, 0)"));
   EXPECT_FALSE(IsPlainVbExpression("DLookup (\"a\", \"b\")"));
   EXPECT_FALSE(IsPlainVbExpression("Forms!frmMain!txtName"));
+
+  // The database computes an expression over the source's own fields.
+  const std::vector<std::string> fields = {"Qty", "Unit Price", "Name"};
+  EXPECT_EQ(JetColumnExpression("=[Qty]*[Unit Price]", fields), "[Qty]*[Unit Price]");
+  EXPECT_EQ(JetColumnExpression("=IIf(IsNull(Name),'-',UCase(Name))", fields),
+            "IIf(IsNull(Name),'-',UCase(Name))");
+  EXPECT_FALSE(JetColumnExpression("=[txtTotal]*1.2", fields));        // a control
+  EXPECT_FALSE(JetColumnExpression("=[Forms]![frmA]![Qty]", fields));  // a form
+  EXPECT_FALSE(JetColumnExpression("=Nz([Qty],0)", fields));           // Access's own
+  EXPECT_FALSE(JetColumnExpression("=fTaxOf([Qty])", fields));         // the user's
+  EXPECT_FALSE(JetColumnExpression("=[Name].[Column](1)", fields));
 }
 
 TEST(DataEnvironment, ParametersAreDeclaredOrReadFromForms) {
