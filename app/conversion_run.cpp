@@ -5,6 +5,7 @@
 #include "events/event_writer.h"
 #include "forms/form_converter.h"
 #include "macros/macro_converter.h"
+#include "reports/report_converter.h"
 #include "session/naming.h"
 #include "session/strings.h"
 #include "session/user_interface.h"
@@ -49,9 +50,11 @@ bool ConversionRun::Open(const SourceChoice& source, std::string* err) {
   macros_ = std::make_unique<MacroConverterImpl>(store_.get());
   hints_ = std::make_unique<EventHintActions>(*store_);
   forms_ = std::make_unique<DesignFormConverter>(*store_, *hints_);
+  reports_ = std::make_unique<DesignReportConverter>(*store_);
   converters_.Code = code_.get();
   converters_.Macros = macros_.get();
   converters_.Forms = forms_.get();
+  converters_.Reports = reports_.get();
   return true;
 }
 

@@ -23,6 +23,7 @@ class TranslatorCodeConverter;
 class MacroConverterImpl;
 class EventHintActions;
 class DesignFormConverter;
+class DesignReportConverter;
 
 // What the user selects: the objects of each kind; all of every kind when
 // none is named.
@@ -74,6 +75,7 @@ class ConversionRun {
   std::unique_ptr<MacroConverterImpl> macros_;
   std::unique_ptr<EventHintActions> hints_;
   std::unique_ptr<DesignFormConverter> forms_;
+  std::unique_ptr<DesignReportConverter> reports_;
   Converters converters_;
 };
 

@@ -88,10 +88,11 @@ void PutBytes(std::string& out, const unsigned char (&bytes)[n]) {
 }
 
 // The prefix of a record whose payload the prefix gives as `n` bytes; a
-// .dsx names the picture's class as well.
+// .dsx names the picture's class as well. The first field counts the bytes
+// that follow it, the class included, as Visual Basic's designers read it.
 std::string RecordPrefix(uint32_t n, bool dsx) {
   std::string out;
-  PutLong(out, n + 8);
+  PutLong(out, n + 8 + (dsx ? sizeof kPictureClass : 0));
   if (dsx) PutBytes(out, kPictureClass);
   PutBytes(out, kPictureMark);
   PutLong(out, n);
@@ -162,15 +163,30 @@ std::optional<std::string> PictureBytes(FormWriter& w, const std::string& name,
   return control->Bytes("PictureData");
 }
 
+}  // namespace
+
+std::optional<std::string> PictureRecord(const std::string& data, bool dsx) {
+  if (!PictureFitsLimit(data)) return std::nullopt;
+  const PictureKind kind = ProbePictureType(data);
+  switch (kind) {
+    case PictureKind::None:
+      return std::nullopt;
+    case PictureKind::Bitmap:
+      return BitmapRecord(data, dsx);
+    case PictureKind::Metafile:
+    case PictureKind::EnhancedMetafile:
+      return MetafileRecord(data, kind, dsx);
+  }
+  return std::nullopt;
+}
+
 // Upper-case hexadecimal, at least four digits; an offset past 65535 keeps
 // all its digits, as the bindings records of the same file do.
-std::string OffsetText(std::uintmax_t offset) {
+std::string PictureOffsetText(std::uintmax_t offset) {
   char buf[24];
   std::snprintf(buf, sizeof buf, "%04jX", offset);
   return buf;
 }
-
-}  // namespace
 
 std::string ExtractPicture(FormWriter& w, const std::string& holder, const std::string& controlName,
                            bool isReport) {
@@ -186,23 +202,11 @@ std::string ExtractPicture(FormWriter& w, const std::string& holder, const std::
   std::string& target = s.Form().Binary;
   const std::uintmax_t offset = target.size();
 
-  const PictureKind kind = ProbePictureType(*data);
-  std::optional<std::string> record;
-  switch (kind) {
-    case PictureKind::None:
-      return std::string();
-    case PictureKind::Bitmap:
-      record = BitmapRecord(*data, isReport);
-      break;
-    case PictureKind::Metafile:
-    case PictureKind::EnhancedMetafile:
-      record = MetafileRecord(*data, kind, isReport);
-      break;
-  }
+  std::optional<std::string> record = PictureRecord(*data, isReport);
   if (!record) return std::string();
   target += *record;
   if (s.SupportDb) s.SupportDb->ClearStagedPicture();
-  w.Text().PictureReference = OffsetText(offset);
+  w.Text().PictureReference = PictureOffsetText(offset);
   return w.Text().PictureReference;
 }
 

@@ -262,6 +262,13 @@ constexpr KnownReference kKnownReferences[] = {
     {"{4AFFC9A0-5F99-101B-AF4E-00AA003F0F07}",
      "C:\\Program Files\\Microsoft Office\\Office\\MSACC9.OLB",
      "Microsoft Access 9.0 Object Library"},
+    {"{642AC760-AAB4-11D0-8494-00A0C90DC8A9}", "C:\\WINDOWS\\System32\\MSDBRPTR.DLL",
+     "Microsoft Data Report Designer 6.0"},
+    {"{6B263850-900B-11D0-9484-00A0C91110ED}", "C:\\WINDOWS\\System32\\MSSTDFMT.DLL",
+     "Microsoft Data Formatting Object Library 6.0"},
+    {"{3D5C6BF0-69A3-11D0-B393-00A0C9055D8E}",
+     "C:\\Program Files\\Common Files\\Designer\\MSDERUN.DLL",
+     "Microsoft Data Environment Instance 1.0"},
 };
 
 std::string HexVersion(int major, int minor) {

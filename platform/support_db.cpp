@@ -261,6 +261,15 @@ std::optional<FieldRow> SupportDatabase::FindField(const std::string& fieldName)
   return FieldRow{st.Text(0), static_cast<int>(st.Int(1)), st.Text(2)};
 }
 
+bool SupportDatabase::ClearLogOf(const std::vector<std::string>& reports) {
+  bool ok = true;
+  for (const auto& report : reports) {
+    Statement st(db_, "DELETE FROM tblLog WHERE Report = ?");
+    ok = st.Bind(1, report).Run() && ok;
+  }
+  return ok;
+}
+
 int SupportDatabase::LastErrorCode() const { return db_ ? sqlite3_extended_errcode(db_) : -1; }
 
 bool SupportDatabase::StagePicture(const std::string& bytes) {

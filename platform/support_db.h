@@ -109,6 +109,8 @@ class SupportDatabase {
   // Finds the row by ModuleName; writes each count only when it is not 0.
   bool MergeStats(const StatsRow& row);
   bool AddLog(const LogRow& row);
+  // Forgets the log rows of a report, under each of its names.
+  bool ClearLogOf(const std::vector<std::string>& reports);
 
   // Rows of a table of the schema; -1 when the table cannot be read.
   int CountRows(const std::string& table) const;

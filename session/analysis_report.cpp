@@ -34,6 +34,22 @@ constexpr Reason kReasons[] = {
     {13, "Control type that cannot be converted"},
 };
 
+// What each tblLog error of a report says.
+constexpr Reason kLogErrors[] = {
+    {1, "Control of a type a DataReport cannot hold; left out"},
+    {2, "Calculated text box in a section that cannot hold a function; left out"},
+    {3, "Calculated text box whose function a DataReport lacks; left out"},
+    {4, "Subreport; not converted (the location is its source object)"},
+    {5, "Check box or bound object frame without a field; left out"},
+    {6, "Report procedure; review"},
+};
+
+const char* LogText(long errorId) {
+  for (const auto& r : kLogErrors)
+    if (r.id == errorId) return r.text;
+  return "";
+}
+
 // HTML text from Windows-1252 bytes: markup characters escaped, the page
 // declares its encoding.
 std::string Html(const std::string& text) {
@@ -129,7 +145,8 @@ std::string WriteAnalysisReport(ConversionSession& s, const RunSummary& summary)
   if (!log.empty()) {
     out.push_back("<h2>Log</h2><table><tr><th>Error</th><th>Report</th><th>Location</th></tr>");
     for (const auto& r : log)
-      out.push_back("<tr>" + Cell(r.ErrorID) + Cell(r.Report) + Cell(r.Location) + "</tr>");
+      out.push_back("<tr><td>" + std::to_string(r.ErrorID) + " " + Html(LogText(r.ErrorID)) +
+                    "</td>" + Cell(r.Report) + Cell(r.Location) + "</tr>");
     out.push_back("</table>");
   }
   out.push_back("</body></html>");

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "platform/support_db.h"
+#include "support/designer_checker.h"
 #include "support/fixtures.h"
 #include "support/run_command.h"
 #include "support/temp_dir.h"
@@ -58,6 +59,9 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
                       "Module=MacroCode; MacroCode.bas",
                       "Form=frmCustomers.frm",
                       "Form=frmOrders.frm",
+                      "Designer=rptCustomerDirectory.dsr",
+                      "Designer=rptOrdersByDate.dsr",
+                      "Designer=rptEnvironment.dsr",
                       "Module=basOrders; basOrders.bas",
                       "Module=basStatistics; basStatistics.bas",
                       "Class=clsCustomer; clsCustomer.bas",
@@ -83,7 +87,10 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
     EXPECT_TRUE(problems.empty()) << e.path().filename() << ": " << problems.front();
     ++checked;
   }
-  EXPECT_EQ(checked, 9);
+  EXPECT_EQ(checked, 12);
+  // The reports bind to commands of the data environment.
+  const auto designers = test::CheckReportDesigners(dir / "out");
+  EXPECT_TRUE(designers.empty()) << designers.front();
 
   // Forms: the data control, the controls of every section and the event
   // code, with the macro of a button called in the form's context.
@@ -131,7 +138,8 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   EXPECT_NE(statistics.find("frmOrders!txtCount = DCount("), std::string::npos);
   EXPECT_NE(statistics.find("varResult = SysCmdVB(4, "), std::string::npos);
 
-  EXPECT_NE(r.out.find("Converted 6 object(s): 2 form(s)"), std::string::npos) << r.out;
+  EXPECT_NE(r.out.find("Converted 8 object(s): 2 form(s), 2 report(s)"), std::string::npos)
+      << r.out;
   EXPECT_NE(r.out.find("analysis/index.html"), std::string::npos) << r.out;
   EXPECT_EQ(r.out.find("Form conversion is not available"), std::string::npos) << r.out;
 
@@ -139,7 +147,7 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   auto db = SupportDatabase::Open(dir / "out" / "morvane.db", MORVANE_DATA_DIR, &err);
   ASSERT_TRUE(db) << err;
   auto stats = db->Stats();
-  ASSERT_EQ(stats.size(), 7u);
+  ASSERT_EQ(stats.size(), 9u);
   EXPECT_EQ(stats[0].ModuleName, "MacroCode");
   // The form rows count their controls, the section frames as one; the
   // calendar is converted in part.
@@ -148,8 +156,11 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   EXPECT_EQ(stats[1].CtlsPartiallyConverted, 1);
   EXPECT_EQ(stats[2].ModuleName, "frmOrders");
   EXPECT_EQ(stats[2].CtlCount, 7);
-  EXPECT_EQ(stats[3].ModuleName, "basOrders");
-  EXPECT_GT(stats[3].TotalLines, 50);
+  // The report rows count the controls that became items.
+  EXPECT_EQ(stats[3].ModuleName, "rptCustomerDirectory");
+  EXPECT_EQ(stats[3].CtlCount, 10);
+  EXPECT_EQ(stats[5].ModuleName, "basOrders");
+  EXPECT_GT(stats[5].TotalLines, 50);
   EXPECT_FALSE(db->ReportOutput().empty());
 }
 
@@ -364,7 +375,8 @@ TEST(List, PrintsTheCatalogInItsOrder) {
       r.out,
       "Forms:\n  frmCustomers\n  frmOrders\nModules:\n  basOrders\n  basStatistics\n  clsCustomer\n"
       "  Date Helpers\n"
-      "Reports:\nMacros:\n  AutoExec\n  mcrOrders\n");
+      "Reports:\n  rptCustomerDirectory\n  rptOrdersByDate\n"
+      "Macros:\n  AutoExec\n  mcrOrders\n");
 }
 
 }  // namespace

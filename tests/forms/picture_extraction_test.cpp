@@ -144,7 +144,9 @@ TEST_F(PictureExtraction, ReportPictureInTheDsxNamesItsClass) {
   EXPECT_EQ(ExtractPicture(w_, "rptLogo", "", true), "0000");
   const std::string dsx = Frx();
   ASSERT_EQ(dsx.size(), 142u);
-  EXPECT_EQ(LongAt(dsx, 0), 122u);
+  // The first field counts every byte behind it, the class included: the
+  // length Visual Basic's report designer reads.
+  EXPECT_EQ(LongAt(dsx, 0), 138u);
   EXPECT_EQ(dsx.substr(4, 16), Bytes({0x04, 0x52, 0xE3, 0x0B, 0x91, 0x8F, 0xCE, 0x11, 0x9D, 0xE3,
                                       0x00, 0xAA, 0x00, 0x4B, 0xB8, 0x51}));
   EXPECT_EQ(dsx.substr(20, 4), kMark);
