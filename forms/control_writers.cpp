@@ -128,7 +128,7 @@ void WriteImage(FormWriter& w) {
   std::string text;
   AddLine(text, "Begin VB.PictureBox " + s.Form().CurrentControlName);
   AddFontLines(text, c);
-  AddLine(text, "Height = ", Sum(c.Number("Height"), w.Text().SectionOffset));
+  AddLine(text, "Height = ", Sum(c.Number("Height"), w.Text().Place.SectionOffset));
   AddLine(text, "Left = ", w.ControlLeft(c));
   AddLine(text, "ScaleHeight = 6180");
   AddLine(text, "ScaleWidth = 7410");

@@ -75,8 +75,8 @@ void AddLabelLines(std::string& text, const ControlDesign* label, const std::str
 }
 
 long BreakTop(const FormTextSet& t) {
-  if (t.PageIndex < 0 || static_cast<size_t>(t.PageIndex) >= t.PageBreakTops.size()) return 0;
-  return t.PageBreakTops[static_cast<size_t>(t.PageIndex)];
+  if (t.Place.PageIndex < 0 || static_cast<size_t>(t.Place.PageIndex) >= t.Place.PageBreakTops.size()) return 0;
+  return t.Place.PageBreakTops[static_cast<size_t>(t.Place.PageIndex)];
 }
 
 // The position of a member inside its group's frame.
@@ -89,8 +89,8 @@ MemberPlace PlaceInGroup(const FormTextSet& t, const ControlDesign& group, const
   MemberPlace place;
   auto left = k.Number("Left"), groupLeft = group.Number("Left");
   auto top = k.Number("Top"), groupTop = group.Number("Top");
-  if (left && groupLeft) place.Left = *left - *groupLeft + t.SubformLeft + 50;
-  if (top && groupTop) place.Top = *top - *groupTop + 150 + t.SubformTop - BreakTop(t);
+  if (left && groupLeft) place.Left = *left - *groupLeft + t.Place.SubformLeft + 50;
+  if (top && groupTop) place.Top = *top - *groupTop + 150 + t.Place.SubformTop - BreakTop(t);
   return place;
 }
 
@@ -187,15 +187,15 @@ class GroupMembers {
     auto left = k.Number("Left"), groupLeft = group_.Number("Left");
     if (left && groupLeft)
       AddLine(text_,
-              "Left = " + std::to_string(*left - *groupLeft + t_.SubformLeft + t_.PageLeft + 50));
+              "Left = " + std::to_string(*left - *groupLeft + t_.Place.SubformLeft + t_.Place.PageLeft + 50));
     AddLine(text_, "Index = " + std::to_string(n_));
     AddLine(text_, "TabIndex = 94");
     const long o =
-        (group_.Section() == 0 || t_.InSubform || t_.InTabControl) ? t_.SectionOffset : 0;
+        (group_.Section() == 0 || t_.InSubform || t_.InTabControl) ? t_.Place.SectionOffset : 0;
     auto top = k.Number("Top"), groupTop = group_.Number("Top");
     if (top && groupTop)
       AddLine(text_,
-              "Top = " + std::to_string(*top - *groupTop + o + 150 + t_.SubformTop - t_.TabShift));
+              "Top = " + std::to_string(*top - *groupTop + o + 150 + t_.Place.SubformTop - t_.Place.TabShift));
     AddVisibleLine(text_, k);
   }
 

@@ -118,17 +118,17 @@ void WriteFormDataControl(FormWriter& w) {
   const int type = form->Number("RecordsetType") == 2 ? 2 : 1;
   const std::string source = EscapeQuotes(JoinLines(recordSource));
   // On a page-broken form the client area is the first page's height.
-  long top = t.Total - 330;
-  if (t.PageBreakTops.size() > 1) {
+  long top = t.Place.Total - 330;
+  if (t.Place.PageBreakTops.size() > 1) {
     const SectionDesign* detail = form->Section(0);
     const long detailHeight = detail ? detail->Number("Height").value_or(0) : 0;
-    top = t.Total - detailHeight + t.PageBreakTops[1] + 520 - 330;
+    top = t.Place.Total - detailHeight + t.Place.PageBreakTops[1] + 520 - 330;
   }
   const bool visible = t.InSubform || form->Flag("NavigationButtons").value_or(true);
   std::string text =
       s.Options.UseAdo
-          ? WriteAdoDataControl(w, name, t.SubformLeft, type, source, top, visible, formName)
-          : WriteDataControl(w, name, t.SubformLeft, type, source, top, visible, formName);
+          ? WriteAdoDataControl(w, name, t.Place.SubformLeft, type, source, top, visible, formName)
+          : WriteDataControl(w, name, t.Place.SubformLeft, type, source, top, visible, formName);
   // The control's text ends with its line end; the next control brings its own.
   if (text.ends_with("\r\n")) text.resize(text.size() - 2);
   t.BodyText += "\r\n" + text;
@@ -160,7 +160,7 @@ std::string WriteDataControl(FormWriter& w, const std::string& name, long left, 
                     DatabaseFileName(s) + "\"");
   AddLine(text, "Exclusive = 0");
   AddLine(text, "Height = 300");
-  AddLine(text, "Left = " + std::to_string(left + w.Text().PageLeft));
+  AddLine(text, "Left = " + std::to_string(left + w.Text().Place.PageLeft));
   AddLine(text, "Options = 0");
   AddLine(text, "ReadOnly = " + std::to_string(type - 1));
   AddLine(text, "RecordsetType = " + std::to_string(type));
@@ -191,7 +191,7 @@ std::string WriteAdoDataControl(FormWriter& w, const std::string& name, long lef
   std::string text;
   AddLine(text, "Begin MSAdodcLib.Adodc " + dat);
   AddLine(text, "Height = 300");
-  AddLine(text, "Left = " + std::to_string(left + w.Text().PageLeft));
+  AddLine(text, "Left = " + std::to_string(left + w.Text().Place.PageLeft));
   AddLine(text, "Top = " + std::to_string(top));
   if (visible) {
     AddLine(text, "Width = 2700");

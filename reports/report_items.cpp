@@ -19,13 +19,6 @@ namespace morvane {
 
 namespace {
 
-// Access's control types that become items.
-constexpr int kRectangle = 101;
-constexpr int kLine = 102;
-constexpr int kImage = 103;
-constexpr int kBoundObjectFrame = 108;
-constexpr int kTextBox = 109;
-
 // DataReport item types.
 enum ItemType : int {
   kItemLabel = 3,

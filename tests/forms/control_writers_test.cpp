@@ -196,7 +196,7 @@ Begin Line
 End
 )"));
   Stand("linSlant");
-  w_.Text().SubformLeft = 10;
+  w_.Text().Place.SubformLeft = 10;
   WriteLineControl(w_);
   EXPECT_EQ(Written(), Lines(R"(Begin VB.Line linSlant
 BorderColor =  &HFF&
@@ -783,8 +783,8 @@ End
 )"));
   FormTextSet& t = w_.Text();
   Stand("1 st");
-  t.SubformLeft = 1000;
-  t.SubformTop = 2000;
+  t.Place.SubformLeft = 1000;
+  t.Place.SubformTop = 2000;
   t.InSubform = true;
   WriteLabel(w_);
   const std::string label = Written();

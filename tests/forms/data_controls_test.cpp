@@ -48,7 +48,7 @@ Begin Form
 End
 )txt";
   Enter("Orders", "Orders");
-  w_.Text().Total = 2500;
+  w_.Text().Place.Total = 2500;
   w_.Text().BodyText = "Begin VB.Form Orders";
   WriteFormDataControl(w_);
 
@@ -131,7 +131,7 @@ End
   s_.Options.UseAdo = false;
   s_.Options.RelativePaths = false;
   Enter("Order List", "Order List");
-  w_.Text().Total = 2000;
+  w_.Text().Place.Total = 2000;
   WriteFormDataControl(w_);
 
   EXPECT_EQ(w_.Text().BodyText, Crlf(R"(
@@ -245,8 +245,8 @@ TEST_F(DataControlsTest, SubformDataControlIsDrivenByTheParentsOne) {
   Enter("frmLines", "Main");
   FormTextSet& t = w_.Text();
   t.CurrentControl = main->Control("subLines");
-  t.SubformLeft = 500;
-  t.Total = 1200;
+  t.Place.SubformLeft = 500;
+  t.Place.Total = 1200;
   WriteFormDataControl(w_);
 
   const std::string text = t.BodyText;
@@ -292,8 +292,8 @@ Begin Form
 End
 )txt";
   Enter("frmPaged", "frmPaged");
-  w_.Text().Total = 4000;
-  w_.Text().PageBreakTops = {0, 1200};
+  w_.Text().Place.Total = 4000;
+  w_.Text().Place.PageBreakTops = {0, 1200};
   WriteFormDataControl(w_);
   // 4000 - 3000 + 1200 + 520 - 330
   EXPECT_TRUE(HasLine(w_.Text().BodyText.substr(2), "Top = 2390"));

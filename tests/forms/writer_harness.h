@@ -117,8 +117,8 @@ class WriterHarness : public ::testing::Test {
     EXPECT_NE(t.CurrentForm, nullptr) << err;
     t.CurrentControl = t.CurrentForm ? t.CurrentForm->Control(control) : nullptr;
     EXPECT_NE(t.CurrentControl, nullptr) << "no control " << control;
-    t.DetailTop = detailTop;
-    t.SectionOffset = detailTop;
+    t.Place.DetailTop = detailTop;
+    t.Place.SectionOffset = detailTop;
     return *t.CurrentControl;
   }
 
