@@ -123,6 +123,35 @@ bool ToCodePoints(std::string_view bytes, const char* from, std::u32string* out,
   return ok;
 }
 
+// Most exports need no iconv: UTF-8 that is plain ASCII, and UTF-16 whose
+// every unit has a Windows-1252 form, convert unit by unit. False sends the
+// text the long way, which also counts what has no Windows-1252 form.
+bool QuickDecode(std::string_view body, TextEncoding enc, std::string* out) {
+  if (enc == TextEncoding::Utf8 || enc == TextEncoding::Utf8Bom) {
+    for (char c : body)
+      if (static_cast<unsigned char>(c) >= 0x80) return false;
+    out->assign(body);
+    return true;
+  }
+  if (!IsUtf16(enc)) return false;
+  const bool big = enc == TextEncoding::Utf16BeBom;
+  out->clear();
+  out->reserve(body.size() / 2);
+  for (size_t i = 0; i + 1 < body.size(); i += 2) {
+    const auto lo = static_cast<unsigned char>(body[i + (big ? 1 : 0)]);
+    const auto hi = static_cast<unsigned char>(body[i + (big ? 0 : 1)]);
+    const char32_t unit = lo | (static_cast<char32_t>(hi) << 8);
+    if (unit < 0x80) {
+      out->push_back(static_cast<char>(unit));
+      continue;
+    }
+    const unsigned char b = Windows1252FromCodePoint(unit);
+    if (b == 0) return false;
+    out->push_back(static_cast<char>(b));
+  }
+  return true;
+}
+
 }  // namespace
 
 bool LooksBinary(std::string_view head) {
@@ -155,6 +184,7 @@ DecodeStatus DecodeToWindows1252(std::string_view bytes, DecodedText* out, std::
     out->Text.assign(body);
     return DecodeStatus::Ok;
   }
+  if (QuickDecode(body, enc, &out->Text)) return DecodeStatus::Ok;
 
   std::u32string cps;
   std::string why;

@@ -38,11 +38,18 @@ bool WriteAll(int fd, std::string_view bytes, int* error) {
 }  // namespace
 
 bool WriteFileWhole(const fs::path& path, std::string_view bytes, std::string* err) {
-  // The temporary file stands in the same directory, so that the rename
-  // that puts it in place cannot cross file systems.
+  // A file that is not there yet is written in place: a failed write
+  // removes it again. A file that is there keeps its old bytes until the new
+  // ones are complete in a temporary file beside it (in the same directory,
+  // so that the rename cannot cross file systems).
   fs::path temp = path;
   temp += ".morvane-part";
-  const int fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+  bool fresh = true;
+  int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
+  if (fd < 0 && errno == EEXIST) {
+    fresh = false;
+    fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+  }
   if (fd < 0) {
     if (err) *err = "cannot write " + path.string() + ": " + Reason(errno);
     return false;
@@ -53,12 +60,12 @@ bool WriteFileWhole(const fs::path& path, std::string_view bytes, std::string* e
     ok = false;
     error = errno;
   }
-  if (ok && ::rename(temp.c_str(), path.c_str()) != 0) {
+  if (ok && !fresh && ::rename(temp.c_str(), path.c_str()) != 0) {
     ok = false;
     error = errno;
   }
   if (!ok) {
-    ::unlink(temp.c_str());
+    ::unlink(fresh ? path.c_str() : temp.c_str());
     if (err) *err = "cannot write " + path.string() + ": " + Reason(error);
   }
   return ok;

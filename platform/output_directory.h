@@ -1,7 +1,8 @@
 // The output directory of a run: every file the run makes is written here
 // whole and once, checked, and never left half-written in place of a good
-// one. A write goes to a temporary file beside its target, which is renamed
-// over the target only when every byte has reached it.
+// one. A file that is already there is replaced by a temporary file beside
+// it, renamed over it only when every byte has reached it; a new file that
+// cannot be written whole is removed.
 #pragma once
 
 #include <filesystem>

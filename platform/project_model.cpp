@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
+#include <span>
 
 #include "platform/output_directory.h"
 #include "platform/text_file.h"
@@ -31,7 +32,7 @@ bool IsProcedureHeader(const std::string& raw) {
 
 // Lines before the first procedure; the comment lines directly above the
 // first procedure belong to it, as in the VBA editor.
-int DeclarationLineCount(const std::vector<std::string>& code) {
+int DeclarationLineCount(std::span<const std::string> code) {
   size_t first = code.size();
   for (size_t i = 0; i < code.size(); ++i)
     if (IsProcedureHeader(code[i])) {
@@ -105,61 +106,56 @@ std::string AttributeName(const std::vector<std::string>& lines) {
 
 }  // namespace
 
-CodeModule::Split CodeModule::Read() const {
-  static const std::vector<std::string> kNone;
-  const std::vector<std::string>& lines = text_ ? text_->Lines() : kNone;
-  size_t start = CodeStart(lines);
-  Split s;
-  s.head.assign(lines.begin(), lines.begin() + static_cast<long>(start));
-  s.code.assign(lines.begin() + static_cast<long>(start), lines.end());
-  return s;
+CodeModule::CodeModule(TextDocument* text) : text_(text) {
+  if (text_) head_ = CodeStart(text_->Lines());
 }
 
-void CodeModule::Write(const Split& s) const {
-  if (!text_) return;
-  std::vector<std::string> all = s.head;
-  all.insert(all.end(), s.code.begin(), s.code.end());
-  text_->SetLines(std::move(all));
+std::vector<std::string>::iterator CodeModule::Begin() const {
+  return text_->Lines().begin() + static_cast<long>(head_);
 }
 
-int CodeModule::CountOfLines() const { return static_cast<int>(Read().code.size()); }
+int CodeModule::Count() const {
+  return text_ ? static_cast<int>(text_->Lines().size() - head_) : 0;
+}
 
-int CodeModule::CountOfDeclarationLines() const { return DeclarationLineCount(Read().code); }
+int CodeModule::CountOfLines() const { return Count(); }
+
+int CodeModule::CountOfDeclarationLines() const {
+  if (!text_) return 0;
+  return DeclarationLineCount(std::span<const std::string>(text_->Lines()).subspan(head_));
+}
 
 std::string CodeModule::Lines(int start, int count) const {
-  Split s = Read();
   std::string out;
-  for (int i = start; i < start + count && i >= 1 && i <= static_cast<int>(s.code.size()); ++i) {
+  for (int i = start; i < start + count && i >= 1 && i <= Count(); ++i) {
     if (i > start) out += "\r\n";
-    out += s.code[static_cast<size_t>(i - 1)];
+    out += *(Begin() + (i - 1));
   }
   return out;
 }
 
 void CodeModule::InsertLines(int line, const std::string& text) {
-  Split s = Read();
-  size_t at = static_cast<size_t>(std::clamp(line, 1, static_cast<int>(s.code.size()) + 1) - 1);
+  if (!text_) return;
+  const int at = std::clamp(line, 1, Count() + 1) - 1;
   auto add = SplitLines(text);
   if (text.empty()) add.assign(1, "");
-  s.code.insert(s.code.begin() + static_cast<long>(at), add.begin(), add.end());
-  Write(s);
+  text_->Lines().insert(Begin() + at, add.begin(), add.end());
+  text_->CloseLastLine();
 }
 
 void CodeModule::DeleteLines(int start, int count) {
-  Split s = Read();
-  if (start < 1 || count < 1 || start > static_cast<int>(s.code.size())) return;
-  size_t b = static_cast<size_t>(start - 1);
-  size_t e = std::min(s.code.size(), b + static_cast<size_t>(count));
-  s.code.erase(s.code.begin() + static_cast<long>(b), s.code.begin() + static_cast<long>(e));
-  Write(s);
+  if (!text_ || start < 1 || count < 1 || start > Count()) return;
+  const int end = std::min(Count(), start - 1 + count);
+  text_->Lines().erase(Begin() + (start - 1), Begin() + end);
+  text_->CloseLastLine();
 }
 
 void CodeModule::AddFromString(const std::string& text) {
-  Split s = Read();
+  if (!text_) return;
   auto add = SplitLines(text);
-  size_t at = static_cast<size_t>(DeclarationLineCount(s.code));
-  s.code.insert(s.code.begin() + static_cast<long>(at), add.begin(), add.end());
-  Write(s);
+  const int at = CountOfDeclarationLines();
+  text_->Lines().insert(Begin() + at, add.begin(), add.end());
+  text_->CloseLastLine();
 }
 
 const ProjectComponent* ProjectModel::Find(const std::string& name) const {

@@ -24,7 +24,9 @@ class OutputDirectory;
 // is empty and takes no edits.
 class CodeModule {
  public:
-  explicit CodeModule(TextDocument* text) : text_(text) {}
+  // The part of the text ahead of the code is found once: the operations
+  // change only the code.
+  explicit CodeModule(TextDocument* text);
   int CountOfLines() const;
   // Lines before the first procedure, as the VBA editor counts them.
   int CountOfDeclarationLines() const;
@@ -35,13 +37,11 @@ class CodeModule {
   void AddFromString(const std::string& text);
 
  private:
-  struct Split {
-    std::vector<std::string> head;
-    std::vector<std::string> code;
-  };
-  Split Read() const;
-  void Write(const Split& s) const;
+  // The code lines, from the first behind the header to the end.
+  std::vector<std::string>::iterator Begin() const;
+  int Count() const;
   TextDocument* text_;
+  size_t head_ = 0;
 };
 
 struct ProjectComponent {

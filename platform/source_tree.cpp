@@ -155,6 +155,10 @@ class DirectorySourceTree : public SourceTree {
   std::map<std::string, std::string> properties_;
   std::vector<ReferenceInfo> references_;
   std::vector<std::string> warnings_;
+  // The decoded text of every export, read once while the tree is read; the
+  // loaders split it again instead of reading the file a second time.
+  std::map<std::string, std::string> decoded_;
+  bool ReadLines(const fs::path& file, std::vector<std::string>* lines, std::string* err) const;
 };
 
 // Forced layouts admit only the files their shape holds.
@@ -195,23 +199,13 @@ void DirectorySourceTree::ReadFile(const fs::path& file, const LayoutRule* force
   if (!Admit(file, forced) || IsQuietlySkipped(ext)) return;
 
   std::string bytes;
-  {
-    std::ifstream in(file, std::ios::binary);
-    if (!in) {
-      Warn(file, "cannot be read; skipped");
-      return;
-    }
-    bytes.resize(kBinaryProbeBytes);
-    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    bytes.resize(static_cast<size_t>(in.gcount()));
-    if (LooksBinary(bytes)) {
-      Warn(file, "binary file, not an Access export; skipped");
-      return;
-    }
-  }
   std::string err;
   if (!ReadFileBytes(file, &bytes, &err)) {
     Warn(file, "cannot be read; skipped");
+    return;
+  }
+  if (LooksBinary(std::string_view(bytes).substr(0, kBinaryProbeBytes))) {
+    Warn(file, "binary file, not an Access export; skipped");
     return;
   }
   DecodedText text;
@@ -263,6 +257,7 @@ void DirectorySourceTree::ReadFile(const fs::path& file, const LayoutRule* force
     f.StubFile = CodeFileOfStub(lines);
     f.CodeBehind = f.StubFile.empty() && CodeBehindFromDesign(lines).CountOfLines() > 0;
   }
+  decoded_[file.string()] = std::move(text.Text);
   found_.push_back(std::move(f));
 }
 
@@ -440,6 +435,14 @@ bool DirectorySourceTree::Read(const fs::path& dir, const std::string& layout, s
   return true;
 }
 
+bool DirectorySourceTree::ReadLines(const fs::path& file, std::vector<std::string>* lines,
+                                    std::string* err) const {
+  auto it = decoded_.find(file.string());
+  if (it == decoded_.end()) return ReadExportLines(file, lines, err);
+  *lines = SplitLines(it->second);
+  return true;
+}
+
 bool DirectorySourceTree::LoadModule(AccessObjectKind kind, const std::string& name,
                                      ModuleCode* out, std::string* err) const {
   const SourceObject* o = Find(kind, name);
@@ -449,7 +452,7 @@ bool DirectorySourceTree::LoadModule(AccessObjectKind kind, const std::string& n
   }
   std::vector<std::string> lines;
   if (kind == AccessObjectKind::Module) {
-    if (!ReadExportLines(o->File, &lines, err)) return false;
+    if (!ReadLines(o->File, &lines, err)) return false;
     *out = ModuleFromExport(lines, nullptr);
     return true;
   }
@@ -465,7 +468,7 @@ bool DirectorySourceTree::LoadDesignText(AccessObjectKind kind, const std::strin
     if (err) *err = std::string("no ") + KindWord(kind) + " \"" + name + "\" in the tree";
     return false;
   }
-  if (!ReadExportLines(o->File, lines, err)) return false;
+  if (!ReadLines(o->File, lines, err)) return false;
   const bool stub = !CodeFileOfStub(*lines).empty();
   if (o->CodeFile.empty() && !stub) return true;
   // The code behind is the code file's module text (class header left out);
@@ -476,7 +479,7 @@ bool DirectorySourceTree::LoadDesignText(AccessObjectKind kind, const std::strin
   lines->push_back("CodeBehindForm");
   if (o->CodeFile.empty()) return true;
   std::vector<std::string> code;
-  if (!ReadExportLines(o->CodeFile, &code, err)) return false;
+  if (!ReadLines(o->CodeFile, &code, err)) return false;
   lines->insert(lines->end(), code.begin() + static_cast<std::ptrdiff_t>(ClassHeaderLength(code)),
                 code.end());
   return true;
@@ -489,7 +492,7 @@ bool DirectorySourceTree::LoadMacroText(const std::string& name, std::vector<std
     if (err) *err = "no macro \"" + name + "\" in the tree";
     return false;
   }
-  return ReadExportLines(o->File, lines, err);
+  return ReadLines(o->File, lines, err);
 }
 
 std::unique_ptr<MemoryCatalog> DirectorySourceTree::BuildCatalog() const {
