@@ -48,6 +48,8 @@ std::string UniqueMacroName(std::vector<std::string>& used, const std::string& n
   return c;
 }
 
+std::string MacroIdentifier(std::string_view name) { return VbIdentifier(name, "Proc", 255); }
+
 std::string MacroProcName(ConversionSession& s, const std::string& macro, const std::string& sub) {
   std::string n;
   if (!sub.empty()) {
@@ -56,7 +58,7 @@ std::string MacroProcName(ConversionSession& s, const std::string& macro, const 
   } else {
     n = CleanMacroName(macro, "Proc", 29);
   }
-  return SafeName(UniqueMacroName(s.MacroProcNames, n));
+  return MacroIdentifier(UniqueMacroName(s.MacroProcNames, n));
 }
 
 }  // namespace morvane

@@ -54,9 +54,9 @@ void TranslateLine(ModuleTranslation& t, std::string line) {
   if (t.EndCount == t.BeginCount) Bump(t.CodeLines);
 
   if (StartsWithNoCase(line, kFormCodeMark))
-    t.DataSuffix = SafeName(std::string_view(line).substr(kFormCodeMark.size()));
+    t.DataControl = t.Session.Names.DataControl(line.substr(kFormCodeMark.size()));
   else if (StartsWithNoCase(line, kEndFormCodeMark))
-    t.DataSuffix = t.ModuleName;
+    t.DataControl = DataControlName(t.ModuleName);
   else if (StartsWithNoCase(line, "Call AddItem"))
     return Emit(t, line);
 
