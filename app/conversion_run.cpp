@@ -5,6 +5,7 @@
 #include "events/event_writer.h"
 #include "forms/form_converter.h"
 #include "macros/macro_converter.h"
+#include "platform/encoding.h"
 #include "reports/report_converter.h"
 #include "session/naming.h"
 #include "session/strings.h"
@@ -65,7 +66,7 @@ std::vector<std::string> ConversionRun::Warnings() {
   for (auto kind : {AccessObjectKind::Form, AccessObjectKind::Report}) {
     for (const auto& name : link_.Tree()->Names(kind)) {
       std::string err;
-      if (!store_->Open(kind, name, &err)) warnings.push_back(err);
+      if (!store_->Open(kind, name, &err)) warnings.push_back(Windows1252ToUtf8(err));
     }
   }
   return warnings;

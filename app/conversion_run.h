@@ -48,7 +48,7 @@ class ConversionRun {
   bool Open(const SourceChoice& source, std::string* err);
   CatalogListing Listing() const { return link_.Listing(); }
   // The tree's warnings, then every design that cannot be read (its file
-  // and line). The designs are read into the run's store, so the run itself
+  // and line), as UTF-8 text. The designs are read into the run's store, so the run itself
   // reads none of them again.
   std::vector<std::string> Warnings();
   // The request for a selection: false with a message naming an object the

@@ -11,8 +11,8 @@
 
 #include "app/command_line_ui.h"
 #include "app/conversion_run.h"
-#include "platform/encoding.h"
 #include "platform/catalog.h"
+#include "platform/encoding.h"
 #include "session/naming.h"
 #include "session/strings.h"
 
@@ -94,8 +94,7 @@ void PrintList(const char* heading, const std::vector<std::string>& names) {
 }
 
 void PrintWarnings(ConversionRun& run) {
-  for (const auto& w : run.Warnings())
-    std::fprintf(stderr, "morvane: warning: %s\n", Windows1252ToUtf8(w).c_str());
+  for (const auto& w : run.Warnings()) std::fprintf(stderr, "morvane: warning: %s\n", w.c_str());
 }
 
 int RunList(const Options& o) {
@@ -182,10 +181,14 @@ int RunConvert(const Options& o, const char* argv0) {
                                                     std::to_string(summary.LinesToReview),
                                                     std::to_string(summary.LinesNotTranslated)})
                           .c_str());
+  if (summary.ControlsNotConverted > 0)
+    std::printf(
+        "%s\n",
+        FormatText(kMsgSummaryControls, {std::to_string(summary.ControlsNotConverted)}).c_str());
   for (const auto& note : summary.Notes)
     std::printf("Not done: %s\n", Windows1252ToUtf8(note).c_str());
   for (const auto& failure : summary.Failures)
-    std::fprintf(stderr, "morvane: error: %s\n", Windows1252ToUtf8(failure).c_str());
+    std::fprintf(stderr, "morvane: error: %s\n", failure.c_str());
   std::printf("%s\n", FormatText(kMsgSummaryAnalysis, {summary.AnalysisPath}).c_str());
   return StatusOf(summary);
 }

@@ -3,6 +3,7 @@
 #include "design/design_store.h"
 
 #include "design/design_loader.h"
+#include "platform/encoding.h"
 #include "platform/text_fold.h"
 
 namespace morvane {
@@ -23,7 +24,8 @@ DesignStore::DesignStore(const SourceTree& tree)
           *missing = true;
           return false;
         }
-        out->File = object->File.string();
+        // Messages of the designs are Windows-1252 text, as their names are.
+        out->File = Utf8ToWindows1252(object->File.string());
         out->Name = object->Name;
         return tree.LoadDesignText(kind, object->Name, &out->Lines, err);
       }) {}

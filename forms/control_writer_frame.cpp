@@ -20,6 +20,7 @@ namespace morvane {
 const ControlDesign* BeginControl(FormWriter& w) {
   const ControlDesign* c = w.Text().CurrentControl;
   if (!c) return nullptr;
+  w.Text().Accounted.insert(c);
   w.MakeControlName(*c);
   w.LocatePage();
   return c;

@@ -20,6 +20,13 @@ namespace morvane {
 
 namespace {
 
+// Where a control stands, when that is what keeps it from being converted.
+std::string LocationOf(const ControlDesign& c) {
+  for (const ControlDesign* p = c.ParentControl(); p; p = p->ParentControl())
+    if (p->ControlType() == kPage) return " (on the page " + p->Name() + ")";
+  return "";
+}
+
 bool IsTabOrPage(const DesignObject& o) {
   if (o.Kind() != DesignKind::Control) return false;
   int type = static_cast<const ControlDesign&>(o).ControlType();
@@ -41,8 +48,27 @@ bool AddHeight(long& y, long h) {
 
 // What the walk meets but this build does not convert yet: a line in the
 // analysis rather than a silent gap in the form.
-void NotConvertedYet(ConversionSession& s, const std::string& form, const std::string& what) {
-  if (s.SupportDb) s.SupportDb->AddRunNote(form, what + " is not converted yet");
+void NotConvertedYet(FormWriter& w, const ControlDesign& c, const std::string& what) {
+  w.Text().Accounted.insert(&c);
+  ++w.Session().Form().ControlsNotConverted;
+  ConversionSession& s = w.Session();
+  if (s.SupportDb) s.SupportDb->AddRunNote(w.Text().OwnerFormName, what + " is not converted yet");
+}
+
+// Whether the writer of a control's holder writes the control with it: the
+// members of an option group and their labels, the label of an option
+// button, the pages of a tab control (named with it).
+bool WrittenWithHolder(const std::set<const ControlDesign*>& accounted, const ControlDesign& c) {
+  const ControlDesign* holder = c.ParentControl();
+  if (!holder || !accounted.count(holder)) return false;
+  switch (holder->ControlType()) {
+    case kOptionGroup:
+    case kOptionButton:
+    case kTabControl:
+      return true;
+    default:
+      return WrittenWithHolder(accounted, *holder) && c.ControlType() == kLabel;
+  }
 }
 
 // Controls that only need their holder to be the form being walked: an
@@ -54,7 +80,7 @@ void WriteStandAloneOption(FormWriter& w) {
 
 void WriteListLater(FormWriter& w) {
   const ControlDesign& c = *w.Text().CurrentControl;
-  NotConvertedYet(w.Session(), w.Text().OwnerFormName,
+  NotConvertedYet(w, c,
                   std::string(c.ControlType() == kListBox ? "list box " : "combo box ") + c.Name());
 }
 
@@ -62,13 +88,16 @@ void WriteSubformLater(FormWriter& w) {
   const ControlDesign& c = *w.Text().CurrentControl;
   auto source = c.Text("SourceObject");
   if (source && !source->empty())
-    NotConvertedYet(w.Session(), w.Text().OwnerFormName, "subform " + c.Name());
+    NotConvertedYet(w, c, "subform " + c.Name());
+  else
+    NotConvertedYet(w, c, "subform " + c.Name() + " (it shows no form)");
 }
 
 // An unbound object frame has no Visual Basic counterpart; the analysis
 // names it.
 void ReportUnboundObject(FormWriter& w) {
   const ControlDesign& c = *w.Text().CurrentControl;
+  w.Text().Accounted.insert(&c);
   AddHint(w.Session(), ReportRowHint{w.Text().OwnerFormName, 10, SafeName(c.Name()), 0, "", ""});
 }
 
@@ -187,7 +216,7 @@ void FormWriter::WriteForm(const std::string& formName, bool isSubform, int pass
       if (c.ControlType() == kPageBreak && c.Section() == 0) {
         // The page-break tab control is not built yet: the form is written
         // as one page and the analysis says so.
-        NotConvertedYet(s_, t_.OwnerFormName, "page break " + c.Name());
+        NotConvertedYet(*this, c, "page break " + c.Name());
       }
   }
   if (!isSubform) WriteFormHeader(*form);
@@ -196,8 +225,7 @@ void FormWriter::WriteForm(const std::string& formName, bool isSubform, int pass
     WriteFormDataControl(*this);
   if (!isSubform) {
     for (const ControlDesign& c : form->Controls())
-      if (c.ControlType() == kTabControl)
-        NotConvertedYet(s_, t_.OwnerFormName, "tab control " + c.Name());
+      if (c.ControlType() == kTabControl) NotConvertedYet(*this, c, "tab control " + c.Name());
   }
   WalkControls();
   for (const ControlDesign& c : form->Controls()) {
@@ -207,6 +235,7 @@ void FormWriter::WriteForm(const std::string& formName, bool isSubform, int pass
     WriteShape(*this);
   }
   if (isSubform) return;
+  AccountForControls(*form);
 
   for (int n = 1; n <= 4; ++n)
     if (!t_.SectionText[n].empty()) {
@@ -220,6 +249,16 @@ void FormWriter::WriteForm(const std::string& formName, bool isSubform, int pass
   AddHint(s_, ControlCountsHint{t_.FormControlCount, t_.FormPartialCount});
   if (t_.FormControlCount > 254) AddHint(s_, TooManyControlsHint{formName});
   WriteComponentLines(true);
+}
+
+void FormWriter::AccountForControls(const FormDesign& form) {
+  for (const ControlDesign& c : form.Controls()) {
+    if (t_.Accounted.count(&c) || WrittenWithHolder(t_.Accounted, c)) continue;
+    ++s_.Form().ControlsNotConverted;
+    if (s_.SupportDb)
+      s_.SupportDb->AddRunNote(t_.OwnerFormName,
+                               c.TypeName() + " " + c.Name() + LocationOf(c) + " is not converted");
+  }
 }
 
 void FormWriter::WriteFormHeader(const FormDesign& form) {

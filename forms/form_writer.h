@@ -7,6 +7,7 @@
 
 #include <array>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -61,6 +62,9 @@ struct FormTextSet {
   int FormControlCount = 0;
   int FormPartialCount = 0;
   std::vector<std::string> UsedControlNames;
+  // Controls converted or named as not converted; the rest are named at the
+  // end of the form, so that none is lost in silence.
+  std::set<const ControlDesign*> Accounted;
   std::vector<std::string> TabUsedNames;
   std::vector<std::string> OptionGroupNames;
   std::vector<std::string> ComponentFiles;
@@ -124,6 +128,7 @@ class FormWriter {
 
  private:
   void WriteFormHeader(const FormDesign& form);
+  void AccountForControls(const FormDesign& form);
   void WalkControls();
   void WriteControl(const ControlDesign& c);
 

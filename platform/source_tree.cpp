@@ -43,7 +43,7 @@ bool SourceTree::LoadDesignText(AccessObjectKind kind, const std::string& name,
                                 std::vector<std::string>* lines, std::string* err) const {
   const SourceObject* o = Find(kind, name);
   if (!o) {
-    if (err) *err = "no object \"" + name + "\" in the tree";
+    if (err) *err = "no object \"" + Windows1252ToUtf8(name) + "\" in the tree";
     return false;
   }
   return ReadExportLines(o->File, lines, err);
@@ -267,7 +267,7 @@ bool DirectorySourceTree::AddObject(AccessObjectKind kind, const std::string& na
   auto [it, added] = index_.emplace(key, objects_.size());
   if (!added) {
     if (err)
-      *err = std::string("two files give the ") + KindWord(kind) + " \"" + name +
+      *err = std::string("two files give the ") + KindWord(kind) + " \"" + Windows1252ToUtf8(name) +
              "\": " + objects_[it->second].File.string() + " and " + file.string();
     return false;
   }
@@ -300,7 +300,8 @@ bool DirectorySourceTree::AttachCode(const FoundFile& f, std::string* err) {
   if (!owner->CodeFile.empty()) {
     if (err)
       *err = std::string("two files give the code of the ") + KindWord(owner->Kind) + " \"" +
-             owner->Name + "\": " + owner->CodeFile.string() + " and " + f.File.string();
+             Windows1252ToUtf8(owner->Name) + "\": " + owner->CodeFile.string() + " and " +
+             f.File.string();
     return true;
   }
   owner->CodeFile = f.File;
@@ -352,7 +353,7 @@ bool DirectorySourceTree::Resolve(std::string* err) {
     std::string name =
         !f.VbName.empty() ? f.VbName : StripKindPrefix(f.Stem, AccessObjectKind::Module);
     if (IStartsWith(name, "Form_") || IStartsWith(name, "Report_")) {
-      Warn(f.File, "code behind of \"" + name.substr(name.find('_') + 1) +
+      Warn(f.File, "code behind of \"" + Windows1252ToUtf8(name.substr(name.find('_') + 1)) +
                        "\", which the tree does not hold; skipped");
       continue;
     }
@@ -360,7 +361,7 @@ bool DirectorySourceTree::Resolve(std::string* err) {
   }
   for (const auto& [index, stub] : stubs_)
     if (objects_[index].CodeFile.empty())
-      Warn(objects_[index].File, "its code is kept in \"" + stub +
+      Warn(objects_[index].File, "its code is kept in \"" + Windows1252ToUtf8(stub) +
                                      "\", which the tree does not hold; the " +
                                      KindWord(objects_[index].Kind) + " is read without code");
   for (const auto& f : found_) {
@@ -447,7 +448,9 @@ bool DirectorySourceTree::LoadModule(AccessObjectKind kind, const std::string& n
                                      ModuleCode* out, std::string* err) const {
   const SourceObject* o = Find(kind, name);
   if (!o || kind == AccessObjectKind::Macro || kind == AccessObjectKind::Query) {
-    if (err) *err = std::string("no ") + KindWord(kind) + " module \"" + name + "\" in the tree";
+    if (err)
+      *err = std::string("no ") + KindWord(kind) + " module \"" + Windows1252ToUtf8(name) +
+             "\" in the tree";
     return false;
   }
   std::vector<std::string> lines;
@@ -465,7 +468,9 @@ bool DirectorySourceTree::LoadDesignText(AccessObjectKind kind, const std::strin
                                          std::vector<std::string>* lines, std::string* err) const {
   const SourceObject* o = Find(kind, name);
   if (!o || (kind != AccessObjectKind::Form && kind != AccessObjectKind::Report)) {
-    if (err) *err = std::string("no ") + KindWord(kind) + " \"" + name + "\" in the tree";
+    if (err)
+      *err =
+          std::string("no ") + KindWord(kind) + " \"" + Windows1252ToUtf8(name) + "\" in the tree";
     return false;
   }
   if (!ReadLines(o->File, lines, err)) return false;
@@ -489,7 +494,7 @@ bool DirectorySourceTree::LoadMacroText(const std::string& name, std::vector<std
                                         std::string* err) const {
   const SourceObject* o = Find(AccessObjectKind::Macro, name);
   if (!o) {
-    if (err) *err = "no macro \"" + name + "\" in the tree";
+    if (err) *err = "no macro \"" + Windows1252ToUtf8(name) + "\" in the tree";
     return false;
   }
   return ReadLines(o->File, lines, err);

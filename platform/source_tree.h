@@ -75,7 +75,8 @@ class SourceTree {
 
   // Problems met while reading (a file that is no Access export, a character
   // with no Windows-1252 form, two files for one object), each naming the
-  // file and, where it applies, the line.
+  // file and, where it applies, the line. These messages, like the errors
+  // of the tree, are UTF-8: file names stand in them as they are on disk.
   virtual const std::vector<std::string>& Warnings() const = 0;
 };
 

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "platform/encoding.h"
 #include "platform/output_directory.h"
 #include "platform/support_db.h"
 #include "platform/text_file.h"
@@ -107,7 +108,8 @@ std::string WriteAnalysisReport(ConversionSession& s, const RunSummary& summary)
 
   if (!summary.Failures.empty()) {
     out.push_back("<h2>Not written</h2><ul>");
-    for (const auto& failure : summary.Failures) out.push_back("<li>" + Html(failure) + "</li>");
+    for (const auto& failure : summary.Failures)
+      out.push_back("<li>" + Html(Utf8ToWindows1252(failure)) + "</li>");
     out.push_back("</ul>");
   }
 
@@ -117,7 +119,8 @@ std::string WriteAnalysisReport(ConversionSession& s, const RunSummary& summary)
         "<h2>Names</h2><table><tr><th>Access name</th><th>Visual Basic name</th><th>File</th>"
         "<th>Why</th></tr>");
     for (const auto& r : names)
-      out.push_back("<tr>" + Cell(r.Object) + Cell(r.VbName) + Cell(r.File) + Cell(r.Why) + "</tr>");
+      out.push_back("<tr>" + Cell(r.Object) + Cell(r.VbName) + Cell(r.File) + Cell(r.Why) +
+                    "</tr>");
     out.push_back("</table>");
   }
 

@@ -45,10 +45,17 @@ void Note(ConversionSession& s, RunSummary& summary, const std::string& object,
 // but the tree has no export of it, or its export could not be read.
 std::string NotReadWhy(const ConversionSession& s, AccessObjectKind kind, const std::string& name) {
   if (s.AccessApp && s.AccessApp->Find(kind, name)) return Text(kMsgObjectNotRead);
+  // The message is UTF-8, as the run's failures are.
   const char* word = kind == AccessObjectKind::Form     ? "form"
                      : kind == AccessObjectKind::Report ? "report"
                                                         : "module";
-  return FormatText(kMsgObjectNotInSource, {word, name});
+  return FormatText(kMsgObjectNotInSource, {word, Windows1252ToUtf8(name)});
+}
+
+// An object the run could not read or write: named with the message, in
+// UTF-8.
+void Failed(RunSummary& summary, const std::string& object, const std::string& why) {
+  summary.Failures.push_back(Windows1252ToUtf8(object) + ": " + why);
 }
 
 // The path of a file of the output directory: the name is the system's
@@ -62,7 +69,7 @@ bool WriteOutput(ConversionSession& s, RunSummary& summary, const std::string& o
   std::string err;
   if (s.Output->Write(file, bytes, &err)) return true;
   // The run goes on; the object is named, and the run's status says so.
-  summary.Failures.push_back(object + ": " + err);
+  Failed(summary, object, err);
   return false;
 }
 
@@ -71,7 +78,7 @@ bool WriteComponent(ConversionSession& s, RunSummary& summary, const std::string
                     const std::string& component) {
   std::string err;
   if (s.ActiveProject->WriteComponent(component, *s.Output, &err)) return true;
-  summary.Failures.push_back(object + ": " + err);
+  Failed(summary, object, err);
   return false;
 }
 
@@ -180,14 +187,15 @@ void ConvertFormsStep(ConversionSession& s, Converters& c, RunSummary& summary) 
     // A form that could not be read has no text: the later steps find
     // nothing to work on, and the form stays out of the project.
     if (form.Text.Empty()) {
-      summary.Failures.push_back(name + ": " + NotReadWhy(s, AccessObjectKind::Form, name));
+      Failed(summary, name, NotReadWhy(s, AccessObjectKind::Form, name));
     } else {
       const std::string file = OutputFile(s, names.File + ".frm");  // F4
-      c.Code->ExportModuleText(s, name, kModeForm, form.Text);       // F5
-      c.Forms->ProcessHints(s, name);                                // F6
-      if (s.SupportDb)                                               // F8
-        s.SupportDb->MergeStats({names.VbName, 0, 0, 0, 0, 0, 0, 0, form.ControlCount,
-                                 form.PartialControlCount, 0});
+      c.Code->ExportModuleText(s, name, kModeForm, form.Text);      // F5
+      c.Forms->ProcessHints(s, name);                               // F6
+      summary.ControlsNotConverted += form.ControlsNotConverted;
+      if (s.SupportDb)  // F8
+        s.SupportDb->MergeStats(
+            {names.VbName, 0, 0, 0, 0, 0, 0, 0, form.ControlCount, form.PartialControlCount, 0});
       TextDocument text = c.Code->TranslateCode(s, form.Text, names.VbName, kModeForm);  // F11
       form.Text = TextDocument();
       SilentIndent(text);  // F12
@@ -203,7 +211,7 @@ void ConvertFormsStep(ConversionSession& s, Converters& c, RunSummary& summary) 
       } else {
         // Kept out of the project; its text stays in the output directory.
         WriteOutput(s, summary, name, file, text.Bytes());
-        summary.Failures.push_back(name + ": " + Text(kMsgObjectKeptOut));
+        Failed(summary, name, Text(kMsgObjectKeptOut));
       }
     }
     if (s.Ui) s.Ui->ProgressStep(3, name);  // F17
@@ -222,10 +230,10 @@ void ConvertReportsStep(ConversionSession& s, Converters& c, RunSummary& summary
     const ComponentName& names = s.Names.Name(ComponentRole::Report, name);
     report.ReportInitCode = c.Reports->ConvertReport(s, name);  // R1, R2
     if (report.Text.Empty()) {
-      summary.Failures.push_back(name + ": " + NotReadWhy(s, AccessObjectKind::Report, name));
+      Failed(summary, name, NotReadWhy(s, AccessObjectKind::Report, name));
     } else {
-      const std::string file = OutputFile(s, names.File + ".dsr");  // R3
-      c.Code->ExportModuleText(s, name, kModeReport, report.Text);   // R5
+      const std::string file = OutputFile(s, names.File + ".dsr");                           // R3
+      c.Code->ExportModuleText(s, name, kModeReport, report.Text);                           // R5
       TextDocument text = c.Code->TranslateCode(s, report.Text, names.VbName, kModeReport);  // R8
       report.Text = TextDocument();
       SilentIndent(text);  // R9
@@ -250,7 +258,7 @@ void ConvertModulesStep(ConversionSession& s, Converters& c, RunSummary& summary
   for (size_t i = 1; i < s.ModuleList.size(); ++i) {
     const std::string& name = s.ModuleList[i];
     if (!s.AccessApp || !s.AccessApp->Find(AccessObjectKind::Module, name)) {
-      summary.Failures.push_back(name + ": " + NotReadWhy(s, AccessObjectKind::Module, name));
+      Failed(summary, name, NotReadWhy(s, AccessObjectKind::Module, name));
       if (s.Ui) s.Ui->ProgressStep(1, name);
       continue;
     }
@@ -258,12 +266,12 @@ void ConvertModulesStep(ConversionSession& s, Converters& c, RunSummary& summary
     if (c.Code->ExportModuleText(s, name, kModeModule, source)) {  // M2
       const std::string& file = s.Names.Name(ComponentRole::Module, name).File;
       TextDocument text = c.Code->TranslateCode(s, source, file, kModeModule);  // M4
-      SilentIndent(text);                                                        // M6
+      SilentIndent(text);                                                       // M6
       const ProjectComponent* component =
           s.ActiveProject->Add(OutputFile(s, file + ".bas"), std::move(text));
       if (WriteComponent(s, summary, name, component->Name)) ++summary.Modules;
     } else {
-      summary.Failures.push_back(name + ": " + Text(kMsgObjectNotRead));
+      Failed(summary, name, Text(kMsgObjectNotRead));
     }
     if (s.Ui) s.Ui->ProgressStep(1, name);  // M7
   }

@@ -28,8 +28,12 @@ struct RunSummary {
   bool Started = false;
   int Forms = 0, Reports = 0, Modules = 0, Macros = 0;
   int LinesTranslated = 0, LinesToReview = 0, LinesNotTranslated = 0;
+  // Controls of the converted forms that are not converted, each named in
+  // the analysis.
+  int ControlsNotConverted = 0;
   std::vector<std::string> Notes;  // what the run could not do, one line each
-  // Objects that could not be read or written, each with its message.
+  // Objects that could not be read or written, each with its message, as
+  // UTF-8 text (the paths in them as they are on disk).
   std::vector<std::string> Failures;
   std::string AnalysisPath;
 };

@@ -36,6 +36,7 @@ struct FormState {
   std::vector<std::string> OpenedSubforms{""};
   int ControlCount = 0;
   int PartialControlCount = 0;
+  int ControlsNotConverted = 0;
   std::string CurrentControlName;
   bool PlainListControl = false;
 };

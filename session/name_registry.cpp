@@ -34,7 +34,7 @@ std::string FileStemOf(const std::string& name) {
 
 NameRegistry::NameRegistry() {
   for (const char* name : kGeneratedComponents) Name(ComponentRole::Generated, name);
-  for (const char* file : kGeneratedFiles) files_.push_back(ToLower(file));
+  for (const char* file : kGeneratedFiles) files_.insert(ToLower(file));
 }
 
 std::string NameRegistry::Key(ComponentRole role, const std::string& name) const {
@@ -42,11 +42,11 @@ std::string NameRegistry::Key(ComponentRole role, const std::string& name) const
 }
 
 bool NameRegistry::VbNameTaken(const std::string& name) const {
-  return std::find(vbNames_.begin(), vbNames_.end(), ToLower(name)) != vbNames_.end();
+  return vbNames_.count(ToLower(name)) > 0;
 }
 
 bool NameRegistry::FileTaken(const std::string& stem) const {
-  return std::find(files_.begin(), files_.end(), ToLower(stem)) != files_.end();
+  return files_.count(ToLower(stem)) > 0;
 }
 
 const ComponentName& NameRegistry::Name(ComponentRole role, const std::string& accessName) {
@@ -60,22 +60,25 @@ const ComponentName& NameRegistry::Name(ComponentRole role, const std::string& a
     n.VbName = "a" + n.VbName;
     why = "a word Visual Basic keeps for itself";
   }
-  // Each clash adds an "A", the name cut to make room within 40 characters.
-  while (VbNameTaken(n.VbName)) {
-    if (n.VbName.size() >= 40) n.VbName.resize(39);
-    n.VbName += "A";
+  // Each clash adds an "A", the name cut to make room within 40 characters;
+  // past forty of them a number makes the name unique.
+  const std::string base = n.VbName;
+  for (size_t clash = 1; VbNameTaken(n.VbName); ++clash) {
+    const std::string suffix = clash <= 40 ? std::string(clash, 'A') : std::to_string(clash);
+    n.VbName = base.substr(0, std::min(base.size(), 40 - suffix.size())) + suffix;
     if (why.empty()) why = "another object has that name";
   }
-  vbNames_.push_back(ToLower(n.VbName));
+  vbNames_.insert(ToLower(n.VbName));
 
   // Modules keep their Access name in their file, as far as a file name can
   // hold it; forms and reports are named after their Visual Basic name.
   n.File = FileStemOf(role == ComponentRole::Module ? accessName : n.VbName);
-  while (FileTaken(n.File)) {
-    n.File += "_";
+  const std::string stem = n.File;
+  for (int clash = 1; FileTaken(n.File); ++clash) {
+    n.File = stem + "_" + (clash > 1 ? std::to_string(clash) : "");
     if (why.empty()) why = "another object's file has that name";
   }
-  files_.push_back(ToLower(n.File));
+  files_.insert(ToLower(n.File));
 
   if (role != ComponentRole::Generated) {
     if (why.empty() && n.VbName != SafeName(accessName))

@@ -10,6 +10,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -51,8 +52,8 @@ class NameRegistry {
   bool FileTaken(const std::string& stem) const;
 
   std::map<std::string, ComponentName> names_;
-  std::vector<std::string> vbNames_;  // lower case
-  std::vector<std::string> files_;    // lower case
+  std::set<std::string> vbNames_;  // lower case
+  std::set<std::string> files_;    // lower case
   std::vector<Renaming> renamings_;
 };
 

@@ -72,6 +72,7 @@ constexpr Entry kEnglish[] = {
      "MorvaneConversionCode.bas was not written."},
     {kMsgObjectNotRead, "it could not be read; nothing was written for it"},
     {kMsgObjectKeptOut, "it was kept out of the project"},
+    {kMsgSummaryControls, "Controls not converted: %1; each is named in the analysis."},
     {kCapStartTranslation, "Start &Translation"},
     {kCapProject, "&Project"},
     {kCapListControls, "List &Controls"},

@@ -40,6 +40,7 @@ enum StringId : int {
   kMsgTooManyControls = 146,
   kMsgObjectNotRead = 147,
   kMsgObjectKeptOut = 148,
+  kMsgSummaryControls = 149,
   // Captions of the main window.
   kCapStartTranslation = 201,
   kCapProject = 202,
