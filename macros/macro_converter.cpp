@@ -85,7 +85,9 @@ class MacroWriter {
   void BuildProcWrapper();
   void ReportAction(const std::string& why);
   void Reset();
-  void Walk(std::vector<std::string> lines, const std::string& macroName, std::string subName);
+  void Walk(std::vector<std::string> lines, const std::string& macroName, std::string subName,
+            bool grouped);
+  void ReportKeptChoice(const std::string& code, const std::string& why);
 
   ConversionSession& s_;
   const MacroTables& tables_;
@@ -113,6 +115,11 @@ void MacroWriter::ReportAction(const std::string& why) {
   for (size_t i = 1; i <= record_.Count; ++i) line += (i == 1 ? " " : ", ") + record_.Args[i];
   if (!record_.Condition.empty()) line = "If " + record_.Condition + ": " + line;
   s_.SupportDb->AddReportOutput({"MacroCode", kReasonNoCounterpart, line, 0, why, procName_});
+}
+
+void MacroWriter::ReportKeptChoice(const std::string& code, const std::string& why) {
+  if (!s_.SupportDb || contextProbe_ > 0) return;
+  s_.SupportDb->AddReportOutput({"MacroCode", kReasonKeptChoice, code, 0, why, procName_});
 }
 
 void MacroWriter::ConvertActionArgument(long actionId, int index, std::string& value) {
@@ -173,6 +180,13 @@ void MacroWriter::EmitAction() {
   if (action->ActionID == kStopMacroAction) s += " Function";
   if (action->ActionID == kRunCodeAction && s.size() >= 2 && s.ends_with("()"))
     s = s.size() > 7 ? s.substr(5, s.size() - 7) : std::string();
+  // A template whose argument is empty can leave half a statement ("x =",
+  // "Call"): that is kept as a comment.
+  const std::string statement = TrimBlanks(s);
+  if (!statement.empty() && (statement.back() == '=' || statement == "Call")) {
+    ReportAction("an argument the statement needs is empty; kept as a comment");
+    s = "'MORVANE " + statement;
+  }
   if (!s.empty())
     AddMacroLine(s);
   else
@@ -211,6 +225,18 @@ void MacroWriter::BuildProcWrapper() {
 
 void MacroWriter::FinishProcedure() {
   BuildProcWrapper();
+  // Actions of a group that follow an empty row and no macro name belong to
+  // no macro: Access never runs them. Written as they are, they would stand
+  // outside any procedure; they are kept as comments.
+  if (procName_.empty() && !macroBody_.empty()) {
+    std::string commented;
+    for (const auto& line : SplitLines(macroBody_))
+      if (!line.empty()) commented += "'MORVANE " + line + "\r\n";
+    ReportKeptChoice(TrimBlanks(SplitLines(macroBody_).front()),
+                     "actions behind an empty row of a macro group, outside any macro; kept as "
+                     "comments");
+    macroBody_ = commented;
+  }
   if (!macroHead_.empty() || !macroBody_.empty() || !macroTail_.empty())
     out_ += macroHead_ + "\r\n" + macroBody_ + "\r\n" + macroTail_ + "\r\n";
   macroHead_.clear();
@@ -259,7 +285,7 @@ bool MacroWriter::ConvertMacroText(const std::string& macroName, std::string sub
   } else {
     procName_.clear();
   }
-  Walk(std::move(lines), macroName, std::move(subName));
+  Walk(std::move(lines), macroName, std::move(subName), grouped);
   return true;
 }
 
@@ -269,15 +295,32 @@ void MacroWriter::ConvertEmbeddedMacro(const std::vector<std::string>& text,
   std::vector<std::string> lines = text;
   for (auto& line : lines) line = TrimBlanks(line);
   procName_ = procName;
-  Walk(std::move(lines), procName, std::string());
+  Walk(std::move(lines), procName, std::string(), false);
   // The probe looks at the one procedure the text holds.
   if (contextProbe_ == 1) BuildProcWrapper();
 }
 
+// A long value goes on in the next line as another quoted piece; the pieces
+// are one value.
+std::vector<std::string> JoinValuePieces(std::vector<std::string> lines) {
+  std::vector<std::string> out;
+  for (auto& line : lines) {
+    if (!out.empty() && line.size() >= 2 && line.front() == '"' && line.back() == '"' &&
+        out.back().find('=') != std::string::npos && out.back().size() >= 2 &&
+        out.back().back() == '"') {
+      out.back().pop_back();
+      out.back() += line.substr(1);
+      continue;
+    }
+    out.push_back(std::move(line));
+  }
+  return out;
+}
+
 void MacroWriter::Walk(std::vector<std::string> lines, const std::string& macroName,
-                       std::string subName) {
+                       std::string subName, bool grouped) {
   std::string previous;
-  for (const auto& line : lines) {
+  for (const auto& line : JoinValuePieces(std::move(lines))) {
     const size_t eq = line.find('=');
     if (eq != std::string::npos) {
       const std::string key = TrimBlanks(std::string_view(line).substr(0, eq));
@@ -295,16 +338,29 @@ void MacroWriter::Walk(std::vector<std::string> lines, const std::string& macroN
         procName_ = MacroProcName(s_, macroName, subName);
       } else if (key == "Condition") {
         inIfBlock_ = true;
-        std::string text = raw;
-        record_.Condition = RemoveChar(ConvertMacroExpression(text, &needsContext_), '\\');
+        // The condition is read from the export's quoting, as arguments
+        // are: with the backslashes of its escapes dropped afterwards, a
+        // string literal in it would change ("*" read as " * ").
+        std::string text = DecodedValue(line, eq);
+        bool joined = false;
+        record_.Condition = ConvertMacroExpression(text, &needsContext_, &joined);
+        std::string plain = raw;
+        bool ignored = false;
+        if (joined ||
+            RemoveChar(ConvertMacroExpression(plain, &ignored), '\\') != record_.Condition)
+          ReportKeptChoice(raw, record_.Condition);
       } else if (key == "Action") {
         record_.Action = raw;
       } else if (key == "Argument") {
         if (record_.Count < kMaxArgs) record_.Args[++record_.Count] = DecodedValue(line, eq);
       }
     } else if (previous == "Begin" && line == "End") {
-      FinishProcedure();  // an empty block ends a macro of the group
-      procName_.clear();
+      // An empty row ends a macro of a group; in a macro of its own, as
+      // Access runs it, it is only a gap between actions.
+      if (grouped) {
+        FinishProcedure();
+        procName_.clear();
+      }
     } else if (line == "End") {
       if (!record_.Action.empty()) EmitAction();
       inIfBlock_ = false;
@@ -370,8 +426,7 @@ void MacroConverterImpl::ConvertMacros(ConversionSession& s, const std::string& 
           const size_t dot = m.Name.find('.');
           MacroWriter writer(s, tables, 0);
           writer.ConvertEmbeddedMacro(
-              SplitLines(m.Text),
-              MacroProcName(s, m.Name.substr(0, dot), m.Name.substr(dot + 1)));
+              SplitLines(m.Text), MacroProcName(s, m.Name.substr(0, dot), m.Name.substr(dot + 1)));
           text += writer.Output();
           any = true;
         }

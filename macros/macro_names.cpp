@@ -56,7 +56,11 @@ std::string MacroProcName(ConversionSession& s, const std::string& macro, const 
   } else {
     n = CleanMacroName(macro, "Proc", 29);
   }
-  return SafeName(UniqueMacroName(s.MacroProcNames, n));
+  std::string name = SafeName(UniqueMacroName(s.MacroProcNames, n));
+  // A Visual Basic name begins with a letter: "002_Import" becomes
+  // "Proc002_Import", as a name beginning with "_" gets "Proc" in front.
+  if (!name.empty() && name[0] >= '0' && name[0] <= '9') name = "Proc" + name;
+  return name;
 }
 
 }  // namespace morvane
