@@ -1,5 +1,6 @@
-// The morvane command: `morvane list SOURCE` and `morvane convert SOURCE -o
-// OUTDIR`, with the options of the main window as flags.
+// The morvane command: `morvane list SOURCE`, `morvane convert SOURCE -o
+// OUTDIR`, with the options of the main window as flags, and `morvane check
+// OUTDIR`.
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
@@ -10,8 +11,8 @@
 
 #include "app/command_line_ui.h"
 #include "app/text_output.h"
-#include "events/event_writer.h"
 #include "design/design_store.h"
+#include "events/event_writer.h"
 #include "forms/form_converter.h"
 #include "macros/macro_converter.h"
 #include "platform/catalog.h"
@@ -19,6 +20,7 @@
 #include "session/conversion_session.h"
 #include "session/driver.h"
 #include "session/naming.h"
+#include "session/project_check.h"
 #include "session/strings.h"
 #include "translator/code_converter.h"
 
@@ -248,6 +250,21 @@ int RunConvert(const Options& o, const char* argv0) {
   return 0;
 }
 
+// `morvane check OUTDIR`: each finding as file:line, and a non-zero status
+// when something would keep Visual Basic 6 from loading the project.
+int RunCheck(const std::string& dir) {
+  std::vector<ProjectFinding> findings;
+  std::string err;
+  if (!CheckProject(dir, &findings, &err)) return Fail(err);
+  int blocking = 0;
+  for (const auto& f : findings) {
+    std::printf("%s\n", Windows1252ToUtf8(FormatFinding(f)).c_str());
+    if (!f.Loads) ++blocking;
+  }
+  std::printf("%d problem(s), %zu warning(s)\n", blocking, findings.size() - blocking);
+  return blocking > 0 ? 1 : 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -305,6 +322,11 @@ int main(int argc, char** argv) {
   auto* yes = convert->add_flag("--yes", o.yes, "Answer Yes to the run's questions");
   convert->add_flag("--no", o.no, "Answer No to the run's questions")->excludes(yes);
 
+  std::string checkDir;
+  CLI::App* check = app.add_subcommand(
+      "check", "Check a generated project for what Visual Basic 6 would not load or compile");
+  check->add_option("OUTDIR", checkDir, "The output directory of a conversion")->required();
+
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& e) {
@@ -312,6 +334,7 @@ int main(int argc, char** argv) {
   }
   try {
     if (list->parsed()) return RunList(o);
+    if (check->parsed()) return RunCheck(checkDir);
     return RunConvert(o, argv[0]);
   } catch (const std::exception& e) {
     return Fail(e.what());

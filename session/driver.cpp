@@ -11,6 +11,7 @@
 #include "session/analysis_report.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
+#include "session/project_check.h"
 #include "session/strings.h"
 #include "session/user_interface.h"
 
@@ -142,8 +143,9 @@ void ConvertMacrosStep(ConversionSession& s, Converters& c, RunSummary& summary)
       Note(s, summary, "", Text(kMsgNotBuiltMacros));
     return;
   }
-  c.Macros->ConvertMacros(s, s.OutputPath);                                     // C1
-  RenameFile(FindFileNoCase(s.OutputPath + "Macro.txt"), s.OutputPath + "Modu_MacroCode.txt");  // C2
+  c.Macros->ConvertMacros(s, s.OutputPath);  // C1
+  RenameFile(FindFileNoCase(s.OutputPath + "Macro.txt"),
+             s.OutputPath + "Modu_MacroCode.txt");  // C2
   std::string path = s.OutputPath + "Modu_MacroCode.txt";
   if (!fs::exists(path)) return;
   c.Code->TranslateCode(s, path, kModeModule);   // C3
@@ -362,6 +364,7 @@ void RunConversion(ConversionSession& s, AccessLink& link, Converters& c, RunSum
   s.ActiveProject->SaveAs(fs::path(s.OutputPath) / s.ProjectFile, nullptr);
   if (s.Ui) s.Ui->ProgressEnd();  // E2
   CountLines(s, summary);
+  CheckConversionOutput(s);
   s.SupportDb->EndBatch();
   summary.AnalysisPath = WriteAnalysisReport(s, summary);  // E3, E4
 }

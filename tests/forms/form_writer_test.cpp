@@ -1,17 +1,18 @@
 // The form writer: header, sections, unique names, placement, control counts
 // and the assembled .frm and .hnt texts.
+#include "forms/form_writer.h"
+
 #include <gtest/gtest.h>
 
 #include <map>
 
 #include "design/design_store.h"
-#include "forms/form_writer.h"
 #include "platform/text_file.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
 #include "session/user_interface.h"
+#include "session/vb6_check.h"
 #include "support/temp_dir.h"
-#include "support/vb6_checker.h"
 
 namespace morvane {
 namespace {
@@ -78,8 +79,8 @@ class FormWriterTest : public ::testing::Test {
 
 TEST_F(FormWriterTest, HeaderOfAPlainForm) {
   const std::string frm = Convert(
-      "Orders", Form("    Width =6000\n    MinMaxButtons =2\n    HelpContextId =7\n",
-                     Detail("", 2000)));
+      "Orders",
+      Form("    Width =6000\n    MinMaxButtons =2\n    HelpContextId =7\n", Detail("", 2000)));
   EXPECT_EQ(frm, test::Crlf("VERSION 5.00\n"
                             "Begin VB.Form Orders\n"
                             "BorderStyle = 2\n"
@@ -163,8 +164,7 @@ TEST_F(FormWriterTest, SectionsStackAndGetTheirFrames) {
   // The frames form one control; two frames, one count.
   EXPECT_NE(hints_.find("CtlCounts\r\n4\r\n"), std::string::npos) << hints_;
   // The code side, with its name attribute, comes later from the translator.
-  auto problems =
-      test::CheckVb6Structure("Sections.frm", frm + "Attribute VB_Name = \"Sections\"\r\n");
+  auto problems = CheckVb6Structure("Sections.frm", frm + "Attribute VB_Name = \"Sections\"\r\n");
   EXPECT_TRUE(problems.empty()) << problems.front();
   EXPECT_TRUE(frm.ends_with("\r\nEnd\r\nEnd\r\n"));
 }
@@ -173,8 +173,8 @@ TEST_F(FormWriterTest, ControlNamesAreUniqueInTheForm) {
   texts_["F"] = Form("", Detail(""));
   FormWriter w(s_, store_);
   ASSERT_TRUE(store_.OpenForm("F", nullptr));
-  const std::string texts = Form("", Detail(Label("Text1", 0, 0) + Label("1st", 0, 0) +
-                                            Label(std::string(40, 'n'), 0, 0)));
+  const std::string texts = Form(
+      "", Detail(Label("Text1", 0, 0) + Label("1st", 0, 0) + Label(std::string(40, 'n'), 0, 0)));
   texts_["G"] = texts;
   const FormDesign* g = store_.OpenForm("G", nullptr);
   ASSERT_TRUE(g);

@@ -30,7 +30,9 @@ TEST(MacroExpression, RewritesFormReferencesAndHandsTheRestToEval) {
       {"\"Yes\"", "\"Yes\" ", false},
       {"   ", "", false},
       {"", "", false},
-      {"[Order ID]", ".Order ID ", true},
+      // A name that is no Visual Basic name keeps its brackets.
+      {"[Order ID]", ".[Order ID] ", true},
+      {"[a]<>1 And [b]>=2", ".a <> 1 And .b >= 2 ", true},
       {"[sub]![x]", ".sub!x ", true},
       {"[Screen].[ActiveForm]", "Screen.ActiveForm ", false},
       {"\"a\"\"b\"", "\"a\"\" b\" ", false},
