@@ -69,6 +69,8 @@ TEST(MacroNames, CleanedNumberedAndCut) {
   EXPECT_EQ(MacroProcName(s, "Nav", "Go"), "Nav_Go");
   EXPECT_EQ(MacroProcName(s, "Nav", "Go"), "Nav_Go1");
   EXPECT_EQ(MacroProcName(s, " x", ""), "Proc_x");
+  // A Visual Basic name begins with a letter; DoCmd.RunMacro calls it so.
+  EXPECT_EQ(MacroProcName(s, "002_Import", ""), "Proc002_Import");
   EXPECT_EQ(MacroProcName(s, "Close All", ""), "Close_All");
   // Group and name are cut to 14 characters each when together they pass 30.
   EXPECT_EQ(MacroProcName(s, "OrderManagement", "RecalculateTotals"),
