@@ -101,6 +101,9 @@ class MacroWriter {
   // Where the body's last "End If" of a conditional action starts, so that
   // an action whose condition is "..." can join that block.
   std::optional<size_t> lastEndIf_;
+  // An empty row of a macro of its own was passed over; the next action
+  // says so in the analysis.
+  bool passedGap_ = false;
 };
 
 void MacroWriter::AddMacroLine(std::string text) {
@@ -264,6 +267,7 @@ void MacroWriter::Reset() {
   macroBody_.clear();
   macroTail_.clear();
   lastEndIf_.reset();
+  passedGap_ = false;
 }
 
 bool MacroWriter::ConvertMacroText(const std::string& macroName, std::string subName,
@@ -360,9 +364,18 @@ void MacroWriter::Walk(std::vector<std::string> lines, const std::string& macroN
       if (grouped) {
         FinishProcedure();
         procName_.clear();
+      } else {
+        passedGap_ = true;
       }
     } else if (line == "End") {
-      if (!record_.Action.empty()) EmitAction();
+      if (!record_.Action.empty()) {
+        if (passedGap_)
+          ReportKeptChoice(record_.Action,
+                           "an empty row before this action does not end the macro; the "
+                           "action stays in its procedure");
+        passedGap_ = false;
+        EmitAction();
+      }
       inIfBlock_ = false;
       record_ = MacroActionRecord{};
     }
