@@ -4,25 +4,19 @@
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
+#include <csignal>
 #include <cstdio>
 #include <filesystem>
 #include <iostream>
 #include <optional>
 
 #include "app/command_line_ui.h"
+#include "app/conversion_run.h"
 #include "app/text_output.h"
-#include "design/design_store.h"
-#include "events/event_writer.h"
-#include "forms/form_converter.h"
-#include "macros/macro_converter.h"
 #include "platform/catalog.h"
-#include "session/access_link.h"
-#include "session/conversion_session.h"
-#include "session/driver.h"
 #include "session/naming.h"
 #include "session/project_check.h"
 #include "session/strings.h"
-#include "translator/code_converter.h"
 
 namespace fs = std::filesystem;
 using namespace morvane;
@@ -85,7 +79,7 @@ fs::path DataDirectory(const char* argv0) {
 
 int Fail(const std::string& message) {
   std::fprintf(stderr, "morvane: error: %s\n", message.c_str());
-  return 2;
+  return kRunNotStarted;
 }
 
 // Names typed on the command line are UTF-8; the system's names are
@@ -96,54 +90,27 @@ std::vector<std::string> ToSystemText(const std::vector<std::string>& names) {
   return out;
 }
 
-// Each requested name must be in the catalog; the selection keeps the
-// catalog's spelling.
-bool Select(const std::vector<std::string>& requested, const std::vector<std::string>& offered,
-            const char* kind, std::vector<std::string>* selected, std::string* err) {
-  for (const auto& name : requested) {
-    const std::string* hit = nullptr;
-    for (const auto& o : offered)
-      if (EqualsNoCase(o, name)) hit = &o;
-    if (!hit) {
-      *err = FormatText(kMsgNoSuchObject, {kind, Windows1252ToUtf8(name)});
-      return false;
-    }
-    selected->push_back(*hit);
-  }
-  return true;
-}
-
-// Reads the design of every form and report the tree has, so that an export
-// that cannot be read is named (file and line) before anything is converted.
-std::vector<std::string> DesignProblems(const SourceTree& tree) {
-  std::vector<std::string> problems;
-  DesignStore store(tree);
-  for (auto kind : {AccessObjectKind::Form, AccessObjectKind::Report}) {
-    for (const auto& name : tree.Names(kind)) {
-      std::string err;
-      if (!store.Open(kind, name, &err)) problems.push_back(err);
-    }
-  }
-  return problems;
-}
-
 void PrintList(const char* heading, const std::vector<std::string>& names) {
   std::printf("%s:\n", heading);
   for (const auto& n : names) std::printf("  %s\n", Windows1252ToUtf8(n).c_str());
 }
 
+void PrintWarnings(ConversionRun& run) {
+  for (const auto& w : run.Warnings())
+    std::fprintf(stderr, "morvane: warning: %s\n", Windows1252ToUtf8(w).c_str());
+}
+
 int RunList(const Options& o) {
-  ConversionSession s;
-  AccessLink link;
+  ConversionRun run{RunOptions{}};
   std::string err;
-  if (!link.ChooseDatabase(s, {o.source, o.sourceTree, o.layout}, &err)) return Fail(err);
-  CatalogListing l = link.Listing();
+  if (!run.Open({o.source, o.sourceTree, o.layout}, &err)) return Fail(err);
+  CatalogListing l = run.Listing();
   PrintList("Forms", l.Forms);
   PrintList("Modules", l.Modules);
   PrintList("Reports", l.Reports);
   PrintList("Macros", l.Macros);
   if (o.details) {
-    const Catalog& db = *link.Db();
+    const Catalog& db = *run.Link().Db();
     std::printf("Tables:\n");
     for (const auto& t : db.TableDefs()) {
       std::printf("  %s (%zu fields%s)\n", Windows1252ToUtf8(t.Name).c_str(), t.Fields.size(),
@@ -157,13 +124,30 @@ int RunList(const Options& o) {
     for (const auto& [name, value] : db.PropertyList())
       std::printf("  %s = %s\n", Windows1252ToUtf8(name).c_str(), Windows1252ToUtf8(value).c_str());
   }
-  if (link.Tree()) {
-    for (const auto& w : link.Tree()->Warnings())
-      std::fprintf(stderr, "morvane: warning: %s\n", Windows1252ToUtf8(w).c_str());
-    for (const auto& p : DesignProblems(*link.Tree()))
-      std::fprintf(stderr, "morvane: warning: %s\n", Windows1252ToUtf8(p).c_str());
-  }
+  PrintWarnings(run);
   return 0;
+}
+
+RunOptions OptionsOf(const Options& o, const char* argv0) {
+  RunOptions r;
+  r.DataDir = DataDirectory(argv0);
+  r.ListboxType = o.listboxType;
+  r.ComboboxType = o.comboboxType;
+  r.ListboxBound = o.listboxMode == "bound";
+  r.ComboboxBound = o.comboboxMode == "bound";
+  r.StandardControls = o.standardControls;
+  r.IsMdi = o.mdi;
+  r.RelativePaths = o.relativePaths;
+  r.SsOptionSet = o.ssOptionSet;
+  r.DatePicker = o.datePicker;
+  r.MacrosWanted = o.macros;
+  r.IsVb5 = o.vb5;
+  r.UserName = Utf8ToWindows1252(o.user);
+  r.Password = Utf8ToWindows1252(o.password);
+  r.WorkgroupFile = Utf8ToWindows1252(o.workgroup);
+  r.SecurityDisabled = o.workgroup.empty();
+  r.AdoConnect = Utf8ToWindows1252(o.adoConnect);
+  return r;
 }
 
 int RunConvert(const Options& o, const char* argv0) {
@@ -171,66 +155,22 @@ int RunConvert(const Options& o, const char* argv0) {
   if (o.yes) answer = true;
   if (o.no) answer = false;
   CommandLineUi ui(answer);
-  ConversionSession s;
-  s.Ui = &ui;
-  s.DataDir = DataDirectory(argv0);
-  s.ListboxType = o.listboxType;
-  s.ComboboxType = o.comboboxType;
-  s.ListboxBound = o.listboxMode == "bound";
-  s.ComboboxBound = o.comboboxMode == "bound";
-  s.StandardControls = o.standardControls;
-  s.IsMdi = o.mdi;
-  s.WantRelativePaths = o.relativePaths;
-  s.WantSsOptionSet = o.ssOptionSet;
-  s.WantDatePicker = o.datePicker;
-  s.MacrosWanted = o.macros;
-  s.IsVb5 = o.vb5;
-  s.UserName = Utf8ToWindows1252(o.user);
-  s.Password = Utf8ToWindows1252(o.password);
-  s.WorkgroupFile = Utf8ToWindows1252(o.workgroup);
-  s.SecurityDisabled = o.workgroup.empty();
-
-  AccessLink link;
+  ConversionRun run(OptionsOf(o, argv0));
   std::string err;
-  if (!link.ChooseDatabase(s, {o.source, o.sourceTree, o.layout}, &err)) return Fail(err);
-  if (!o.adoConnect.empty()) s.AdoConnect = Utf8ToWindows1252(o.adoConnect);
-  std::vector<std::string> warnings;
-  if (link.Tree()) {
-    warnings = link.Tree()->Warnings();
-    for (auto& p : DesignProblems(*link.Tree())) warnings.push_back(std::move(p));
-  }
-  for (const auto& w : warnings)
-    std::fprintf(stderr, "morvane: warning: %s\n", Windows1252ToUtf8(w).c_str());
+  if (!run.Open({o.source, o.sourceTree, o.layout}, &err)) return Fail(err);
+  PrintWarnings(run);
 
-  CatalogListing offered = link.Listing();
   RunRequest request;
-  request.OutputDir = o.output;
-  const bool all = o.all || (o.forms.empty() && o.modules.empty() && o.reports.empty());
-  if (all) {
-    request.Forms = offered.Forms;
-    request.Modules = offered.Modules;
-    request.Reports = offered.Reports;
-  } else if (!Select(ToSystemText(o.forms), offered.Forms, "form", &request.Forms, &err) ||
-             !Select(ToSystemText(o.modules), offered.Modules, "module", &request.Modules, &err) ||
-             !Select(ToSystemText(o.reports), offered.Reports, "report", &request.Reports, &err)) {
-    return Fail(err);
-  }
-  if (!link.Tree()) {
+  Selection selection{ToSystemText(o.forms), ToSystemText(o.modules), ToSystemText(o.reports),
+                      o.all};
+  if (!run.MakeRequest(o.output, selection, &request, &err)) return Fail(Windows1252ToUtf8(err));
+  if (!run.Link().Tree()) {
     return Fail(FormatText(kMsgNoSourceTree,
                            {o.source, fs::path(o.source).replace_extension(".src").string()}));
   }
-
-  TranslatorCodeConverter code;
-  DesignStore store(*link.Tree());
-  MacroConverterImpl macroConverter(&store);
-  EventHintActions hintActions(store);
-  DesignFormConverter forms(store, hintActions);
-  Converters converters;
-  converters.Code = &code;
-  converters.Macros = &macroConverter;
-  converters.Forms = &forms;
-  RunSummary summary = StartTranslation(s, link, converters, request);
-  if (!summary.Started) return 1;
+  if (!run.Check(request, ui)) return kRunNotStarted;
+  RunSummary summary = run.Run(request, ui);
+  if (!summary.Started) return kRunNotStarted;
 
   const int total = summary.Forms + summary.Reports + summary.Modules;
   std::string macros =
@@ -246,8 +186,10 @@ int RunConvert(const Options& o, const char* argv0) {
                           .c_str());
   for (const auto& note : summary.Notes)
     std::printf("Not done: %s\n", Windows1252ToUtf8(note).c_str());
+  for (const auto& failure : summary.Failures)
+    std::fprintf(stderr, "morvane: error: %s\n", Windows1252ToUtf8(failure).c_str());
   std::printf("%s\n", FormatText(kMsgSummaryAnalysis, {summary.AnalysisPath}).c_str());
-  return 0;
+  return StatusOf(summary);
 }
 
 // `morvane check OUTDIR`: each finding as file:line, and a non-zero status
@@ -268,6 +210,9 @@ int RunCheck(const std::string& dir) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  // A file size limit makes a write fail instead of ending the process, so
+  // the run names the file it could not write.
+  std::signal(SIGXFSZ, SIG_IGN);
   CLI::App app{"Converts a Microsoft Access 2000/XP application into a Visual Basic 6 project."};
   app.require_subcommand(1);
   Options o;

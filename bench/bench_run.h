@@ -9,9 +9,7 @@
 #include <fstream>
 #include <string>
 
-#include "session/access_link.h"
-#include "session/conversion_session.h"
-#include "session/driver.h"
+#include "app/conversion_run.h"
 #include "session/user_interface.h"
 
 namespace morvane::bench {
@@ -25,35 +23,40 @@ inline long PeakKiB() {
   return 0;
 }
 
-// A run of the driver over `root`/src into `root`/out, as the command line
-// makes one, with every question answered Yes.
+// A run over `root`/src into `root`/out, put together as the command line
+// puts one together, with every question answered Yes.
 class BenchRun {
  public:
-  // False, with the reason on stderr, when the source cannot be opened.
-  bool Open(const std::filesystem::path& root) {
-    s_.Ui = &ui_;
-    s_.DataDir = MORVANE_BENCH_DATA_DIR;
-    request_.OutputDir = (root / "out").string();
+  BenchRun() : run_(Options()) {}
+
+  // False, with the reason on stderr, when the source cannot be opened or
+  // the selection does not fit it.
+  bool Open(const std::filesystem::path& root, const Selection& selection) {
     std::string err;
-    if (link_.ChooseDatabase(s_, {root / "src", {}, {}}, &err)) return true;
+    if (run_.Open({root / "src", {}, {}}, &err) &&
+        run_.MakeRequest((root / "out").string(), selection, &request_, &err))
+      return true;
     std::fprintf(stderr, "%s\n", err.c_str());
     return false;
   }
-  AccessLink& Link() { return link_; }
-  RunRequest& Request() { return request_; }
 
-  // Runs the driver; `seconds` receives the time it took.
-  RunSummary Run(Converters& converters, double* seconds) {
+  // Runs the conversion; `seconds` receives the time it took.
+  RunSummary Run(double* seconds) {
     const auto start = std::chrono::steady_clock::now();
-    RunSummary summary = StartTranslation(s_, link_, converters, request_);
+    RunSummary summary;
+    if (run_.Check(request_, ui_)) summary = run_.Run(request_, ui_);
     *seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     return summary;
   }
 
  private:
-  ConversionSession s_;
+  static RunOptions Options() {
+    RunOptions o;
+    o.DataDir = MORVANE_BENCH_DATA_DIR;
+    return o;
+  }
   ScriptedUserInterface ui_{true};
-  AccessLink link_;
+  ConversionRun run_;
   RunRequest request_;
 };
 

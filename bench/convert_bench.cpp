@@ -12,7 +12,6 @@
 
 #include "bench/bench_run.h"
 #include "platform/text_file.h"
-#include "translator/code_converter.h"
 
 namespace fs = std::filesystem;
 using namespace morvane;
@@ -58,13 +57,12 @@ int main(int argc, char** argv) {
   }
 
   bench::BenchRun run;
-  if (!run.Open(root)) return 1;
-  run.Request().Modules = run.Link().Listing().Modules;
-  TranslatorCodeConverter code;
-  Converters converters;
-  converters.Code = &code;
+  Selection modulesOnly;
+  modulesOnly.Modules = {"basBench0"};
+  for (int m = 1; m < modules; ++m) modulesOnly.Modules.push_back("basBench" + std::to_string(m));
+  if (!run.Open(root, modulesOnly)) return 1;
   double seconds = 0;
-  const RunSummary summary = run.Run(converters, &seconds);
+  const RunSummary summary = run.Run(&seconds);
   std::printf(
       "%d modules, %ld lines converted in %.2f s: %.0f modules/s, %.0f lines/s; "
       "peak memory %ld KiB; %d modules in the project\n",

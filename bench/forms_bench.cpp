@@ -13,12 +13,7 @@
 #include <vector>
 
 #include "bench/bench_run.h"
-#include "events/event_writer.h"
-#include "design/design_store.h"
-#include "forms/form_converter.h"
-#include "macros/macro_converter.h"
 #include "platform/text_file.h"
-#include "translator/code_converter.h"
 
 namespace fs = std::filesystem;
 using namespace morvane;
@@ -39,7 +34,8 @@ void AddControl(std::vector<std::string>& t, int i, bool withEvent) {
   t.push_back("                    Width =1500");
   t.push_back("                    Height =255");
   t.push_back("                    Name =\"ctl" + N(i) + "\"");
-  if (kind == "TextBox") t.push_back("                    ControlSource =\"Field" + N(i % 10) + "\"");
+  if (kind == "TextBox")
+    t.push_back("                    ControlSource =\"Field" + N(i % 10) + "\"");
   if (kind == "Label" || kind == "CommandButton")
     t.push_back("                    Caption =\"Control " + N(i) + "\"");
   if (withEvent) t.push_back("                    OnClick =\"[Event Procedure]\"");
@@ -55,11 +51,17 @@ int main(int argc, char** argv) {
   const fs::path root = fs::temp_directory_path() / ("morvane-fbench-" + std::to_string(getpid()));
   fs::create_directories(root / "src" / "forms");
   for (int f = 0; f < forms; ++f) {
-    std::vector<std::string> t = {"Version =20", "VersionRequired =20", "Begin Form",
-                                  "    Width =9000", "    RecordSource =\"tblOrders\"",
-                                  "    Caption =\"Form " + N(f) + "\"", "    Begin",
-                                  "        Begin Section", "            Height =12000",
-                                  "            Name =\"Detail\"", "            Begin"};
+    std::vector<std::string> t = {"Version =20",
+                                  "VersionRequired =20",
+                                  "Begin Form",
+                                  "    Width =9000",
+                                  "    RecordSource =\"tblOrders\"",
+                                  "    Caption =\"Form " + N(f) + "\"",
+                                  "    Begin",
+                                  "        Begin Section",
+                                  "            Height =12000",
+                                  "            Name =\"Detail\"",
+                                  "            Begin"};
     for (int c = 0; c < controls; ++c) AddControl(t, c, c % (controls / kEvents) == 0);
     for (const char* l : {"            End", "        End", "    End", "End", "CodeBehindForm",
                           "Attribute VB_GlobalNameSpace = False", "Attribute VB_Creatable = True",
@@ -76,20 +78,11 @@ int main(int argc, char** argv) {
   }
 
   bench::BenchRun run;
-  if (!run.Open(root)) return 1;
-  run.Request().Forms = run.Link().Listing().Forms;
-  TranslatorCodeConverter code;
-  DesignStore store(*run.Link().Tree());
-  EventHintActions actions(store);
-  DesignFormConverter formConverter(store, actions);
-  MacroConverterImpl macros(&store);
-  Converters converters;
-  converters.Code = &code;
-  converters.Forms = &formConverter;
-  converters.Macros = &macros;
-
+  Selection formsOnly;
+  for (int f = 0; f < forms; ++f) formsOnly.Forms.push_back("frmBench" + N(f));
+  if (!run.Open(root, formsOnly)) return 1;
   double seconds = 0;
-  const RunSummary summary = run.Run(converters, &seconds);
+  const RunSummary summary = run.Run(&seconds);
   std::printf(
       "%d forms of %d controls converted in %.2f s: %.1f forms/s, %.0f controls/s; "
       "peak memory %ld KiB; %d forms in the project\n",

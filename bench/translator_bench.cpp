@@ -75,11 +75,10 @@ Result Run(const fs::path& dir, const std::string& text, Mode mode) {
     }
     s.SupportDb = db.get();
   }
-  morvane::WriteFileBytes(dir / "MODU_basBench.txt", text, nullptr);
-  std::string path = (dir / "MODU_basBench.txt").string();
+  const morvane::TextDocument input = morvane::TextDocument::FromBytes(text);
   auto start = std::chrono::steady_clock::now();
   if (mode == Mode::DatabaseInOneTransaction) db->Execute("BEGIN");
-  morvane::TranslateCode(s, path, 2);
+  morvane::TranslateCode(s, input, "basBench", 2);
   if (mode == Mode::DatabaseInOneTransaction) db->Execute("COMMIT");
   auto stop = std::chrono::steady_clock::now();
   Result r;

@@ -43,12 +43,23 @@ inline constexpr ControlTypeRow kControlTypes[] = {
     {"EdgeBrowser", 134, false},
 };
 
+// Access's control types by name, the one place that numbers them.
 inline constexpr int kLabel = 100;
+inline constexpr int kRectangle = 101;
+inline constexpr int kLine = 102;
+inline constexpr int kImage = 103;
+inline constexpr int kCommandButton = 104;
 inline constexpr int kOptionButton = 105;
 inline constexpr int kCheckBox = 106;
 inline constexpr int kOptionGroup = 107;
+inline constexpr int kBoundObjectFrame = 108;
+inline constexpr int kTextBox = 109;
+inline constexpr int kListBox = 110;
+inline constexpr int kComboBox = 111;
 inline constexpr int kSubform = 112;
+inline constexpr int kUnboundObjectFrame = 114;
 inline constexpr int kPageBreak = 118;
+inline constexpr int kCustomControl = 119;
 inline constexpr int kToggleButton = 122;
 inline constexpr int kTabControl = 123;
 inline constexpr int kPage = 124;

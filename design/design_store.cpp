@@ -3,7 +3,6 @@
 #include "design/design_store.h"
 
 #include "design/design_loader.h"
-#include "platform/encoding.h"
 #include "platform/text_fold.h"
 
 namespace morvane {
@@ -26,7 +25,7 @@ DesignStore::DesignStore(const SourceTree& tree)
         }
         out->File = object->File.string();
         out->Name = object->Name;
-        return ReadExportLines(object->File, &out->Lines, err);
+        return tree.LoadDesignText(kind, object->Name, &out->Lines, err);
       }) {}
 
 DesignStore::DesignStore(LineSource source) : source_(std::move(source)) {}

@@ -204,7 +204,7 @@ void CheckBoxCode(const ControlEventWriter& w) {
   w.DblClickIntoClick();
   PlainAll(w, kKeyEvents);
   w.GotFocusWithEnter();
-  w.Validate(!w.Session().IsVb5);
+  w.Validate(!w.Session().Options.IsVb5);
   const FurtherLines f = UpdateLines(w, {{"AfterUpdate", "_AfterUpdate"}});
   w.LostFocusWithExit(f.existing, f.fresh, f.any);
 }
@@ -252,7 +252,7 @@ void TextBoxCode(const ControlEventWriter& w) {
   PlainAll(w, kMouseEvents);
   PlainAll(w, kKeyEvents);
   Plain(w, kChange);
-  w.Validate(!w.Session().IsVb5);
+  w.Validate(!w.Session().Options.IsVb5);
   w.GotFocusWithEnter();
   w.LostFocusWithExit({}, {}, false);
 }

@@ -78,7 +78,7 @@ void EventCode::AppendProc(const std::string& header, const std::vector<std::str
 }
 
 void EventCode::Append(const std::vector<std::string>& lines) const {
-  AppendFileBytes(s_.CurrentFile, JoinCrLf(lines), nullptr);
+  s_.Form().Text.Append(JoinCrLf(lines));
 }
 
 void EventCode::ReportDuplicate(const std::string& header, int found) const {
@@ -86,8 +86,8 @@ void EventCode::ReportDuplicate(const std::string& header, int found) const {
 }
 
 void EventCode::RenameProcLine(const std::string& oldLine, const std::string& newLine) const {
-  std::vector<std::string> lines;
-  if (!ReadTextLines(s_.CurrentFile, &lines, nullptr)) return;
+  TextDocument& text = s_.Form().Text;
+  std::vector<std::string>& lines = text.Lines();
   const std::string ownMark = std::string(kFormCodeMark) + sectionForm_;
   // The file's own form owns the text ahead of the first marked section.
   bool inSection = sectionForm_ == fileForm_;
@@ -102,23 +102,26 @@ void EventCode::RenameProcLine(const std::string& oldLine, const std::string& ne
       changed = true;
     }
   }
-  if (changed) WriteTextLines(s_.CurrentFile, lines, nullptr);
+  if (changed) {
+    text.SplitBreaks(0, lines.size());
+    text.CloseLastLine();
+  }
 }
 
 int EventCode::IsDuplicateLine(const std::string& line) const {
-  return morvane::IsDuplicateLine(s_.CurrentFile, line, 0);
+  return morvane::IsDuplicateLine(s_.Form().Text, line, 0);
 }
 
 void EventCode::InsertLine(const std::string& anchor, const std::string& text, int position) const {
-  morvane::InsertLine(s_.CurrentFile, anchor, text, position);
+  morvane::InsertLine(s_.Form().Text, anchor, text, position);
 }
 
 void EventCode::ChangeLine2(const std::string& oldLine, const std::string& newLine) const {
-  morvane::ChangeLine2(s_.CurrentFile, oldLine, newLine);
+  morvane::ChangeLine2(s_.Form().Text, oldLine, newLine);
 }
 
 void EventCode::ChangeLine(const std::string& line) const {
-  morvane::ChangeLine(s_.CurrentFile, line, 0);
+  morvane::ChangeLine(s_.Form().Text, line, 0);
 }
 
 }  // namespace morvane

@@ -32,13 +32,13 @@ std::string ExpressionCall(const std::string& value);
 inline constexpr int kBehindHeader = 0;
 inline constexpr int kEndOfProcedure = 1;
 
-// The event code of one form's controls or events, written into the session's
-// CurrentFile.
+// The event code of one form's controls or events, written into the text of
+// the session's current form.
 class EventCode {
  public:
   // `formName` names the form in the analysis rows. `sectionForm` is the form
   // whose code section renames work in; `fileForm` is the form whose output
-  // file CurrentFile is: its own code stands ahead of any other form's marked
+  // text is being built: its own code stands ahead of any other form's marked
   // section, so that part of the file belongs to its section too.
   EventCode(ConversionSession& s, std::string formName, std::string sectionForm,
             std::string fileForm);
@@ -71,7 +71,7 @@ class EventCode {
   // the code section of `sectionForm`.
   void RenameProcLine(const std::string& oldLine, const std::string& newLine) const;
 
-  // The line-editing library on CurrentFile.
+  // The line-editing library on the form text.
   int IsDuplicateLine(const std::string& line) const;
   void InsertLine(const std::string& anchor, const std::string& text, int position) const;
   void ChangeLine2(const std::string& oldLine, const std::string& newLine) const;

@@ -1,10 +1,10 @@
 // The event writers as hint actions: each record's control or form is looked
-// up among the designs, and its event code written into CurrentFile.
+// up among the designs, and its event code written into the form text.
 #include "events/event_writer.h"
 
+#include "design/design_store.h"
 #include "events/control_events.h"
 #include "events/form_events.h"
-#include "design/design_store.h"
 #include "platform/support_db.h"
 #include "session/conversion_session.h"
 
@@ -25,18 +25,23 @@ void NotWritten(ConversionSession& s, const std::string& object, const std::stri
 
 }  // namespace
 
-void EventHintActions::ControlEvents(ConversionSession& s, const std::string& kind,
-                                     const std::string& hintForm, const ControlHint& control) {
-  // A control of a subform is reached through the subform control; the
-  // record names the form that holds that control, which is the form whose
-  // hints are read unless subforms nest.
-  const FormDesign* holder = store_.OpenForm(control.FormName, nullptr);
-  if (!control.SubformControl.empty()) {
-    const FormDesign* shown = SubformOf(holder, control.SubformControl);
-    if (!shown) shown = SubformOf(store_.OpenForm(hintForm, nullptr), control.SubformControl);
-    holder = shown;
+void EventHintActions::ControlEvents(ConversionSession& s, const std::string& hintForm,
+                                     const ControlCodeHint& control) {
+  // The writer hands over the control's design. Without it, a control of a
+  // subform is reached through the subform control; the record names the
+  // form that holds that control, which is the form whose hints are read
+  // unless subforms nest.
+  const ControlDesign* design = control.Design;
+  const FormDesign* holder = design ? &design->Owner() : nullptr;
+  if (!design) {
+    holder = store_.OpenForm(control.FormName, nullptr);
+    if (!control.SubformControl.empty()) {
+      const FormDesign* shown = SubformOf(holder, control.SubformControl);
+      if (!shown) shown = SubformOf(store_.OpenForm(hintForm, nullptr), control.SubformControl);
+      holder = shown;
+    }
+    design = holder ? holder->Control(control.AccessName) : nullptr;
   }
-  const ControlDesign* design = holder ? holder->Control(control.AccessName) : nullptr;
   if (!design) {
     NotWritten(s, control.FormName + "." + control.AccessName, "the control was not found");
     return;
@@ -44,8 +49,8 @@ void EventHintActions::ControlEvents(ConversionSession& s, const std::string& ki
   // Renames work in the code of the form that holds the control.
   const EventCode code(s, control.FormName, holder->Name(), hintForm);
   const ControlEventWriter writer(code, *design, control.VbName);
-  if (!WriteControlEvents(kind, writer, control.ComboKind))
-    HintActions::ControlEvents(s, kind, hintForm, control);
+  if (!WriteControlEvents(ControlEventKindName(control.Kind), writer, control.ComboKind))
+    HintActions::ControlEvents(s, hintForm, control);
 }
 
 void EventHintActions::FormEvents(ConversionSession& s, const std::string& formName,

@@ -17,8 +17,8 @@ class DesignStore;
 class EventHintActions : public HintActions {
  public:
   explicit EventHintActions(DesignStore& store) : store_(store) {}
-  void ControlEvents(ConversionSession& s, const std::string& kind, const std::string& hintForm,
-                     const ControlHint& control) override;
+  void ControlEvents(ConversionSession& s, const std::string& hintForm,
+                     const ControlCodeHint& control) override;
   void FormEvents(ConversionSession& s, const std::string& formName, const std::string& hintForm,
                   const std::string& subformControl) override;
 

@@ -128,7 +128,7 @@ class FormEventWriter {
         isSubform_(isSubform),
         clean_(SafeName(code.FormName())),
         dataControl_("dat" + clean_),
-        useAdo_(code.Session().UseAdo) {}
+        useAdo_(code.Session().Options.UseAdo) {}
 
   void Write() {
     for (const PlainFormEvent& e : kPlainFormEvents) PlainEvent(e);

@@ -53,7 +53,7 @@ void SheridanUpdateEvents(const ControlEventWriter& w) {
 // Click, AfterUpdate and BeforeUpdate of a list box.
 void ListBoxClick(const ControlEventWriter& w) {
   const EventCode& code = w.Code();
-  const int listType = w.Session().ListboxType;
+  const int listType = w.Session().Options.ListboxType;
   const std::string click = w.Value("OnClick");
   const std::string afterUpdate = w.Value("AfterUpdate");
   const bool updates = !afterUpdate.empty() || !w.Value("BeforeUpdate").empty();
@@ -85,7 +85,7 @@ void ListBoxCode(const ControlEventWriter& w) {
   for (const auto& [property, suffix] : kListMouseAndKeyEvents) w.Plain(property, suffix);
   w.GotFocusWithEnter();
   w.LostFocusWithExit({}, {}, false);
-  w.Validate(!IsSheridan(w.Session().ListboxType));
+  w.Validate(!IsSheridan(w.Session().Options.ListboxType));
 }
 
 void ComboBoxCode(const ControlEventWriter& w, int comboKind) {
@@ -140,13 +140,13 @@ void ComboBoxCode(const ControlEventWriter& w, int comboKind) {
   w.Plain("OnKeyDown", "_KeyDown(KeyCode As " + by + "Integer, Shift As Integer)");
   w.Plain("OnKeyPress", "_KeyPress(KeyAscii As " + by + "Integer)");
   w.Plain("OnKeyUp", "_KeyUp(KeyCode As " + by + "Integer, Shift As Integer)");
-  w.Validate(!w.Session().IsVb5);
+  w.Validate(!w.Session().Options.IsVb5);
   w.Plain("OnChange", "_Change()");
   w.GotFocusWithEnter();
 
   // A Sheridan combo box tells on leaving whether its text is in the list.
   const std::string notInList = w.Value("OnNotInList");
-  if (!notInList.empty() && IsSheridan(w.Session().ComboboxType)) {
+  if (!notInList.empty() && IsSheridan(w.Session().Options.ComboboxType)) {
     const std::string vb = w.VbName();
     const std::vector<std::string> lines{
         "If Not " + vb + ".IsItemInList Then",

@@ -31,17 +31,22 @@ void PutText(FormWriter& w, std::string text) {
   w.PutControlText(text);
 }
 
-void AddControlHint(FormWriter& w, const ControlDesign& c, std::string_view record) {
+void AddControlHint(FormWriter& w, const ControlDesign& c, ControlEventKind kind) {
   ConversionSession& s = w.Session();
   const FormTextSet& t = w.Text();
-  AddHint(s, {std::string(record), t.OwnerFormName, c.Name(), s.CurrentControlName,
-              t.ParentControlName});
+  ControlCodeHint hint;
+  hint.Kind = kind;
+  hint.FormName = t.OwnerFormName;
+  hint.AccessName = c.Name();
+  hint.VbName = s.Form().CurrentControlName;
+  hint.SubformControl = t.ParentControlName;
+  hint.Design = &c;
+  AddHint(s, std::move(hint));
 }
 
-void AddReportHint(FormWriter& w, std::string_view reason) {
+void AddReportHint(FormWriter& w, long reason) {
   ConversionSession& s = w.Session();
-  AddHint(s, {"AddToReport", w.Text().OwnerFormName, std::string(reason), s.CurrentControlName, "0",
-              "", ""});
+  AddHint(s, ReportRowHint{w.Text().OwnerFormName, reason, s.Form().CurrentControlName, 0, "", ""});
 }
 
 void CountControl(FormWriter& w, int partial) {
@@ -50,7 +55,7 @@ void CountControl(FormWriter& w, int partial) {
 }
 
 void FinishControl(FormWriter& w, const ControlDesign& c, std::string text,
-                   std::string_view eventRecord) {
+                   ControlEventKind eventRecord) {
   AddLine(text, "End");
   PutText(w, std::move(text));
   AddControlHint(w, c, eventRecord);

@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "session/hint_records.h"
+
 namespace morvane {
 
 class DesignObject;
@@ -21,17 +23,17 @@ const ControlDesign* BeginControl(FormWriter& w);
 // Hands the built lines (each ended by CR LF) to PutControlText without the
 // last line end.
 void PutText(FormWriter& w, std::string text);
-// A control hint record: the record name, then OwnerFormName, the control's
-// Access name, CurrentControlName and ParentControlName.
-void AddControlHint(FormWriter& w, const ControlDesign& c, std::string_view record);
-// "AddToReport" for a control that is converted only in part: the owner
-// form, the reason, CurrentControlName, 0 and two empty fields.
-void AddReportHint(FormWriter& w, std::string_view reason);
+// The control's event record: OwnerFormName, the control's Access name and
+// design, CurrentControlName and ParentControlName.
+void AddControlHint(FormWriter& w, const ControlDesign& c, ControlEventKind kind);
+// The analysis row of a control that is converted only in part: the owner
+// form, the reason and CurrentControlName.
+void AddReportHint(FormWriter& w, long reason);
 void CountControl(FormWriter& w, int partial = 0);
 // Closes a control's lines with "End", puts them into the form, sends the
-// control's event record (`eventRecord`, such as "ButtonCode") and counts it.
+// control's event record and counts it.
 void FinishControl(FormWriter& w, const ControlDesign& c, std::string text,
-                   std::string_view eventRecord);
+                   ControlEventKind eventRecord);
 
 // "dat" + SafeName(CurrentForm.Name), the name of the form's data control.
 std::string DataControlName(const FormWriter& w);

@@ -7,8 +7,8 @@
 #include "forms/control_writers.h"
 
 #include "design/control_types.h"
-#include "forms/control_writer_frame.h"
 #include "design/form_design.h"
+#include "forms/control_writer_frame.h"
 #include "forms/form_writer.h"
 #include "forms/frm_text.h"
 #include "forms/record_source.h"
@@ -25,7 +25,7 @@ constexpr const char* kThreedFile = "THREED32.OCX";
 
 // The reason of an "AddToReport" record for a control that is converted
 // only in part.
-constexpr const char* kPartlyConverted = "4";
+constexpr long kPartlyConverted = 4;
 
 // Height, Left, Top and Width in this order, the most common run of lines.
 void AddBoxLines(std::string& text, const FormWriter& w, const ControlDesign& c) {
@@ -46,8 +46,9 @@ void AddLabelCaption(std::string& text, FormWriter& w, const ControlDesign& c) {
   }
   AddLine(text, "Caption=\"Caption set in Form_Load event\"");
   if (caption)
-    AddHint(s, {"LabelCaptionFromCode", s.CurrentControlName,
-                ReplaceAllText(EscapeQuotes(*caption), "\r\n", "\" & vbCrLf & \"")});
+    AddHint(s,
+            LabelCaptionHint{s.Form().CurrentControlName,
+                             ReplaceAllText(EscapeQuotes(*caption), "\r\n", "\" & vbCrLf & \"")});
 }
 
 // A label whose caption the control it belongs to writes: one in an option
@@ -75,7 +76,7 @@ void WriteLabel(FormWriter& w) {
   const ControlDesign& c = *BeginControl(w);
   ConversionSession& s = w.Session();
   std::string text;
-  AddLine(text, "Begin VB.Label " + s.CurrentControlName);
+  AddLine(text, "Begin VB.Label " + s.Form().CurrentControlName);
   AddLine(text, "BackColor= &H", Hex(c, "BackColor"), "&");
   if (IsZeroOrUnread(c.Number("BackStyle"))) AddLine(text, "BackStyle=0");
   AddLine(text, IsZeroOrUnread(c.Number("BorderStyle")) ? "BorderStyle=0" : "BorderStyle=1");
@@ -90,7 +91,7 @@ void WriteLabel(FormWriter& w) {
   AddLine(text, "End");
   PutText(w, std::move(text));
   // A label's events are generated as an image's.
-  if (ParentIsCurrentForm(w, c)) AddControlHint(w, c, "ImageCode");
+  if (ParentIsCurrentForm(w, c)) AddControlHint(w, c, ControlEventKind::Image);
   CountControl(w);
 }
 
@@ -100,7 +101,7 @@ void WriteLineControl(FormWriter& w) {
   const ControlDesign& c = *current;
   ConversionSession& s = w.Session();
   std::string text;
-  AddLine(text, "Begin VB.Line " + s.CurrentControlName);
+  AddLine(text, "Begin VB.Line " + s.Form().CurrentControlName);
   AddLine(text, "BorderColor =  &H", Hex(c, "BorderColor"), "&");
   if (auto width = c.Number("BorderWidth"); width && *width > 0)
     AddLine(text, "BorderWidth = ", width);
@@ -125,9 +126,9 @@ void WriteImage(FormWriter& w) {
   const ControlDesign& c = *current;
   ConversionSession& s = w.Session();
   std::string text;
-  AddLine(text, "Begin VB.PictureBox " + s.CurrentControlName);
+  AddLine(text, "Begin VB.PictureBox " + s.Form().CurrentControlName);
   AddFontLines(text, c);
-  AddLine(text, "Height = ", Sum(c.Number("Height"), w.Text().SectionOffset));
+  AddLine(text, "Height = ", Sum(c.Number("Height"), w.Text().Place.SectionOffset));
   AddLine(text, "Left = ", w.ControlLeft(c));
   AddLine(text, "ScaleHeight = 6180");
   AddLine(text, "ScaleWidth = 7410");
@@ -141,7 +142,7 @@ void WriteImage(FormWriter& w) {
   AddLine(text, "Width = ", ValueText(c, "Width"));
   AddVisibleLine(text, c);
   if (HasPicture(c)) AddLine(text, "", PictureLine(w, PictureHolder(c), c));
-  FinishControl(w, c, std::move(text), "ImageCode");
+  FinishControl(w, c, std::move(text), ControlEventKind::Image);
 }
 
 void WriteCommandButton(FormWriter& w) {
@@ -159,7 +160,7 @@ void WriteCommandButton(FormWriter& w) {
   auto fore = c.Number("ForeColor");
   if ((!fore || *fore > 0) && !picture) {
     w.AddComponent(kThreedGuid, kThreedFile);
-    AddLine(text, "Begin Threed.SSCommand " + s.CurrentControlName);
+    AddLine(text, "Begin Threed.SSCommand " + s.Form().CurrentControlName);
     AddLine(text, "_Version = 65536");
     AddLine(text, "_StockProps = 78");
     AddLine(text, "ForeColor= &H", Hex(c, "ForeColor"), "&");
@@ -169,7 +170,7 @@ void WriteCommandButton(FormWriter& w) {
     AddFontLines(text, c, true);
     AddLine(text, "AutoSize = 0");
   } else {
-    AddLine(text, "Begin VB.CommandButton " + s.CurrentControlName);
+    AddLine(text, "Begin VB.CommandButton " + s.Form().CurrentControlName);
     AddFontLines(text, c);
     if (picture) {
       if (auto line = PictureLine(w, ButtonPictureHolder(w, c), c)) {
@@ -196,7 +197,7 @@ void WriteCommandButton(FormWriter& w) {
   AddTipLine(text, c);
   AddEnabledLine(text, c);
   AddTabStopLine(text, c);
-  FinishControl(w, c, std::move(text), "ButtonCode");
+  FinishControl(w, c, std::move(text), ControlEventKind::Button);
 }
 
 void WriteShape(FormWriter& w) {
@@ -205,7 +206,7 @@ void WriteShape(FormWriter& w) {
   const ControlDesign& c = *current;
   ConversionSession& s = w.Session();
   std::string text;
-  AddLine(text, "Begin VB.Shape " + s.CurrentControlName);
+  AddLine(text, "Begin VB.Shape " + s.Form().CurrentControlName);
   AddVisibleLine(text, c);
   AddBoxLines(text, w, c);
   AddLine(text, "FillColor = &H", Hex(c, "BackColor"), "&");
@@ -223,7 +224,7 @@ void WriteBoundObjectFrame(FormWriter& w) {
   const ControlDesign& c = *current;
   ConversionSession& s = w.Session();
   std::string text;
-  AddLine(text, "Begin  VB.OLE " + s.CurrentControlName);
+  AddLine(text, "Begin  VB.OLE " + s.Form().CurrentControlName);
   AddVisibleLine(text, c);
   AddBoxLines(text, w, c);
   AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
@@ -240,7 +241,7 @@ void WriteBoundObjectFrame(FormWriter& w) {
   AddTagLine(text, c);
   AddLine(text, "End");
   PutText(w, std::move(text));
-  AddControlHint(w, c, "BoundObjectFrameCode");
+  AddControlHint(w, c, ControlEventKind::BoundObjectFrame);
   AddReportHint(w, kPartlyConverted);
   CountControl(w, 1);
 }
@@ -256,7 +257,7 @@ void WriteCustomControl(FormWriter& w) {
   // left out of the form.
   if (vbClass.empty()) return;
   std::string text;
-  AddLine(text, "Begin " + vbClass + " " + s.CurrentControlName);
+  AddLine(text, "Begin " + vbClass + " " + s.Form().CurrentControlName);
   AddLine(text, "Height = ", ValueText(c, "Height"));
   AddLine(text, "Left = ", w.ControlLeft(c));
   AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));

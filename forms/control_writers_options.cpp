@@ -6,9 +6,9 @@
 #include <string_view>
 
 #include "design/control_types.h"
+#include "design/form_design.h"
 #include "forms/control_writer_frame.h"
 #include "forms/control_writers.h"
-#include "design/form_design.h"
 #include "forms/form_writer.h"
 #include "forms/frm_text.h"
 #include "session/conversion_session.h"
@@ -75,8 +75,8 @@ void AddLabelLines(std::string& text, const ControlDesign* label, const std::str
 }
 
 long BreakTop(const FormTextSet& t) {
-  if (t.PageIndex < 0 || static_cast<size_t>(t.PageIndex) >= t.PageBreakTops.size()) return 0;
-  return t.PageBreakTops[static_cast<size_t>(t.PageIndex)];
+  if (t.Place.PageIndex < 0 || static_cast<size_t>(t.Place.PageIndex) >= t.Place.PageBreakTops.size()) return 0;
+  return t.Place.PageBreakTops[static_cast<size_t>(t.Place.PageIndex)];
 }
 
 // The position of a member inside its group's frame.
@@ -89,8 +89,8 @@ MemberPlace PlaceInGroup(const FormTextSet& t, const ControlDesign& group, const
   MemberPlace place;
   auto left = k.Number("Left"), groupLeft = group.Number("Left");
   auto top = k.Number("Top"), groupTop = group.Number("Top");
-  if (left && groupLeft) place.Left = *left - *groupLeft + t.SubformLeft + 50;
-  if (top && groupTop) place.Top = *top - *groupTop + 150 + t.SubformTop - BreakTop(t);
+  if (left && groupLeft) place.Left = *left - *groupLeft + t.Place.SubformLeft + 50;
+  if (top && groupTop) place.Top = *top - *groupTop + 150 + t.Place.SubformTop - BreakTop(t);
   return place;
 }
 
@@ -113,7 +113,7 @@ class GroupMembers {
   GroupMembers(FormWriter& w, const ControlDesign& group, std::string& text)
       : w_(w), s_(w.Session()), t_(w.Text()), group_(group), text_(text) {
     auto source = CurrentFormOf(w) ? CurrentFormOf(w)->Text("RecordSource") : std::nullopt;
-    sheridan_ = s_.SsOptionSet && (!source || !source->empty());
+    sheridan_ = s_.Options.SsOptionSet && (!source || !source->empty());
   }
 
   void Write() {
@@ -137,9 +137,9 @@ class GroupMembers {
 
  private:
   void WriteButton(const ControlDesign& k) {
-    const std::string& name = s_.CurrentControlName;
+    const std::string& name = s_.Form().CurrentControlName;
     if (sheridan_) {
-      const Component& set = s_.ListboxType == 3 ? kOptionSetOleDb : kOptionSetData;
+      const Component& set = s_.Options.ListboxType == 3 ? kOptionSetOleDb : kOptionSetData;
       w_.AddComponent(set.Guid, set.File);
       if (optionSet_.empty()) {
         WriteSetHead(k);
@@ -178,7 +178,7 @@ class GroupMembers {
 
   // The head of a Sheridan option set, bound to the group's field.
   void WriteSetHead(const ControlDesign& k) {
-    AddLine(text_, "Begin SSDataWidgets_A.SSDBOptSet " + s_.CurrentControlName);
+    AddLine(text_, "Begin SSDataWidgets_A.SSDBOptSet " + s_.Form().CurrentControlName);
     AddLine(text_, "DataSource =\"" + DataControlName(w_) + "\"");
     AddLine(text_, "DataField =\"", group_.Text("ControlSource"), "\"");
     AddLine(text_, "_ExtentX =3228");
@@ -187,21 +187,21 @@ class GroupMembers {
     auto left = k.Number("Left"), groupLeft = group_.Number("Left");
     if (left && groupLeft)
       AddLine(text_,
-              "Left = " + std::to_string(*left - *groupLeft + t_.SubformLeft + t_.PageLeft + 50));
+              "Left = " + std::to_string(*left - *groupLeft + t_.Place.SubformLeft + t_.Place.PageLeft + 50));
     AddLine(text_, "Index = " + std::to_string(n_));
     AddLine(text_, "TabIndex = 94");
     const long o =
-        (group_.Section() == 0 || t_.InSubform || t_.InTabControl) ? t_.SectionOffset : 0;
+        (group_.Section() == 0 || t_.InSubform || t_.InTabControl) ? t_.Place.SectionOffset : 0;
     auto top = k.Number("Top"), groupTop = group_.Number("Top");
     if (top && groupTop)
       AddLine(text_,
-              "Top = " + std::to_string(*top - *groupTop + o + 150 + t_.SubformTop - t_.TabShift));
+              "Top = " + std::to_string(*top - *groupTop + o + 150 + t_.Place.SubformTop - t_.Place.TabShift));
     AddVisibleLine(text_, k);
   }
 
   void WriteToggle(const ControlDesign& k) {
     const MemberPlace place = PlaceInGroup(t_, group_, k);
-    AddLine(text_, "Begin VB.OptionButton " + s_.CurrentControlName);
+    AddLine(text_, "Begin VB.OptionButton " + s_.Form().CurrentControlName);
     AddToggleLines(text_, k);
     AddLine(text_, "Left = ", place.Left);
     AddTogglePicture(text_, w_, k);
@@ -240,12 +240,12 @@ void AddGroupBindingHint(FormWriter& w, const ControlDesign& group) {
   auto source = group.Text("ControlSource");
   if (!source) return;
   if (!source->empty() && (*source)[0] == '=') {
-    AddHint(s, {"AddDataCtlEntry", DataControlName(w),
-                s.CurrentControlName + "(" + source->substr(1) + ").value = true"});
+    AddHint(s, DataControlEntryHint{DataControlName(w), s.Form().CurrentControlName + "(" +
+                                                            source->substr(1) + ").value = true"});
   } else if (!source->empty()) {
-    AddHint(s, {"AddDataCtlEntry", DataControlName(w),
-                s.CurrentControlName + "(" + DataControlName(w) + ".recordset.Fields(\"" + *source +
-                    "\")-1).value = true"});
+    AddHint(s, DataControlEntryHint{DataControlName(w),
+                                    s.Form().CurrentControlName + "(" + DataControlName(w) +
+                                        ".recordset.Fields(\"" + *source + "\")-1).value = true"});
   }
 }
 
@@ -257,7 +257,7 @@ void AddGroupDefaultHint(FormWriter& w, const ControlDesign& group) {
   const bool expression = (*value)[0] == '=';
   auto index = AbsText(expression ? std::string_view(*value).substr(1) : std::string_view(*value));
   if (!index) return;
-  AddHint(s, {"FLS", s.CurrentControlName + "(" + *index + ").Value = True"});
+  AddHint(s, FormLoadLineHint{s.Form().CurrentControlName + "(" + *index + ").Value = True"});
 }
 
 }  // namespace
@@ -270,7 +270,7 @@ void WriteCheckBox(FormWriter& w) {
   const ControlDesign& c = *BeginControl(w);
   ConversionSession& s = w.Session();
   std::string text;
-  AddLine(text, "Begin VB.CheckBox " + s.CurrentControlName);
+  AddLine(text, "Begin VB.CheckBox " + s.Form().CurrentControlName);
   AddLine(text, "Caption =  \"", c.Text("Caption"), "\"");
   if (AddPlainValue(text, w, c, kCheckBoxValues))
     AddLine(text, IsTrueOrUnread(c.Flag("TripleState")) ? "Value = 2" : "Value = 0");
@@ -290,7 +290,7 @@ void WriteCheckBox(FormWriter& w) {
     AddCalculatedBinding(w, c, ".value");
   else
     AddBindingLines(text, w, c);
-  FinishControl(w, c, std::move(text), "CheckBoxCode");
+  FinishControl(w, c, std::move(text), ControlEventKind::CheckBox);
 }
 
 void WriteOptionGroup(FormWriter& w) {
@@ -300,7 +300,7 @@ void WriteOptionGroup(FormWriter& w) {
   const ControlDesign& c = *BeginControl(w);
   ConversionSession& s = w.Session();
   std::string text;
-  AddLine(text, "Begin VB.Frame grp" + s.CurrentControlName);
+  AddLine(text, "Begin VB.Frame grp" + s.Form().CurrentControlName);
   // The group's own label gives the frame its caption and colours.
   if (const ControlDesign* label = AttachedLabel(w, c.Name())) {
     AddLine(text, "Caption =  \"", OneLine(*label, "Caption"), "\"");
@@ -318,13 +318,13 @@ void WriteOptionGroup(FormWriter& w) {
   AddLine(text, "Width = ", ValueText(c, "Width"));
   AddVisibleLine(text, c);
   // A Sheridan option set binds itself.
-  if (!s.SsOptionSet) {
+  if (!s.Options.SsOptionSet) {
     AddGroupBindingHint(w, c);
     AddGroupDefaultHint(w, c);
   }
   CountControl(w);  // the frame
   GroupMembers(w, c, text).Write();
-  FinishControl(w, c, std::move(text), "OptionGroupCode");
+  FinishControl(w, c, std::move(text), ControlEventKind::OptionGroup);
 }
 
 void WriteOptionButton(FormWriter& w) {
@@ -333,7 +333,7 @@ void WriteOptionButton(FormWriter& w) {
   const ControlDesign& c = *current;
   ConversionSession& s = w.Session();
   std::string text;
-  AddLine(text, "Begin VB.OptionButton " + s.CurrentControlName);
+  AddLine(text, "Begin VB.OptionButton " + s.Form().CurrentControlName);
   AddLine(text, "Left = ", w.ControlLeft(c));
   AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));
   AddLine(text, "Top = ", w.ControlTop(c));
@@ -351,7 +351,7 @@ void WriteOptionButton(FormWriter& w) {
     AddTogglePicture(text, w, c);
   }
   AddPlainValue(text, w, c, kOptionButtonValues);
-  FinishControl(w, c, std::move(text), "OptionGroupCode");
+  FinishControl(w, c, std::move(text), ControlEventKind::OptionGroup);
 }
 
 }  // namespace morvane

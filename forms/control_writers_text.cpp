@@ -2,9 +2,9 @@
 // for a box that shows a date or time format when the options ask for one.
 #include <string_view>
 
+#include "design/form_design.h"
 #include "forms/control_writer_frame.h"
 #include "forms/control_writers.h"
-#include "design/form_design.h"
 #include "forms/form_writer.h"
 #include "forms/frm_text.h"
 #include "session/conversion_session.h"
@@ -61,7 +61,7 @@ void AddDatePickerLines(std::string& text, FormWriter& w, const ControlDesign& c
                         const DateFormatRow& format) {
   ConversionSession& s = w.Session();
   w.AddComponent(kDatePickerGuid, kDatePickerFile);
-  AddLine(text, "Begin MSComCtl2.DTPicker " + s.CurrentControlName);
+  AddLine(text, "Begin MSComCtl2.DTPicker " + s.Form().CurrentControlName);
   AddLine(text, "Left = ", w.ControlLeft(c));
   AddLine(text, "Top = ", w.ControlTop(c));
   AddLine(text, "_Version = 393216");
@@ -78,7 +78,7 @@ void AddDatePickerLines(std::string& text, FormWriter& w, const ControlDesign& c
 
 void AddTextBoxLines(std::string& text, FormWriter& w, const ControlDesign& c) {
   ConversionSession& s = w.Session();
-  AddLine(text, "Begin VB.TextBox " + s.CurrentControlName);
+  AddLine(text, "Begin VB.TextBox " + s.Form().CurrentControlName);
   AddTextBinding(text, w, c);
   const bool flat = IsZeroOrUnread(c.Number("SpecialEffect"));
   AddLine(text,
@@ -109,7 +109,7 @@ void WriteTextBox(FormWriter& w) {
   ConversionSession& s = w.Session();
   std::string text;
   const DateFormatRow* format = DateFormatOf(c);
-  if (!s.IsVb5 && s.DatePicker && format)
+  if (!s.Options.IsVb5 && s.Options.DatePicker && format)
     AddDatePickerLines(text, w, c, *format);
   else
     AddTextBoxLines(text, w, c);
@@ -131,7 +131,7 @@ void WriteTextBox(FormWriter& w) {
   AddTipLine(text, c);
   AddTagLine(text, c);
   AddVisibleLine(text, c);
-  FinishControl(w, c, std::move(text), "TextBoxCode");
+  FinishControl(w, c, std::move(text), ControlEventKind::TextBox);
 }
 
 }  // namespace morvane

@@ -118,16 +118,17 @@ void WriteFormDataControl(FormWriter& w) {
   const int type = form->Number("RecordsetType") == 2 ? 2 : 1;
   const std::string source = EscapeQuotes(JoinLines(recordSource));
   // On a page-broken form the client area is the first page's height.
-  long top = t.Total - 330;
-  if (t.PageBreakTops.size() > 1) {
+  long top = t.Place.Total - 330;
+  if (t.Place.PageBreakTops.size() > 1) {
     const SectionDesign* detail = form->Section(0);
     const long detailHeight = detail ? detail->Number("Height").value_or(0) : 0;
-    top = t.Total - detailHeight + t.PageBreakTops[1] + 520 - 330;
+    top = t.Place.Total - detailHeight + t.Place.PageBreakTops[1] + 520 - 330;
   }
   const bool visible = t.InSubform || form->Flag("NavigationButtons").value_or(true);
   std::string text =
-      s.UseAdo ? WriteAdoDataControl(w, name, t.SubformLeft, type, source, top, visible, formName)
-               : WriteDataControl(w, name, t.SubformLeft, type, source, top, visible, formName);
+      s.Options.UseAdo
+          ? WriteAdoDataControl(w, name, t.Place.SubformLeft, type, source, top, visible, formName)
+          : WriteDataControl(w, name, t.Place.SubformLeft, type, source, top, visible, formName);
   // The control's text ends with its line end; the next control brings its own.
   if (text.ends_with("\r\n")) text.resize(text.size() - 2);
   t.BodyText += "\r\n" + text;
@@ -137,12 +138,12 @@ void WriteFormDataControl(FormWriter& w) {
   // current row restricts what the subform shows.
   const std::string parent = "dat" + SafeName(t.OwnerFormName);
   const std::string d = "dat" + name;
-  AddHint(s, {"AddDataCtlEntry", parent, d + ".Recordset.MoveFirst"});
-  AddHint(s, {"AddDataCtlEntry", parent, d + ".Recordset.Movelast"});
-  AddHint(s, {"AddDataCtlEntry", parent, d + ".refresh"});
+  AddHint(s, DataControlEntryHint{parent, d + ".Recordset.MoveFirst"});
+  AddHint(s, DataControlEntryHint{parent, d + ".Recordset.Movelast"});
+  AddHint(s, DataControlEntryHint{parent, d + ".refresh"});
   std::string link;
   if (t.CurrentControl) link = SubformLinkSql(w, recordSource, *t.CurrentControl);
-  AddHint(s, {"AddDataCtlEntry", parent, d + ".RecordSource=\"" + link});
+  AddHint(s, DataControlEntryHint{parent, d + ".RecordSource=\"" + link});
 }
 
 std::string WriteDataControl(FormWriter& w, const std::string& name, long left, int type,
@@ -155,23 +156,23 @@ std::string WriteDataControl(FormWriter& w, const std::string& name, long left, 
   AddLine(text, "Begin VB.Data " + dat);
   AddLine(text, "Caption = \"" + dat + "\"");
   AddLine(text, "Connect = \"Access\"");
-  AddLine(text, "DatabaseName = \"" + (s.RelativePaths ? std::string() : s.OutputPath) +
+  AddLine(text, "DatabaseName = \"" + (s.Options.RelativePaths ? std::string() : s.OutputPath) +
                     DatabaseFileName(s) + "\"");
   AddLine(text, "Exclusive = 0");
   AddLine(text, "Height = 300");
-  AddLine(text, "Left = " + std::to_string(left + w.Text().PageLeft));
+  AddLine(text, "Left = " + std::to_string(left + w.Text().Place.PageLeft));
   AddLine(text, "Options = 0");
   AddLine(text, "ReadOnly = " + std::to_string(type - 1));
   AddLine(text, "RecordsetType = " + std::to_string(type));
   if (!source.empty()) AddLine(text, "RecordSource = \"" + source + "\"");
   AddLine(text, "Top = " + std::to_string(top));
   if (formName) {
-    AddHint(s, {"AddDataCtlEntry", dat, ""});
+    AddHint(s, DataControlEntryHint{dat, ""});
     FillFields(s, source, name);
   }
   if (visible) {
     AddLine(text, "Width = 2700");
-    AddHint(s, {"AddDataMove", formName.value_or(""), dat});
+    AddHint(s, DataMoveHint{formName.value_or(""), dat});
   } else {
     AddLine(text, "Width = 1215");
   }
@@ -190,11 +191,11 @@ std::string WriteAdoDataControl(FormWriter& w, const std::string& name, long lef
   std::string text;
   AddLine(text, "Begin MSAdodcLib.Adodc " + dat);
   AddLine(text, "Height = 300");
-  AddLine(text, "Left = " + std::to_string(left + w.Text().PageLeft));
+  AddLine(text, "Left = " + std::to_string(left + w.Text().Place.PageLeft));
   AddLine(text, "Top = " + std::to_string(top));
   if (visible) {
     AddLine(text, "Width = 2700");
-    AddHint(s, {"AddDataMove", formName.value_or(""), dat});
+    AddHint(s, DataMoveHint{formName.value_or(""), dat});
   } else {
     AddLine(text, "Width = 1215");
   }
@@ -208,7 +209,7 @@ std::string WriteAdoDataControl(FormWriter& w, const std::string& name, long lef
   AddLine(text, "CursorType = " + std::to_string(type + 1));
   AddLine(text, "LockType = 3");
   if (formName) {
-    AddHint(s, {"AddDataCtlEntry", dat, ""});
+    AddHint(s, DataControlEntryHint{dat, ""});
     AddLine(text, "CommandType = " + std::to_string(AdoCommandType(w, source, formName)));
     FillFields(s, source, name);
   }
@@ -223,8 +224,8 @@ std::string WriteAdoDataControl(FormWriter& w, const std::string& name, long lef
   AddLine(text, "ForeColor = -2147483640");
   AddLine(text, "Orientation = 0");
   AddLine(text, "Enabled = -1");
-  AddLine(text, "Connect = \"" + s.AdoConnect + "\"");
-  AddLine(text, "OLEDBString = \"" + s.AdoConnect + "\"");
+  AddLine(text, "Connect = \"" + s.Options.AdoConnect + "\"");
+  AddLine(text, "OLEDBString = \"" + s.Options.AdoConnect + "\"");
   AddLine(text, "OLEDBFile = \"\"");
   AddLine(text, "DataSourceName = \"\"");
   AddLine(text, "OtherAttributes = \"\"");
@@ -239,16 +240,12 @@ std::string WriteAdoDataControl(FormWriter& w, const std::string& name, long lef
   return text;
 }
 
-std::string WriteBindingsRecord(FormWriter& w, const std::string& text, const std::string& formName,
-                                bool isList, bool emptyPicture) {
-  const ConversionSession& s = w.Session();
-  const std::filesystem::path frx = s.OutputPath + SafeName(formName) + ".frx";
-  std::error_code ec;
-  std::uintmax_t offset = 0;
-  if (std::filesystem::exists(frx, ec)) {
-    offset = std::filesystem::file_size(frx, ec);
-    if (ec) return std::string();
-  }
+std::string WriteBindingsRecord(FormWriter& w, const std::string& text, bool isList,
+                                bool emptyPicture) {
+  ConversionSession& s = w.Session();
+  // The records go to the binary file of the form being converted.
+  std::string& frx = s.Form().Binary;
+  const std::uintmax_t offset = frx.size();
 
   std::string record;
   if (emptyPicture) {
@@ -257,16 +254,16 @@ std::string WriteBindingsRecord(FormWriter& w, const std::string& text, const st
     // The length is one byte: a longer text is cut so the record stays whole.
     const std::string body = text.substr(0, 255);
     const FormTextSet& t = w.Text();
-    if (s.UseAdo || t.InRepeater) {
+    if (s.Options.UseAdo || t.InRepeater) {
       record.assign(reinterpret_cast<const char*>(kAdoBindingsTag), sizeof kAdoBindingsTag);
       unsigned char kind[2] = {0x4E, 0x04};
-      if (isList && s.PlainListControl) {
+      if (isList && s.Form().PlainListControl) {
         kind[0] = 0x68, kind[1] = 0x00;
       } else if (isList) {
         kind[0] = 0xF1, kind[1] = 0x03;
       } else if (t.InRepeater) {
         kind[0] = 0x03, kind[1] = 0x00;
-      } else if (s.ListboxType == 4 || s.ListboxType == 5) {
+      } else if (s.Options.ListboxType == 4 || s.Options.ListboxType == 5) {
         kind[0] = 0x2A, kind[1] = 0x00;
       }
       record += static_cast<char>(kind[0]);
@@ -274,17 +271,14 @@ std::string WriteBindingsRecord(FormWriter& w, const std::string& text, const st
       record.append(2, '\0');
     } else {
       record.assign(reinterpret_cast<const char*>(kDaoBindingsTag), sizeof kDaoBindingsTag);
-      record += static_cast<char>(!isList ? 0x01 : s.PlainListControl ? 0x10 : 0x2B);
+      record += static_cast<char>(!isList ? 0x01 : s.Form().PlainListControl ? 0x10 : 0x2B);
       record.append(3, '\0');
     }
     record += static_cast<char>(body.size());
     record += body;
   }
 
-  std::ofstream out(frx, std::ios::binary | std::ios::app);
-  out.write(record.data(), static_cast<std::streamsize>(record.size()));
-  out.close();
-  if (!out) return std::string();
+  frx += record;
   return OffsetText(offset);
 }
 

@@ -23,10 +23,9 @@ std::string WriteAdoDataControl(FormWriter& w, const std::string& name, long lef
                                 const std::string& source, long top, bool visible,
                                 const std::optional<std::string>& formName = std::nullopt);
 
-// Appends a record to the .frx of `formName` and returns the offset text the
-// form text refers to it by; "" when the file cannot be written, and the
-// caller's line is then left out.
-std::string WriteBindingsRecord(FormWriter& w, const std::string& text, const std::string& formName,
-                                bool isList, bool emptyPicture = false);
+// Appends a record to the .frx of the form being converted and returns the
+// offset text the form text refers to it by.
+std::string WriteBindingsRecord(FormWriter& w, const std::string& text, bool isList,
+                                bool emptyPicture = false);
 
 }  // namespace morvane

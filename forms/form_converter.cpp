@@ -13,9 +13,9 @@ void DesignFormConverter::ConvertForm(ConversionSession& s, const std::string& n
   FormWriter writer(s, store_);
   std::string err;
   if (!writer.ConvertForm(name, &err)) {
-    // Nothing was written; the form stays out of the project and the
-    // analysis says why.
-    s.FormFailed = true;
+    // The form has no text; it stays out of the project and the analysis
+    // says why.
+    s.Form().FormFailed = true;
     if (s.SupportDb) s.SupportDb->AddRunNote(name, err.empty() ? "the form was not written" : err);
   }
 }
@@ -26,7 +26,7 @@ void DesignFormConverter::ProcessHints(ConversionSession& s, const std::string& 
 
 void DesignFormConverter::AddDatasheetGrids(ConversionSession& s, const std::string& name) {
   if (!s.SupportDb) return;
-  for (const auto& grid : s.DatasheetForms)
+  for (const auto& grid : s.Form().DatasheetForms)
     if (!grid.empty())
       s.SupportDb->AddRunNote(name, "the datasheet subform " + grid + " is not converted yet");
 }

@@ -2,10 +2,11 @@
 // names, routing of control text, section frames and the final assembly.
 #include "forms/form_writer.h"
 
-#include "forms/control_writers.h"
-#include "forms/data_controls.h"
+#include "design/control_types.h"
 #include "design/design_store.h"
 #include "design/form_design.h"
+#include "forms/control_writers.h"
+#include "forms/data_controls.h"
 #include "forms/frm_text.h"
 #include "forms/picture_extraction.h"
 #include "platform/support_db.h"
@@ -19,15 +20,10 @@ namespace morvane {
 
 namespace {
 
-constexpr int kLabel = 100, kRectangle = 101, kLine = 102, kImage = 103, kButton = 104,
-              kOptionButton = 105, kCheckBox = 106, kOptionGroup = 107, kBoundObject = 108,
-              kTextBox = 109, kListBox = 110, kComboBox = 111, kSubform = 112, kUnboundObject = 114,
-              kPageBreak = 118, kCustom = 119, kToggle = 122, kTab = 123, kPage = 124;
-
 bool IsTabOrPage(const DesignObject& o) {
   if (o.Kind() != DesignKind::Control) return false;
   int type = static_cast<const ControlDesign&>(o).ControlType();
-  return type == kTab || type == kPage;
+  return type == kTabControl || type == kPage;
 }
 
 std::optional<long> SectionHeight(const FormDesign& f, int n) {
@@ -49,45 +45,85 @@ void NotConvertedYet(ConversionSession& s, const std::string& form, const std::s
   if (s.SupportDb) s.SupportDb->AddRunNote(form, what + " is not converted yet");
 }
 
-std::string ControlKindName(int type) {
-  switch (type) {
-    case kListBox:
-      return "list box";
-    case kComboBox:
-      return "combo box";
-    case kSubform:
-      return "subform";
-    case kTab:
-      return "tab control";
-    case kPageBreak:
-      return "page break";
-    default:
-      return "control";
-  }
+// Controls that only need their holder to be the form being walked: an
+// option button or toggle inside an option group is written with its group.
+void WriteStandAloneOption(FormWriter& w) {
+  const ControlDesign* c = w.Text().CurrentControl;
+  if (c && c->Parent().Name() == w.Text().CurrentForm->Name()) WriteOptionButton(w);
 }
+
+void WriteListLater(FormWriter& w) {
+  const ControlDesign& c = *w.Text().CurrentControl;
+  NotConvertedYet(w.Session(), w.Text().OwnerFormName,
+                  std::string(c.ControlType() == kListBox ? "list box " : "combo box ") + c.Name());
+}
+
+void WriteSubformLater(FormWriter& w) {
+  const ControlDesign& c = *w.Text().CurrentControl;
+  auto source = c.Text("SourceObject");
+  if (source && !source->empty())
+    NotConvertedYet(w.Session(), w.Text().OwnerFormName, "subform " + c.Name());
+}
+
+// An unbound object frame has no Visual Basic counterpart; the analysis
+// names it.
+void ReportUnboundObject(FormWriter& w) {
+  const ControlDesign& c = *w.Text().CurrentControl;
+  AddHint(w.Session(), ReportRowHint{w.Text().OwnerFormName, 10, SafeName(c.Name()), 0, "", ""});
+}
+
+// The writer of each control type the walk meets; a type without a row is
+// passed over here (tab controls, pages and page breaks have walks of their
+// own, later control types are named by the design loader).
+struct ControlWriterRow {
+  int type;
+  void (*write)(FormWriter&);
+};
+
+constexpr ControlWriterRow kControlWriters[] = {
+    {kLabel, WriteLabel},
+    {kLine, WriteLineControl},
+    {kImage, WriteImage},
+    {kCommandButton, WriteCommandButton},
+    {kCheckBox, WriteCheckBox},
+    {kOptionGroup, WriteOptionGroup},
+    {kBoundObjectFrame, WriteBoundObjectFrame},
+    {kTextBox, WriteTextBox},
+    {kCustomControl, WriteCustomControl},
+    {kOptionButton, WriteStandAloneOption},
+    {kToggleButton, WriteStandAloneOption},
+    {kListBox, WriteListLater},
+    {kComboBox, WriteListLater},
+    {kSubform, WriteSubformLater},
+    {kUnboundObjectFrame, ReportUnboundObject},
+};
+
+constexpr bool EachTypeHasOneWriter() {
+  for (size_t i = 0; i < std::size(kControlWriters); ++i)
+    for (size_t j = i + 1; j < std::size(kControlWriters); ++j)
+      if (kControlWriters[i].type == kControlWriters[j].type) return false;
+  return true;
+}
+static_assert(EachTypeHasOneWriter(), "one writer per control type");
 
 }  // namespace
 
 FormWriter::FormWriter(ConversionSession& s, DesignStore& store) : s_(s), store_(store) {}
 
-std::string FormWriter::FrxPath() const {
-  return s_.OutputPath + SafeName(t_.OwnerFormName) + ".frx";
-}
-
 bool FormWriter::ConvertForm(const std::string& formName, std::string* err) {
   if (s_.OptionWordLength != 11) return false;
   t_ = FormTextSet{};
-  s_.HintText.clear();
+  FormState& state = s_.Form();
+  state.Text = TextDocument();
+  state.Binary.clear();
+  state.Hints.clear();
   if (s_.SupportDb) s_.SupportDb->ClearFields();
   std::string why;
   if (!store_.OpenForm(formName, &why)) {
     if (err) *err = why;
     return false;
   }
-  // A .frx of an earlier run would otherwise keep its records ahead of ours.
   t_.OwnerFormName = formName;
-  std::error_code ec;
-  std::filesystem::remove(FrxPath(), ec);
   WriteForm(formName, false, 1, false);
 
   std::string text = t_.HeaderText + "\r\n" + t_.BodyText;
@@ -96,17 +132,14 @@ bool FormWriter::ConvertForm(const std::string& formName, std::string* err) {
   if (!t_.PageTabHead.empty()) text += "\r\n" + t_.PageTabHead;
   if (!t_.PageTabBody.empty()) text += "\r\n" + t_.PageTabBody + "\r\nEnd";
   text += "\r\nEnd\r\n";
-  const std::string base = s_.OutputPath + SafeName(formName);
-  bool ok = WriteFileBytes(base + ".frm", text, &why);
-  ok = WriteFileBytes(base + ".hnt", s_.HintText + "\r\n", &why) && ok;
-  if (!ok && err) *err = why;
-  return ok;
+  state.Text = TextDocument::FromBytes(text);
+  return true;
 }
 
 void FormWriter::WriteForm(const std::string& formName, bool isSubform, int pass, bool headerOnly) {
   if (!isSubform) {
-    t_.SubformTop = 0;
-    t_.SubformLeft = 0;
+    t_.Place.SubformTop = 0;
+    t_.Place.SubformLeft = 0;
     t_.OwnerFormName = formName;
     t_.HasPageBreaks = false;
     t_.OptionGroupNames.assign(1, std::string());
@@ -137,18 +170,18 @@ void FormWriter::WriteForm(const std::string& formName, bool isSubform, int pass
     }
     return 0L;
   };
-  t_.HeaderHeight = add(1);
+  t_.Place.HeaderHeight = add(1);
   add(3);
-  t_.DetailTop = y;
+  t_.Place.DetailTop = y;
   add(0);
-  t_.PageFooterTop = y;
+  t_.Place.PageFooterTop = y;
   add(4);
-  t_.FormFooterTop = y;
+  t_.Place.FormFooterTop = y;
   add(2);
-  t_.Total = y;
+  t_.Place.Total = y;
   totalValid_ = !overflow;
 
-  t_.PageBreakTops.assign(1, 0);
+  t_.Place.PageBreakTops.assign(1, 0);
   if (pass == 1) {
     for (const ControlDesign& c : form->Controls())
       if (c.ControlType() == kPageBreak && c.Section() == 0) {
@@ -158,12 +191,13 @@ void FormWriter::WriteForm(const std::string& formName, bool isSubform, int pass
       }
   }
   if (!isSubform) WriteFormHeader(*form);
-  AddHint(s_, {"FormCode", formName, t_.ParentControlName});
+  AddHint(s_, FormCodeHint{formName, t_.ParentControlName});
   if (auto source = form->Text("RecordSource"); source && !source->empty())
     WriteFormDataControl(*this);
   if (!isSubform) {
     for (const ControlDesign& c : form->Controls())
-      if (c.ControlType() == kTab) NotConvertedYet(s_, t_.OwnerFormName, "tab control " + c.Name());
+      if (c.ControlType() == kTabControl)
+        NotConvertedYet(s_, t_.OwnerFormName, "tab control " + c.Name());
   }
   WalkControls();
   for (const ControlDesign& c : form->Controls()) {
@@ -183,9 +217,8 @@ void FormWriter::WriteForm(const std::string& formName, bool isSubform, int pass
     t_.BodyText += "\r\nBegin VB.Timer Timer1\r\nLeft = 0\r\nTop = 0\r\nInterval = " +
                    std::to_string(*interval) + "\r\nEnd";
   }
-  AddHint(s_,
-          {"CtlCounts", std::to_string(t_.FormControlCount), std::to_string(t_.FormPartialCount)});
-  if (t_.FormControlCount > 254) AddHint(s_, {"TooManyControls", formName});
+  AddHint(s_, ControlCountsHint{t_.FormControlCount, t_.FormPartialCount});
+  if (t_.FormControlCount > 254) AddHint(s_, TooManyControlsHint{formName});
   WriteComponentLines(true);
 }
 
@@ -208,7 +241,7 @@ void FormWriter::WriteFormHeader(const FormDesign& form) {
     line("Caption =\"", caption && !caption->empty() ? caption : std::optional(name), "\"");
   }
   std::optional<std::string> height;
-  if (totalValid_) height = std::to_string(t_.Total);
+  if (totalValid_) height = std::to_string(t_.Place.Total);
   line("ClientHeight = ", height);
   b += "\r\nClientLeft = 250 \r\nClientTop = 500 ";
   line("ClientWidth = ", ValueText(form, "Width"));
@@ -232,15 +265,15 @@ void FormWriter::WriteFormHeader(const FormDesign& form) {
     // A guard that cannot be read counts as met.
     bool dialog = popup.value_or(true) && modal.value_or(true);
     if (!popup || !modal) dialog = false;
-    if (s_.IsMdi && !dialog) b += "\r\nMDIChild = -1";
+    if (s_.Options.IsMdi && !dialog) b += "\r\nMDIChild = -1";
   }
   line("HelpContextID=", ValueText(form, "HelpContextId"));
   if (auto picture = form.Bytes("PictureData"); picture && !picture->empty()) {
     std::string offset = ExtractPicture(*this, name, "", false);
     if (!offset.empty()) {
       b += "\r\nPicture = \"" + safe + ".frx\":" + offset + "\r\nAutoRedraw = -1";
-      AddHint(s_, {"FormImage", ValueText(form, "PictureSizeMode").value_or(""),
-                   ValueText(form, "PictureTiling").value_or("")});
+      AddHint(s_, FormImageHint{ValueText(form, "PictureSizeMode").value_or(""),
+                                ValueText(form, "PictureTiling").value_or("")});
     }
   }
 }
@@ -281,7 +314,7 @@ void FormWriter::MakeControlName(const ControlDesign& c) {
     }
   }
   t_.UsedControlNames.push_back(name);
-  s_.CurrentControlName = name;
+  s_.Form().CurrentControlName = name;
 }
 
 void FormWriter::PutControlText(const std::string& text) {
@@ -292,8 +325,8 @@ void FormWriter::PutControlText(const std::string& text) {
   } else if (t_.HasPageBreaks && section == 0) {
     t_.PageTabBody += text + "\r\n";
   } else if (!t_.InSubform && section > 0) {
-    t_.PageIndex = 0;
-    t_.PageLeft = 0;
+    t_.Place.PageIndex = 0;
+    t_.Place.PageLeft = 0;
     if (section > 4) {
       if (s_.Ui) s_.Ui->ShowMessage("unhandled select file!", MessageIcon::Stop);
       return;
@@ -301,8 +334,8 @@ void FormWriter::PutControlText(const std::string& text) {
     t_.SectionText[section] += text + "\r\n";
   } else {
     t_.BodyText += "\r\n" + text;
-    t_.PageIndex = 0;
-    t_.PageLeft = 0;
+    t_.Place.PageIndex = 0;
+    t_.Place.PageLeft = 0;
   }
 }
 
@@ -322,7 +355,7 @@ void FormWriter::CreateSection(const FormDesign& form, int n) {
   AddLine(text, "Left = 0");
   AddLine(text, "Index = " + std::to_string(n));
   if (section) AddTagLine(text, *section);
-  AddLine(text, "Top = " + std::to_string(t_.SectionOffset));
+  AddLine(text, "Top = " + std::to_string(t_.Place.SectionOffset));
   AddLine(text, "Width = ", ValueText(form, "Width"));
   AddLine(text, "BorderStyle = 0");
   if (n >= 3) {
@@ -339,40 +372,41 @@ void FormWriter::LocatePage() {
   if (t_.HasPageBreaks && c && c->Section() == 0) {
     const long top = c->Number("Top").value_or(0);
     int page = 0;
-    for (int i = static_cast<int>(t_.PageBreakTops.size()) - 1; i >= 0; --i)
-      if (t_.PageBreakTops[i] < top) {
+    for (int i = static_cast<int>(t_.Place.PageBreakTops.size()) - 1; i >= 0; --i)
+      if (t_.Place.PageBreakTops[i] < top) {
         page = i;
         break;
       }
     if (t_.PageControlCounts.size() <= static_cast<size_t>(page))
       t_.PageControlCounts.resize(page + 1);
     const int count = ++t_.PageControlCounts[page];
-    const std::string shown =
-        c->ControlType() == kOptionGroup ? "grp" + s_.CurrentControlName : s_.CurrentControlName;
+    const std::string shown = c->ControlType() == kOptionGroup
+                                  ? "grp" + s_.Form().CurrentControlName
+                                  : s_.Form().CurrentControlName;
     t_.PageTabHead += "Tab(" + std::to_string(page) + ").Control(" + std::to_string(count - 1) +
                       ")=\"" + shown + "\"\r\n";
-    t_.PageIndex = page;
-    t_.PageLeft = page == 0 ? 0 : -75000;
+    t_.Place.PageIndex = page;
+    t_.Place.PageLeft = page == 0 ? 0 : -75000;
     return;
   }
-  if (!t_.InTabControl) t_.PageLeft = 0;
+  if (!t_.InTabControl) t_.Place.PageLeft = 0;
 }
 
 std::optional<long> FormWriter::ControlLeft(const ControlDesign& c) const {
   auto left = c.Number("Left");
   if (!left) return std::nullopt;
-  return *left + t_.PageLeft + t_.SubformLeft;
+  return *left + t_.Place.PageLeft + t_.Place.SubformLeft;
 }
 
 std::optional<long> FormWriter::ControlTop(const ControlDesign& c) const {
   auto top = c.Number("Top");
   if (!top) return std::nullopt;
-  const long o = (c.Section() == 0 || t_.InSubform || t_.InTabControl) ? t_.SectionOffset : 0;
-  const long breakTop =
-      t_.PageIndex >= 0 && static_cast<size_t>(t_.PageIndex) < t_.PageBreakTops.size()
-          ? t_.PageBreakTops[t_.PageIndex]
-          : 0;
-  return *top + o + t_.SubformTop - breakTop - t_.TabShift;
+  const long o = (c.Section() == 0 || t_.InSubform || t_.InTabControl) ? t_.Place.SectionOffset : 0;
+  const long breakTop = t_.Place.PageIndex >= 0 && static_cast<size_t>(t_.Place.PageIndex) <
+                                                       t_.Place.PageBreakTops.size()
+                            ? t_.Place.PageBreakTops[t_.Place.PageIndex]
+                            : 0;
+  return *top + o + t_.Place.SubformTop - breakTop - t_.Place.TabShift;
 }
 
 void FormWriter::SetSectionOffset(const ControlDesign& c, bool adjust) {
@@ -380,29 +414,29 @@ void FormWriter::SetSectionOffset(const ControlDesign& c, bool adjust) {
   // The footers move up when the detail section becomes a tab control of the
   // first page's height.
   auto adjusted = [&](long top) {
-    if (!adjust || t_.PageBreakTops.size() < 2 || !form) return top;
+    if (!adjust || t_.Place.PageBreakTops.size() < 2 || !form) return top;
     long detail = SectionHeight(*form, 0).value_or(0);
-    return top - (detail - t_.PageBreakTops[1]) + 520;
+    return top - (detail - t_.Place.PageBreakTops[1]) + 520;
   };
   if (adjust && t_.HasPageBreaks && c.Section() == 0) {
-    t_.SectionOffset = 520;
+    t_.Place.SectionOffset = 520;
     return;
   }
   switch (c.Section()) {
     case 1:
-      t_.SectionOffset = 0;
+      t_.Place.SectionOffset = 0;
       break;
     case 3:
-      t_.SectionOffset = t_.HeaderHeight;
+      t_.Place.SectionOffset = t_.Place.HeaderHeight;
       break;
     case 0:
-      t_.SectionOffset = t_.DetailTop;
+      t_.Place.SectionOffset = t_.Place.DetailTop;
       break;
     case 4:
-      t_.SectionOffset = adjusted(t_.PageFooterTop);
+      t_.Place.SectionOffset = adjusted(t_.Place.PageFooterTop);
       break;
     case 2:
-      t_.SectionOffset = adjusted(t_.FormFooterTop);
+      t_.Place.SectionOffset = adjusted(t_.Place.FormFooterTop);
       break;
     default:
       break;
@@ -423,99 +457,30 @@ void FormWriter::WalkControls() {
         if (grand.Name() != formName && IsTabOrPage(grand)) continue;
       }
     }
+    // A pass over the header of a form shown in a subform keeps its header
+    // and places its footer at the foot of the subform control.
     const int section = c.Section();
-    if (t_.HasPageBreaks && section == 0) {
-      t_.SectionOffset = 520;
+    if (t_.HeaderOnly && (section == 0 || section == 3 || section == 4)) continue;
+    if (t_.HeaderOnly && section == 2) {
+      long footer = SectionHeight(form, 2).value_or(0);
+      long controlHeight = 0;
+      if (const FormDesign* p = store_.OpenForm(t_.ParentFormName, nullptr))
+        if (const ControlDesign* sc = p->Control(t_.ParentControlName))
+          controlHeight = sc->Number("Height").value_or(0);
+      t_.Place.SectionOffset = controlHeight - footer;
     } else {
-      switch (section) {
-        case 1:
-          t_.SectionOffset = 0;
-          if (t_.SectionText[1].empty()) CreateSection(form, 1);
-          break;
-        case 3:
-          if (t_.HeaderOnly) continue;
-          t_.SectionOffset = t_.HeaderHeight;
-          if (t_.SectionText[3].empty()) CreateSection(form, 3);
-          break;
-        case 0:
-          if (t_.HeaderOnly) continue;
-          t_.SectionOffset = t_.DetailTop;
-          break;
-        case 4:
-          if (t_.HeaderOnly) continue;
-          SetSectionOffset(c);
-          if (t_.SectionText[4].empty()) CreateSection(form, 4);
-          break;
-        case 2:
-          if (t_.HeaderOnly) {
-            long footer = SectionHeight(form, 2).value_or(0);
-            long controlHeight = 0;
-            if (const FormDesign* p = store_.OpenForm(t_.ParentFormName, nullptr))
-              if (const ControlDesign* sc = p->Control(t_.ParentControlName))
-                controlHeight = sc->Number("Height").value_or(0);
-            t_.SectionOffset = controlHeight - footer;
-          } else {
-            SetSectionOffset(c);
-            if (t_.SectionText[2].empty()) CreateSection(form, 2);
-          }
-          break;
-        default:
-          break;
-      }
+      SetSectionOffset(c);
+      const bool broken = t_.HasPageBreaks && section == 0;
+      if (!broken && section >= 1 && section <= 4 && t_.SectionText[section].empty())
+        CreateSection(form, section);
     }
     WriteControl(c);
   }
 }
 
 void FormWriter::WriteControl(const ControlDesign& c) {
-  const std::string formName = t_.CurrentForm->Name();
-  switch (c.ControlType()) {
-    case kLabel:
-      WriteLabel(*this);
-      break;
-    case kLine:
-      WriteLineControl(*this);
-      break;
-    case kImage:
-      WriteImage(*this);
-      break;
-    case kButton:
-      WriteCommandButton(*this);
-      break;
-    case kCheckBox:
-      WriteCheckBox(*this);
-      break;
-    case kOptionGroup:
-      WriteOptionGroup(*this);
-      break;
-    case kBoundObject:
-      WriteBoundObjectFrame(*this);
-      break;
-    case kTextBox:
-      WriteTextBox(*this);
-      break;
-    case kCustom:
-      WriteCustomControl(*this);
-      break;
-    case kOptionButton:
-    case kToggle:
-      if (c.Parent().Name() == formName) WriteOptionButton(*this);
-      break;
-    case kListBox:
-    case kComboBox:
-      NotConvertedYet(s_, t_.OwnerFormName, ControlKindName(c.ControlType()) + " " + c.Name());
-      break;
-    case kSubform: {
-      auto source = c.Text("SourceObject");
-      if (source && !source->empty()) NotConvertedYet(s_, t_.OwnerFormName, "subform " + c.Name());
-      break;
-    }
-    case kUnboundObject:
-      AddHint(s_, {"AddToReport", t_.OwnerFormName, "10", SafeName(c.Name()), "0", "", ""});
-      break;
-    default:
-      break;
-  }
+  for (const ControlWriterRow& row : kControlWriters)
+    if (row.type == c.ControlType()) return row.write(*this);
 }
 
 }  // namespace morvane

@@ -17,6 +17,26 @@ class DesignStore;
 class FormDesign;
 class ControlDesign;
 
+// Where the walk places controls: the offsets of the section, the subform or
+// tab page being walked, and the section tops the form measured. A nested
+// walk (a subform, a tab page) works on a copy and the walk after it finds
+// the placement as it was (PlacementScope).
+struct Placement {
+  long SectionOffset = 0;
+  long SubformTop = 0;
+  long SubformLeft = 0;
+  long TabShift = 0;
+  int PageIndex = 0;
+  long PageLeft = 0;
+  std::vector<long> PageBreakTops{0};
+  // Section tops measured by WriteForm, in twips.
+  long HeaderHeight = 0;
+  long DetailTop = 0;
+  long PageFooterTop = 0;
+  long FormFooterTop = 0;
+  long Total = 0;
+};
+
 // The state of one form under construction; one record for the whole walk,
 // subform passes included.
 struct FormTextSet {
@@ -36,13 +56,7 @@ struct FormTextSet {
   bool InTabControl = false;
   bool InRepeater = false;
   bool HeaderOnly = false;
-  long SectionOffset = 0;
-  long SubformTop = 0;
-  long SubformLeft = 0;
-  long TabShift = 0;
-  int PageIndex = 0;
-  long PageLeft = 0;
-  std::vector<long> PageBreakTops{0};
+  Placement Place;
   std::vector<int> PageControlCounts;
   int FormControlCount = 0;
   int FormPartialCount = 0;
@@ -53,20 +67,29 @@ struct FormTextSet {
   std::vector<std::string> ComponentGuids;
   std::array<int, 4> AlignmentMap{3, 0, 2, 1};
   std::string PictureReference;
-  // Section tops measured by WriteForm, in twips.
-  long HeaderHeight = 0;
-  long DetailTop = 0;
-  long PageFooterTop = 0;
-  long FormFooterTop = 0;
-  long Total = 0;
+};
+
+// Keeps the placement of a walk for as long as it lives and puts it back when
+// it ends, so that a nested walk leaves the outer one's placement as it was.
+class PlacementScope {
+ public:
+  explicit PlacementScope(FormTextSet& t) : t_(t), saved_(t.Place) {}
+  ~PlacementScope() { t_.Place = std::move(saved_); }
+  PlacementScope(const PlacementScope&) = delete;
+  PlacementScope& operator=(const PlacementScope&) = delete;
+
+ private:
+  FormTextSet& t_;
+  Placement saved_;
 };
 
 class FormWriter {
  public:
   FormWriter(ConversionSession& s, DesignStore& store);
 
-  // Writes <OutputPath><SafeName(form)>.frm and .hnt. False with a message
-  // when the design cannot be opened; nothing is written then.
+  // Writes the form's text, binary records and hint records into the
+  // session's form state. False with a message when the design cannot be
+  // opened; the text stays empty then.
   bool ConvertForm(const std::string& formName, std::string* err = nullptr);
   // One walk over a form; calls itself for embedded subforms.
   void WriteForm(const std::string& formName, bool isSubform, int pass, bool headerOnly);
@@ -98,9 +121,6 @@ class FormWriter {
   // SectionOffset from a control's section, as the walk sets it; `adjust`
   // applies the page-break shift to the footers.
   void SetSectionOffset(const ControlDesign& c, bool adjust = true);
-
-  // <OutputPath><SafeName(OwnerFormName)>.frx
-  std::string FrxPath() const;
 
  private:
   void WriteFormHeader(const FormDesign& form);

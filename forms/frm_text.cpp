@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <cstdio>
 
-#include "forms/control_writer_frame.h"
 #include "design/form_design.h"
+#include "forms/control_writer_frame.h"
 #include "forms/form_writer.h"
 #include "session/conversion_session.h"
 #include "session/hint_processor.h"
@@ -150,7 +150,8 @@ namespace {
 bool NeedsReview(std::string_view expression) {
   if (expression.find_first_of("[!") != std::string_view::npos) return true;
   const std::string lower = ToLower(expression);
-  for (std::string_view f : {"count", "sum", "avg", "min", "max", "first", "last", "stdev", "var"}) {
+  for (std::string_view f :
+       {"count", "sum", "avg", "min", "max", "first", "last", "stdev", "var"}) {
     for (size_t p = lower.find(f); p != std::string::npos; p = lower.find(f, p + 1)) {
       const bool start = p == 0 || !(std::isalnum(static_cast<unsigned char>(lower[p - 1])) ||
                                      lower[p - 1] == '_');
@@ -167,20 +168,20 @@ bool NeedsReview(std::string_view expression) {
 void AddCalculatedBinding(FormWriter& w, const ControlDesign& c, std::string_view member) {
   ConversionSession& s = w.Session();
   const std::string source = c.Text("ControlSource").value_or("");
-  const std::string line = s.CurrentControlName + std::string(member) + " " + source;
-  AddHint(s, {"AddDataCtlEntry", DataControlName(w), line});
+  const std::string line = s.Form().CurrentControlName + std::string(member) + " " + source;
+  AddHint(s, DataControlEntryHint{DataControlName(w), line});
   // The expression is Access's, copied as it stands; one that names fields
   // or aggregates of the records gets a row asking for review.
   if (NeedsReview(source))
-    AddHint(s, {"AddToReport", w.Text().OwnerFormName, "7", s.CurrentControlName + " " + source,
-                "0", line, ""});
+    AddHint(s, ReportRowHint{w.Text().OwnerFormName, 7, s.Form().CurrentControlName + " " + source,
+                             0, line, ""});
 }
 
 void AddDefaultValueHint(FormWriter& w, const ControlDesign& c, std::string_view member) {
   auto value = c.Text("DefaultValue");
   if (!value || value->empty() || (*value)[0] != '=') return;
   ConversionSession& s = w.Session();
-  AddHint(s, {"FLS", s.CurrentControlName + std::string(member) + " " + *value});
+  AddHint(s, FormLoadLineHint{s.Form().CurrentControlName + std::string(member) + " " + *value});
 }
 
 }  // namespace morvane

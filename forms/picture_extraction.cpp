@@ -6,8 +6,6 @@
 // the size limit are read from the bytes themselves.
 #include "forms/picture_extraction.h"
 
-#include <sqlite3.h>
-
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
@@ -90,10 +88,11 @@ void PutBytes(std::string& out, const unsigned char (&bytes)[n]) {
 }
 
 // The prefix of a record whose payload the prefix gives as `n` bytes; a
-// .dsx names the picture's class as well.
+// .dsx names the picture's class as well. The first field counts the bytes
+// that follow it, the class included, as Visual Basic's designers read it.
 std::string RecordPrefix(uint32_t n, bool dsx) {
   std::string out;
-  PutLong(out, n + 8);
+  PutLong(out, n + 8 + (dsx ? sizeof kPictureClass : 0));
   if (dsx) PutBytes(out, kPictureClass);
   PutBytes(out, kPictureMark);
   PutLong(out, n);
@@ -141,41 +140,15 @@ std::optional<std::string> MetafileRecord(const std::string& data, PictureKind k
   return out;
 }
 
-// tblPict holds the picture on its way, in the row with ID 1. Without a
-// support database the bytes go to the writers directly.
-bool ClearStagedPicture(ConversionSession& s) {
-  return !s.SupportDb || s.SupportDb->Execute("DELETE FROM tblPict WHERE ID = 1");
-}
-
+// tblPict holds the picture on its way. Without a support database the bytes
+// go to the writers directly.
 bool StagePicture(ConversionSession& s, const std::string& bytes) {
-  if (!s.SupportDb) return true;
-  if (!ClearStagedPicture(s)) return false;
-  sqlite3_stmt* st = nullptr;
-  if (sqlite3_prepare_v2(s.SupportDb->Handle(),
-                         "INSERT INTO tblPict (ID, PictureData) VALUES (1, ?)", -1, &st,
-                         nullptr) != SQLITE_OK)
-    return false;
-  sqlite3_bind_blob(st, 1, bytes.data(), static_cast<int>(bytes.size()), SQLITE_TRANSIENT);
-  const bool ok = sqlite3_step(st) == SQLITE_DONE;
-  sqlite3_finalize(st);
-  return ok;
+  return !s.SupportDb || s.SupportDb->StagePicture(bytes);
 }
 
 std::optional<std::string> StagedPicture(ConversionSession& s, const std::string& bytes) {
   if (!s.SupportDb) return bytes;
-  sqlite3_stmt* st = nullptr;
-  if (sqlite3_prepare_v2(s.SupportDb->Handle(), "SELECT PictureData FROM tblPict WHERE ID = 1", -1,
-                         &st, nullptr) != SQLITE_OK)
-    return std::nullopt;
-  std::optional<std::string> out;
-  if (sqlite3_step(st) == SQLITE_ROW) {
-    const void* blob = sqlite3_column_blob(st, 0);
-    const int size = sqlite3_column_bytes(st, 0);
-    out = blob ? std::string(static_cast<const char*>(blob), static_cast<size_t>(size))
-               : std::string();
-  }
-  sqlite3_finalize(st);
-  return out;
+  return s.SupportDb->StagedPicture();
 }
 
 // The picture bytes of the form or report `name`, or of its control.
@@ -190,22 +163,30 @@ std::optional<std::string> PictureBytes(FormWriter& w, const std::string& name,
   return control->Bytes("PictureData");
 }
 
-bool AppendRecord(const std::filesystem::path& target, const std::string& record) {
-  std::ofstream out(target, std::ios::binary | std::ios::app);
-  out.write(record.data(), static_cast<std::streamsize>(record.size()));
-  out.close();
-  return static_cast<bool>(out);
+}  // namespace
+
+std::optional<std::string> PictureRecord(const std::string& data, bool dsx) {
+  if (!PictureFitsLimit(data)) return std::nullopt;
+  const PictureKind kind = ProbePictureType(data);
+  switch (kind) {
+    case PictureKind::None:
+      return std::nullopt;
+    case PictureKind::Bitmap:
+      return BitmapRecord(data, dsx);
+    case PictureKind::Metafile:
+    case PictureKind::EnhancedMetafile:
+      return MetafileRecord(data, kind, dsx);
+  }
+  return std::nullopt;
 }
 
 // Upper-case hexadecimal, at least four digits; an offset past 65535 keeps
 // all its digits, as the bindings records of the same file do.
-std::string OffsetText(std::uintmax_t offset) {
+std::string PictureOffsetText(std::uintmax_t offset) {
   char buf[24];
   std::snprintf(buf, sizeof buf, "%04jX", offset);
   return buf;
 }
-
-}  // namespace
 
 std::string ExtractPicture(FormWriter& w, const std::string& holder, const std::string& controlName,
                            bool isReport) {
@@ -216,37 +197,16 @@ std::string ExtractPicture(FormWriter& w, const std::string& holder, const std::
   auto data = StagedPicture(s, *bytes);
   if (!data || !PictureFitsLimit(*data)) return std::string();
 
-  // A picture of a subform's control goes to the top form's file.
-  const std::filesystem::path target =
-      isReport ? s.OutputPath + SafeName(holder) + ".dsx" : w.FrxPath();
-  std::error_code ec;
-  std::uintmax_t offset =
-      std::filesystem::exists(target, ec) ? std::filesystem::file_size(target, ec) : 0;
-  if (ec) return std::string();
+  // The records go to the binary file of the form or report being
+  // converted; a picture of a subform's control goes to the top form's.
+  std::string& target = s.Form().Binary;
+  const std::uintmax_t offset = target.size();
 
-  const PictureKind kind = ProbePictureType(*data);
-  std::optional<std::string> record;
-  switch (kind) {
-    case PictureKind::None:
-      return std::string();
-    case PictureKind::Bitmap:
-      record = BitmapRecord(*data, isReport);
-      break;
-    case PictureKind::Metafile:
-    case PictureKind::EnhancedMetafile:
-      record = MetafileRecord(*data, kind, isReport);
-      break;
-  }
+  std::optional<std::string> record = PictureRecord(*data, isReport);
   if (!record) return std::string();
-  errno = 0;
-  if (!AppendRecord(target, *record)) {
-    // Only the enhanced metafile's writer tells the user why it failed.
-    if (kind == PictureKind::EnhancedMetafile && s.Ui)
-      s.Ui->ShowMessage(std::strerror(errno != 0 ? errno : EIO), MessageIcon::Stop);
-    return std::string();
-  }
-  ClearStagedPicture(s);
-  w.Text().PictureReference = OffsetText(offset);
+  target += *record;
+  if (s.SupportDb) s.SupportDb->ClearStagedPicture();
+  w.Text().PictureReference = PictureOffsetText(offset);
   return w.Text().PictureReference;
 }
 

@@ -5,8 +5,6 @@
 // table of the support database.
 #include "forms/record_source.h"
 
-#include <sqlite3.h>
-
 #include <algorithm>
 #include <vector>
 
@@ -126,27 +124,11 @@ bool IsPlainListControl(ConversionSession&, const ControlDesign& control) {
 
 std::string MapCustomControl(ConversionSession& s, const std::string& accessClass, FormWriter* w) {
   if (!s.SupportDb || accessClass.empty()) return std::string();
-  sqlite3_stmt* st = nullptr;
-  // Jet compares text without regard to case; so does the lookup.
-  if (sqlite3_prepare_v2(s.SupportDb->Handle(),
-                         "SELECT VBType, ClassID, FileName FROM CustomControlMapping "
-                         "WHERE AccessClassName = ? COLLATE NOCASE LIMIT 1",
-                         -1, &st, nullptr) != SQLITE_OK)
-    return std::string();
-  sqlite3_bind_text(st, 1, accessClass.data(), static_cast<int>(accessClass.size()),
-                    SQLITE_TRANSIENT);
-  auto column = [st](int i) {
-    auto p = reinterpret_cast<const char*>(sqlite3_column_text(st, i));
-    return p ? std::string(p, static_cast<size_t>(sqlite3_column_bytes(st, i))) : std::string();
-  };
-  std::string vbType;
-  if (sqlite3_step(st) == SQLITE_ROW) {
-    vbType = column(0);
-    const std::string classId = column(1);
-    if (w && !classId.empty() && classId != "0") w->AddComponent(classId, column(2));
-  }
-  sqlite3_finalize(st);
-  return vbType;
+  auto row = s.SupportDb->FindCustomControl(accessClass);
+  if (!row) return std::string();
+  if (w && !row->ClassID.empty() && row->ClassID != "0")
+    w->AddComponent(row->ClassID, row->FileName);
+  return row->VBType;
 }
 
 }  // namespace morvane

@@ -14,6 +14,7 @@
 #include "macros/macro_tables.h"
 #include "platform/catalog.h"
 #include "platform/export_parser.h"
+#include "platform/output_directory.h"
 #include "platform/source_tree.h"
 #include "platform/support_db.h"
 #include "platform/text_file.h"
@@ -37,18 +38,6 @@ struct MacroActionRecord {
   std::string Condition;
   std::string Action;
 };
-
-// VB's Val: the leading number of a text, 0 when there is none.
-long Val(const std::string& text) {
-  size_t i = 0;
-  while (i < text.size() && text[i] == ' ') ++i;
-  bool negative = false;
-  if (i < text.size() && (text[i] == '-' || text[i] == '+')) negative = text[i++] == '-';
-  long value = 0;
-  while (i < text.size() && text[i] >= '0' && text[i] <= '9')
-    value = value * 10 + (text[i++] - '0');
-  return negative ? -value : value;
-}
 
 std::string ReplaceAllNoCase(const std::string& text, const std::string& find,
                              const std::string& with) {
@@ -140,7 +129,7 @@ void MacroWriter::ConvertActionArgument(long actionId, int index, std::string& v
   } else if (arg->ArgumentType == kTextArgument) {
     value = "\"" + DoubleQuotes(value) + "\"";
   } else if (!value.empty() && arg->LookupBase > 0) {
-    const std::string* text = tables_.FindLookup(arg->LookupBase + Val(value));
+    const std::string* text = tables_.FindLookup(static_cast<double>(arg->LookupBase) + Val(value));
     value = text ? *text : std::string();
   }
 }
@@ -411,8 +400,8 @@ bool IsTreeMacro(ConversionSession& s, const std::string& name) {
 
 }  // namespace
 
-void MacroConverterImpl::ConvertMacros(ConversionSession& s, const std::string& outputPath) {
-  if (s.OptionWordLength != 11 || !s.SourceDb) return;
+TextDocument MacroConverterImpl::ConvertMacros(ConversionSession& s) {
+  if (s.OptionWordLength != 11 || !s.SourceDb) return TextDocument();
   MacroTables tables(s.SupportDb);
   std::string text = "Attribute VB_Name = \"MacroCode\"\r\nPublic CodeContextObject As VB.Form\r\n";
   const auto macros = s.SourceDb->ContainerDocuments("Scripts");
@@ -447,11 +436,12 @@ void MacroConverterImpl::ConvertMacros(ConversionSession& s, const std::string& 
     }
   }
   // A source without macros of either kind gets no macro module.
-  if (!any) return;
-  WriteFileBytes(outputPath + "macro.txt", text, nullptr);
-  if (macros.empty()) return;
-  if (auto startup = s.SourceDb->Property("StartupForm"); startup && !startup->empty())
-    AppendFileBytes(outputPath + "_Startup.txt", *startup + "\r\n", nullptr);
+  if (!any) return TextDocument();
+  // The startup form, for whoever replaces the macros that opened it.
+  if (auto startup = s.SourceDb->Property("StartupForm");
+      !macros.empty() && startup && !startup->empty() && s.Output)
+    s.Output->Write("_Startup.txt", *startup + "\r\n", nullptr);
+  return TextDocument::FromBytes(text);
 }
 
 bool MacroNeedsContext(ConversionSession& s, std::string& name) {

@@ -21,7 +21,7 @@ class MacroConverterImpl : public MacroConverter {
   // source tree through: the embedded macros are taken from the designs it
   // has already read instead of reading every form and report again.
   explicit MacroConverterImpl(DesignStore* designs = nullptr) : designs_(designs) {}
-  void ConvertMacros(ConversionSession& s, const std::string& outputPath) override;
+  TextDocument ConvertMacros(ConversionSession& s) override;
 
  private:
   DesignStore* designs_;

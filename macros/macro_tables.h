@@ -6,6 +6,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -26,6 +27,15 @@ struct MacroActionArg {
   long LookupBase = 0;   // above 0: an enumeration
 };
 
+// Visual Basic's Val: the number a text begins with, as a Double. Blanks,
+// tabs and line feeds are passed over wherever they stand; a sign, digits, a
+// decimal point and an exponent (E or D) are read up to the first character
+// that cannot continue the number; &H and &O start a hexadecimal or octal
+// Integer or Long (wrapping into the negative as Visual Basic does). 0 when
+// the text begins with no number; a hexadecimal or octal number longer than
+// a Long also gives 0, where Visual Basic stops with an overflow.
+double Val(std::string_view text);
+
 class MacroTables {
  public:
   // Reads the three tables; empty tables when the database has none.
@@ -35,6 +45,9 @@ class MacroTables {
   const MacroAction* FindAction(const std::string& name) const;
   const MacroActionArg* FindArg(long actionId, int index) const;
   const std::string* FindLookup(long key) const;
+  // The same for a key computed in Double: nothing when it is not a whole
+  // number that a lookup row can carry.
+  const std::string* FindLookup(double key) const;
   const std::vector<MacroAction>& Actions() const { return actions_; }
 
  private:

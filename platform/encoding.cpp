@@ -65,21 +65,17 @@ bool LooksLikeUtf16Le(std::string_view bytes) {
   return evenZeros == 0 && oddZeros * 4 >= (n / 2) * 3;
 }
 
+// Tools that add a byte order mark to text that already has one write it
+// twice (or more): every leading mark is skipped.
 TextEncoding Detect(std::string_view bytes, size_t* skip) {
   *skip = 0;
-  auto starts = [&](std::string_view mark) { return bytes.substr(0, mark.size()) == mark; };
-  if (starts("\xEF\xBB\xBF")) {
-    *skip = 3;
-    return TextEncoding::Utf8Bom;
-  }
-  if (starts("\xFF\xFE")) {
-    *skip = 2;
-    return TextEncoding::Utf16LeBom;
-  }
-  if (starts("\xFE\xFF")) {
-    *skip = 2;
-    return TextEncoding::Utf16BeBom;
-  }
+  auto marks = [&](std::string_view mark) {
+    while (bytes.substr(*skip, mark.size()) == mark) *skip += mark.size();
+    return *skip > 0;
+  };
+  if (marks("\xEF\xBB\xBF")) return TextEncoding::Utf8Bom;
+  if (marks("\xFF\xFE")) return TextEncoding::Utf16LeBom;
+  if (marks("\xFE\xFF")) return TextEncoding::Utf16BeBom;
   if (LooksLikeUtf16Le(bytes)) return TextEncoding::Utf16Le;
   bool ascii = std::all_of(bytes.begin(), bytes.end(),
                            [](char c) { return static_cast<unsigned char>(c) < 0x80; });
@@ -127,6 +123,35 @@ bool ToCodePoints(std::string_view bytes, const char* from, std::u32string* out,
   return ok;
 }
 
+// Most exports need no iconv: UTF-8 that is plain ASCII, and UTF-16 whose
+// every unit has a Windows-1252 form, convert unit by unit. False sends the
+// text the long way, which also counts what has no Windows-1252 form.
+bool QuickDecode(std::string_view body, TextEncoding enc, std::string* out) {
+  if (enc == TextEncoding::Utf8 || enc == TextEncoding::Utf8Bom) {
+    for (char c : body)
+      if (static_cast<unsigned char>(c) >= 0x80) return false;
+    out->assign(body);
+    return true;
+  }
+  if (!IsUtf16(enc)) return false;
+  const bool big = enc == TextEncoding::Utf16BeBom;
+  out->clear();
+  out->reserve(body.size() / 2);
+  for (size_t i = 0; i + 1 < body.size(); i += 2) {
+    const auto lo = static_cast<unsigned char>(body[i + (big ? 1 : 0)]);
+    const auto hi = static_cast<unsigned char>(body[i + (big ? 0 : 1)]);
+    const char32_t unit = lo | (static_cast<char32_t>(hi) << 8);
+    if (unit < 0x80) {
+      out->push_back(static_cast<char>(unit));
+      continue;
+    }
+    const unsigned char b = Windows1252FromCodePoint(unit);
+    if (b == 0) return false;
+    out->push_back(static_cast<char>(b));
+  }
+  return true;
+}
+
 }  // namespace
 
 bool LooksBinary(std::string_view head) {
@@ -159,6 +184,7 @@ DecodeStatus DecodeToWindows1252(std::string_view bytes, DecodedText* out, std::
     out->Text.assign(body);
     return DecodeStatus::Ok;
   }
+  if (QuickDecode(body, enc, &out->Text)) return DecodeStatus::Ok;
 
   std::u32string cps;
   std::string why;
@@ -178,7 +204,9 @@ DecodeStatus DecodeToWindows1252(std::string_view bytes, DecodedText* out, std::
   out->Text.clear();
   out->Text.reserve(cps.size());
   int line = 1;
-  for (size_t i = 0; i < cps.size(); ++i) {
+  size_t first = 0;
+  while (first < cps.size() && cps[first] == U'\uFEFF') ++first;
+  for (size_t i = first; i < cps.size(); ++i) {
     char32_t cp = cps[i];
     if (cp == U'\n' || (cp == U'\r' && (i + 1 >= cps.size() || cps[i + 1] != U'\n'))) ++line;
     unsigned char b = Windows1252FromCodePoint(cp);

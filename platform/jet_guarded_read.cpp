@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <signal.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -99,21 +100,46 @@ bool ReadAll(int fd, std::chrono::steady_clock::time_point deadline, std::string
   }
 }
 
+// The size of the process's address space in bytes, 0 when it cannot be read.
+size_t AddressSpaceSize() {
+  const int fd = open("/proc/self/statm", O_RDONLY);
+  if (fd < 0) return 0;
+  char text[64] = {};
+  const ssize_t n = read(fd, text, sizeof text - 1);
+  close(fd);
+  size_t pages = 0;
+  for (ssize_t i = 0; i < n && text[i] >= '0' && text[i] <= '9'; ++i)
+    pages = pages * 10 + static_cast<size_t>(text[i] - '0');
+  const long pageSize = sysconf(_SC_PAGESIZE);
+  return pageSize > 0 ? pages * static_cast<size_t>(pageSize) : 0;
+}
+
+// Caps the child's address space at what it has now plus `extra`.
+void LimitMemory(size_t extra) {
+  const size_t now = AddressSpaceSize();
+  if (now == 0) return;
+  rlimit limit{};
+  limit.rlim_cur = limit.rlim_max = static_cast<rlim_t>(now + extra);
+  setrlimit(RLIMIT_AS, &limit);
+}
+
 // The child's whole life: libmdb's complaints about the file go nowhere, the
 // result goes down the pipe, and the child ends without running the parent's
 // exit handlers.
-[[noreturn]] void RunChild(const fs::path& file, int fd) {
+[[noreturn]] void RunChild(const fs::path& file, int fd, size_t memoryLimit,
+                           JetContentsReader reader) {
   const int devnull = open("/dev/null", O_WRONLY);
   if (devnull >= 0) {
     dup2(devnull, STDOUT_FILENO);
     dup2(devnull, STDERR_FILENO);
   }
+  LimitMemory(memoryLimit);
   int code = 0;
   try {
     JetContents contents;
     std::string why;
     const std::string message =
-        ReadJetContents(file, &contents, &why) ? "O" + EncodeJetContents(contents) : "E" + why;
+        reader(file, &contents, &why) ? "O" + EncodeJetContents(contents) : "E" + why;
     code = WriteAll(fd, message) ? 0 : 1;
   } catch (...) {
     code = 1;
@@ -198,6 +224,12 @@ bool DecodeJetContents(std::string_view bytes, JetContents* out) {
 
 bool ReadJetContentsGuarded(const fs::path& file, std::chrono::milliseconds limit, JetContents* out,
                             std::string* err) {
+  return ReadJetContentsGuarded(file, limit, kJetReadMemoryLimit, ReadJetContents, out, err);
+}
+
+bool ReadJetContentsGuarded(const fs::path& file, std::chrono::milliseconds limit,
+                            size_t memoryLimit, JetContentsReader reader, JetContents* out,
+                            std::string* err) {
   int fds[2];
   if (pipe(fds) != 0) {
     *err = file.string() + ": cannot start reading the database: " + std::strerror(errno);
@@ -213,7 +245,7 @@ bool ReadJetContentsGuarded(const fs::path& file, std::chrono::milliseconds limi
   }
   if (pid == 0) {
     close(fds[0]);
-    RunChild(file, fds[1]);
+    RunChild(file, fds[1], memoryLimit, reader);
   }
   close(fds[1]);
   std::string message;

@@ -1,4 +1,4 @@
-// Whole-line edits on text files, and the re-indenter.
+// Whole-line edits on text documents, and the re-indenter.
 //
 // Lines are compared whole, with leading and trailing blanks and tabs left
 // out and case ignored, since the files may already have been indented and
@@ -26,16 +26,6 @@ std::string Trim(const std::string& s) { return std::string(text::Trim(s)); }
 
 bool SameLine(const std::string& a, const std::string& b) {
   return text::IEquals(text::Trim(a), text::Trim(b));
-}
-
-std::optional<std::vector<std::string>> Load(const std::filesystem::path& file) {
-  std::vector<std::string> lines;
-  if (!ReadTextLines(file, &lines, nullptr)) return std::nullopt;
-  return lines;
-}
-
-void Save(const std::filesystem::path& file, const std::vector<std::string>& lines) {
-  WriteTextLines(file, lines, nullptr);
 }
 
 std::optional<size_t> FindLine(const std::vector<std::string>& lines, const std::string& line,
@@ -76,19 +66,16 @@ bool IsProcedureEnd(const std::string& line) {
 
 }  // namespace
 
-int IsDuplicateLine(const std::filesystem::path& file, const std::string& line, int) {
-  auto lines = Load(file);
-  if (!lines) return 0;
+int IsDuplicateLine(const TextDocument& doc, const std::string& line, int) {
   int count = 0;
-  for (const auto& l : *lines)
+  for (const auto& l : doc.Lines())
     if (SameLine(l, line)) ++count;
   return count;
 }
 
-void InsertLine(const std::filesystem::path& file, const std::string& anchor,
-                const std::string& newLine, int placement) {
-  auto lines = Load(file);
-  if (!lines) return;
+void InsertLine(TextDocument& doc, const std::string& anchor, const std::string& newLine,
+                int placement) {
+  auto* lines = &doc.Lines();
   std::vector<std::string> add = SplitLines(newLine);
   if (add.empty()) add.emplace_back();
   size_t at;
@@ -106,37 +93,32 @@ void InsertLine(const std::filesystem::path& file, const std::string& anchor,
     }
   }
   lines->insert(lines->begin() + static_cast<long>(at), add.begin(), add.end());
-  Save(file, *lines);
+  doc.CloseLastLine();
 }
 
-void ChangeLine2(const std::filesystem::path& file, const std::string& oldLine,
-                 const std::string& newLine) {
-  auto lines = Load(file);
-  if (!lines) return;
-  auto found = FindLine(*lines, oldLine);
+void ChangeLine2(TextDocument& doc, const std::string& oldLine, const std::string& newLine) {
+  auto found = FindLine(doc.Lines(), oldLine);
   if (!found) return;
-  (*lines)[*found] = newLine;
-  Save(file, *lines);
+  doc.Lines()[*found] = newLine;
+  doc.SplitBreaks(*found, *found + 1);
+  doc.CloseLastLine();
 }
 
 // The one use: a list box's AfterUpdate header takes the list control's
 // signature.
-void ChangeLine(const std::filesystem::path& file, const std::string& line, int) {
-  auto lines = Load(file);
-  if (!lines) return;
-  auto found = FindLine(*lines, line);
+void ChangeLine(TextDocument& doc, const std::string& line, int) {
+  auto found = FindLine(doc.Lines(), line);
   if (!found) return;
-  std::string& l = (*lines)[*found];
+  std::string& l = doc.Lines()[*found];
   size_t pos = l.find("_AfterUpdate()");
   if (pos == std::string::npos) return;
   l.replace(pos, 14, "_AfterUpdate(RtnDispErrMsg As Integer)");
-  Save(file, *lines);
+  doc.CloseLastLine();
 }
 
-int AddToCtlArray(const std::filesystem::path& file, const std::string& arrayName,
-                  const std::string& blockLine, const std::string& indexText) {
-  auto lines = Load(file);
-  if (!lines) return 0;
+int AddToCtlArray(TextDocument& doc, const std::string& arrayName, const std::string& blockLine,
+                  const std::string& indexText) {
+  auto* lines = &doc.Lines();
   auto found = FindLine(*lines, blockLine);
   if (!found) return 0;
   std::string& head = (*lines)[*found];
@@ -147,7 +129,8 @@ int AddToCtlArray(const std::filesystem::path& file, const std::string& arrayNam
   std::string cls = classEnd == std::string::npos ? trimmed : trimmed.substr(0, classEnd);
   head = indent + cls + " " + arrayName;
   lines->insert(lines->begin() + static_cast<long>(*found + 1), indent + "   Index = " + indexText);
-  Save(file, *lines);
+  doc.SplitBreaks(*found, *found + 2);
+  doc.CloseLastLine();
   return 1;
 }
 
@@ -157,10 +140,8 @@ namespace {
 // event of an ADO data control, the Reposition event of a DAO one. The ADO
 // header names "ADODB.Recordset20", which the hint processor shortens once
 // the form is complete.
-void AddToDataControlEvent(const std::filesystem::path& file, const std::string& header,
-                           const std::string& line) {
-  auto lines = Load(file);
-  if (!lines) return;
+void AddToDataControlEvent(TextDocument& doc, const std::string& header, const std::string& line) {
+  auto* lines = &doc.Lines();
   auto found = FindLine(*lines, header);
   if (!found) {
     lines->push_back(header);
@@ -172,15 +153,15 @@ void AddToDataControlEvent(const std::filesystem::path& file, const std::string&
     size_t end = *found + 1;
     while (end < lines->size() && !IsProcedureEnd((*lines)[end])) ++end;
     lines->insert(lines->begin() + static_cast<long>(end), line);
+    doc.SplitBreaks(end, end + 1);
   }
-  Save(file, *lines);
+  doc.CloseLastLine();
 }
 
 }  // namespace
 
-void AddDataCtlEntry2(const std::filesystem::path& file, const std::string& dataControl,
-                      const std::string& line) {
-  AddToDataControlEvent(file,
+void AddDataCtlEntry2(TextDocument& doc, const std::string& dataControl, const std::string& line) {
+  AddToDataControlEvent(doc,
                         "Private Sub " + dataControl +
                             "_MoveComplete(ByVal adReason As ADODB.EventReasonEnum, ByVal pError "
                             "As ADODB.Error, adStatus As ADODB.EventStatusEnum, ByVal pRecordset "
@@ -188,9 +169,8 @@ void AddDataCtlEntry2(const std::filesystem::path& file, const std::string& data
                         line);
 }
 
-void AddDataCtlEntry(const std::filesystem::path& file, const std::string& dataControl,
-                     const std::string& line) {
-  AddToDataControlEvent(file, "Private Sub " + dataControl + "_Reposition()", line);
+void AddDataCtlEntry(TextDocument& doc, const std::string& dataControl, const std::string& line) {
+  AddToDataControlEvent(doc, "Private Sub " + dataControl + "_Reposition()", line);
 }
 
 }  // namespace morvane

@@ -1,27 +1,24 @@
-// Whole-line edits on text files, by full path: the operations the code
-// generators use to add to procedures that may already be in a form text, and
-// the re-indenter that runs over every finished file. Each call reads the file,
-// edits it and writes it back with CR LF line ends; a call that finds no anchor
-// leaves the file as it was. Nothing here shows anything or throws.
+// Whole-line edits on a text document: the operations the code generators use
+// to add to procedures that may already be in a form text, and the
+// re-indenter that runs over every finished file. A call that finds no anchor
+// leaves the document as it was. Nothing here shows anything or throws.
 #pragma once
 
-#include <filesystem>
 #include <string>
+
+#include "platform/text_document.h"
 
 namespace morvane {
 
-int IsDuplicateLine(const std::filesystem::path& file, const std::string& line, int reserved = 0);
-void InsertLine(const std::filesystem::path& file, const std::string& anchor,
-                const std::string& newLine, int placement);
-void ChangeLine2(const std::filesystem::path& file, const std::string& oldLine,
-                 const std::string& newLine);
-void ChangeLine(const std::filesystem::path& file, const std::string& line, int reserved = 0);
-int AddToCtlArray(const std::filesystem::path& file, const std::string& arrayName,
-                  const std::string& blockLine, const std::string& indexText);
-void AddDataCtlEntry2(const std::filesystem::path& file, const std::string& dataControl,
-                      const std::string& line);
-void AddDataCtlEntry(const std::filesystem::path& file, const std::string& dataControl,
-                     const std::string& line);
-void SilentIndent(const std::filesystem::path& file);
+int IsDuplicateLine(const TextDocument& doc, const std::string& line, int reserved = 0);
+void InsertLine(TextDocument& doc, const std::string& anchor, const std::string& newLine,
+                int placement);
+void ChangeLine2(TextDocument& doc, const std::string& oldLine, const std::string& newLine);
+void ChangeLine(TextDocument& doc, const std::string& line, int reserved = 0);
+int AddToCtlArray(TextDocument& doc, const std::string& arrayName, const std::string& blockLine,
+                  const std::string& indexText);
+void AddDataCtlEntry2(TextDocument& doc, const std::string& dataControl, const std::string& line);
+void AddDataCtlEntry(TextDocument& doc, const std::string& dataControl, const std::string& line);
+void SilentIndent(TextDocument& doc);
 
 }  // namespace morvane

@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
+#include <span>
 
+#include "platform/output_directory.h"
 #include "platform/text_file.h"
 #include "platform/text_fold.h"
 
@@ -30,7 +32,7 @@ bool IsProcedureHeader(const std::string& raw) {
 
 // Lines before the first procedure; the comment lines directly above the
 // first procedure belong to it, as in the VBA editor.
-int DeclarationLineCount(const std::vector<std::string>& code) {
+int DeclarationLineCount(std::span<const std::string> code) {
   size_t first = code.size();
   for (size_t i = 0; i < code.size(); ++i)
     if (IsProcedureHeader(code[i])) {
@@ -85,6 +87,23 @@ std::string ProjectIdentifier(const std::string& name) {
   return out.substr(0, 40);
 }
 
+// The libraries the header's Object lines name, each once.
+std::vector<std::string> ObjectLines(const std::vector<std::string>& lines) {
+  std::vector<std::string> objects;
+  for (const auto& l : lines) {
+    std::string t = Trimmed(l);
+    if (StartsWith(t, "Begin ") || StartsWith(t, "Attribute ")) break;
+    // VB writes "Object = ", the form writer "Object=".
+    if (!StartsWith(t, "Object")) continue;
+    std::string value = Trimmed(t.substr(6));
+    if (value.empty() || value.front() != '=') continue;
+    value = Trimmed(value.substr(1));
+    value.erase(std::remove(value.begin(), value.end(), '"'), value.end());
+    if (std::find(objects.begin(), objects.end(), value) == objects.end()) objects.push_back(value);
+  }
+  return objects;
+}
+
 std::string AttributeName(const std::vector<std::string>& lines) {
   for (const auto& l : lines) {
     std::string t = Trimmed(l);
@@ -99,60 +118,56 @@ std::string AttributeName(const std::vector<std::string>& lines) {
 
 }  // namespace
 
-CodeModule::Split CodeModule::Read() const {
-  std::vector<std::string> lines;
-  ReadTextLines(file_, &lines, nullptr);
-  size_t start = CodeStart(lines);
-  Split s;
-  s.head.assign(lines.begin(), lines.begin() + static_cast<long>(start));
-  s.code.assign(lines.begin() + static_cast<long>(start), lines.end());
-  return s;
+CodeModule::CodeModule(TextDocument* text) : text_(text) {
+  if (text_) head_ = CodeStart(text_->Lines());
 }
 
-void CodeModule::Write(const Split& s) const {
-  std::vector<std::string> all = s.head;
-  all.insert(all.end(), s.code.begin(), s.code.end());
-  WriteTextLines(file_, all, nullptr);
+std::vector<std::string>::iterator CodeModule::Begin() const {
+  return text_->Lines().begin() + static_cast<long>(head_);
 }
 
-int CodeModule::CountOfLines() const { return static_cast<int>(Read().code.size()); }
+int CodeModule::Count() const {
+  return text_ ? static_cast<int>(text_->Lines().size() - head_) : 0;
+}
 
-int CodeModule::CountOfDeclarationLines() const { return DeclarationLineCount(Read().code); }
+int CodeModule::CountOfLines() const { return Count(); }
+
+int CodeModule::CountOfDeclarationLines() const {
+  if (!text_) return 0;
+  return DeclarationLineCount(std::span<const std::string>(text_->Lines()).subspan(head_));
+}
 
 std::string CodeModule::Lines(int start, int count) const {
-  Split s = Read();
   std::string out;
-  for (int i = start; i < start + count && i >= 1 && i <= static_cast<int>(s.code.size()); ++i) {
+  for (int i = start; i < start + count && i >= 1 && i <= Count(); ++i) {
     if (i > start) out += "\r\n";
-    out += s.code[static_cast<size_t>(i - 1)];
+    out += *(Begin() + (i - 1));
   }
   return out;
 }
 
 void CodeModule::InsertLines(int line, const std::string& text) {
-  Split s = Read();
-  size_t at = static_cast<size_t>(std::clamp(line, 1, static_cast<int>(s.code.size()) + 1) - 1);
+  if (!text_) return;
+  const int at = std::clamp(line, 1, Count() + 1) - 1;
   auto add = SplitLines(text);
   if (text.empty()) add.assign(1, "");
-  s.code.insert(s.code.begin() + static_cast<long>(at), add.begin(), add.end());
-  Write(s);
+  text_->Lines().insert(Begin() + at, add.begin(), add.end());
+  text_->CloseLastLine();
 }
 
 void CodeModule::DeleteLines(int start, int count) {
-  Split s = Read();
-  if (start < 1 || count < 1 || start > static_cast<int>(s.code.size())) return;
-  size_t b = static_cast<size_t>(start - 1);
-  size_t e = std::min(s.code.size(), b + static_cast<size_t>(count));
-  s.code.erase(s.code.begin() + static_cast<long>(b), s.code.begin() + static_cast<long>(e));
-  Write(s);
+  if (!text_ || start < 1 || count < 1 || start > Count()) return;
+  const int end = std::min(Count(), start - 1 + count);
+  text_->Lines().erase(Begin() + (start - 1), Begin() + end);
+  text_->CloseLastLine();
 }
 
 void CodeModule::AddFromString(const std::string& text) {
-  Split s = Read();
+  if (!text_) return;
   auto add = SplitLines(text);
-  size_t at = static_cast<size_t>(DeclarationLineCount(s.code));
-  s.code.insert(s.code.begin() + static_cast<long>(at), add.begin(), add.end());
-  Write(s);
+  const int at = CountOfDeclarationLines();
+  text_->Lines().insert(Begin() + at, add.begin(), add.end());
+  text_->CloseLastLine();
 }
 
 const ProjectComponent* ProjectModel::Find(const std::string& name) const {
@@ -161,9 +176,8 @@ const ProjectComponent* ProjectModel::Find(const std::string& name) const {
   return nullptr;
 }
 
-const ProjectComponent* ProjectModel::AddFile(const std::filesystem::path& file) {
-  std::vector<std::string> lines;
-  if (!ReadTextLines(file, &lines, nullptr)) return nullptr;
+const ProjectComponent* ProjectModel::Add(const std::filesystem::path& file, TextDocument text) {
+  const std::vector<std::string>& lines = text.Lines();
   ProjectComponent c;
   c.File = file;
   c.Kind = ComponentKind::Module;
@@ -188,14 +202,37 @@ const ProjectComponent* ProjectModel::AddFile(const std::filesystem::path& file)
   }
   c.Name = AttributeName(lines);
   if (c.Name.empty()) c.Name = file.stem().string();
+  c.Objects = ObjectLines(lines);
+  c.Text = std::make_shared<TextDocument>(std::move(text));
   for (auto& existing : components_) {
     if (existing.Name == c.Name) {
-      existing = c;
+      existing = std::move(c);
       return &existing;
     }
   }
-  components_.push_back(c);
+  components_.push_back(std::move(c));
   return &components_.back();
+}
+
+const ProjectComponent* ProjectModel::AddFile(const std::filesystem::path& file) {
+  std::string bytes;
+  if (!ReadFileBytes(file, &bytes, nullptr)) return nullptr;
+  const ProjectComponent* c = Add(file, TextDocument::FromBytes(bytes));
+  // The file is on disk already.
+  for (auto& existing : components_)
+    if (&existing == c) existing.Text.reset();
+  return c;
+}
+
+bool ProjectModel::WriteComponent(const std::string& name, OutputDirectory& out, std::string* err) {
+  for (auto& c : components_) {
+    if (c.Name != name || !c.Text) continue;
+    c.Objects = ObjectLines(c.Text->Lines());
+    const bool ok = out.Write(c.File, c.Text->Bytes(), err);
+    c.Text.reset();
+    return ok;
+  }
+  return true;
 }
 
 void ProjectModel::Remove(const std::string& name) {
@@ -233,6 +270,13 @@ constexpr KnownReference kKnownReferences[] = {
     {"{4AFFC9A0-5F99-101B-AF4E-00AA003F0F07}",
      "C:\\Program Files\\Microsoft Office\\Office\\MSACC9.OLB",
      "Microsoft Access 9.0 Object Library"},
+    {"{642AC760-AAB4-11D0-8494-00A0C90DC8A9}", "C:\\WINDOWS\\System32\\MSDBRPTR.DLL",
+     "Microsoft Data Report Designer 6.0"},
+    {"{6B263850-900B-11D0-9484-00A0C91110ED}", "C:\\WINDOWS\\System32\\MSSTDFMT.DLL",
+     "Microsoft Data Formatting Object Library 6.0"},
+    {"{3D5C6BF0-69A3-11D0-B393-00A0C9055D8E}",
+     "C:\\Program Files\\Common Files\\Designer\\MSDERUN.DLL",
+     "Microsoft Data Environment Instance 1.0"},
 };
 
 std::string HexVersion(int major, int minor) {
@@ -266,20 +310,10 @@ std::string ProjectModel::VbpText(const std::filesystem::path& baseDir) const {
   // Each control library a form names in its Object lines, once.
   std::vector<std::string> objects;
   for (const auto& c : components_) {
-    std::vector<std::string> lines;
-    if (!ReadTextLines(c.File, &lines, nullptr)) continue;
-    for (const auto& l : lines) {
-      std::string t = Trimmed(l);
-      if (StartsWith(t, "Begin ") || StartsWith(t, "Attribute ")) break;
-      // VB writes "Object = ", the form writer "Object=".
-      if (!StartsWith(t, "Object")) continue;
-      std::string value = Trimmed(t.substr(6));
-      if (value.empty() || value.front() != '=') continue;
-      value = Trimmed(value.substr(1));
-      value.erase(std::remove(value.begin(), value.end(), '"'), value.end());
+    const std::vector<std::string> own = c.Text ? ObjectLines(c.Text->Lines()) : c.Objects;
+    for (const auto& value : own)
       if (std::find(objects.begin(), objects.end(), value) == objects.end())
         objects.push_back(value);
-    }
   }
   for (const auto& o : objects) out.push_back("Object=" + o);
   for (const auto& c : components_) {
@@ -339,7 +373,7 @@ std::string ProjectModel::VbpText(const std::filesystem::path& baseDir) const {
 }
 
 bool ProjectModel::SaveAs(const std::filesystem::path& vbpFile, std::string* err) {
-  return WriteFileBytes(vbpFile, VbpText(vbpFile.parent_path()), err);
+  return WriteFileWhole(vbpFile, VbpText(vbpFile.parent_path()), err);
 }
 
 }  // namespace morvane

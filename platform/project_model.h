@@ -1,7 +1,8 @@
 // The project model: what stands in for the development environment's
 // project object. It keeps the component list and the references, offers the
-// code-module operations on each component's file, and writes the project
-// file in VB6's own .vbp format.
+// code-module operations on each component's text, writes each component's
+// file once it is complete, and writes the project file in VB6's own .vbp
+// format.
 #pragma once
 
 #include <filesystem>
@@ -10,17 +11,22 @@
 #include <vector>
 
 #include "platform/catalog.h"
+#include "platform/text_document.h"
 
 namespace morvane {
 
 enum class ComponentKind { Module, Class, Form, Designer, UserControl };
 
-// The code part of a component file: everything behind the designer block
-// and the Attribute lines. Each operation reads and writes the file, so the
-// file on disk is always the truth.
+class OutputDirectory;
+
+// The code part of a component's text: everything behind the designer block
+// and the Attribute lines. A module of no text (a component already written)
+// is empty and takes no edits.
 class CodeModule {
  public:
-  explicit CodeModule(std::filesystem::path file) : file_(std::move(file)) {}
+  // The part of the text ahead of the code is found once: the operations
+  // change only the code.
+  explicit CodeModule(TextDocument* text);
   int CountOfLines() const;
   // Lines before the first procedure, as the VBA editor counts them.
   int CountOfDeclarationLines() const;
@@ -31,20 +37,22 @@ class CodeModule {
   void AddFromString(const std::string& text);
 
  private:
-  struct Split {
-    std::vector<std::string> head;
-    std::vector<std::string> code;
-  };
-  Split Read() const;
-  void Write(const Split& s) const;
-  std::filesystem::path file_;
+  // The code lines, from the first behind the header to the end.
+  std::vector<std::string>::iterator Begin() const;
+  int Count() const;
+  TextDocument* text_;
+  size_t head_ = 0;
 };
 
 struct ProjectComponent {
   std::string Name;
   ComponentKind Kind = ComponentKind::Module;
   std::filesystem::path File;
-  CodeModule Code() const { return CodeModule(File); }
+  // The text until the component's file is written.
+  std::shared_ptr<TextDocument> Text;
+  // The control libraries its Object lines name.
+  std::vector<std::string> Objects;
+  CodeModule Code() const { return CodeModule(Text.get()); }
 };
 
 class ProjectModel {
@@ -58,12 +66,17 @@ class ProjectModel {
 
   const std::vector<ProjectComponent>& Components() const { return components_; }
   const ProjectComponent* Find(const std::string& name) const;
-  // Adds a file on disk; its kind and name come from its text (VB_Name, the
-  // form's or designer's Begin line). A class kept in a .bas is a class.
-  // Returns null when the file cannot be read. A component with the same
-  // name replaces the earlier one in place.
+  // Adds a component whose file will be `file`; its kind and name come from
+  // its text (VB_Name, the form's or designer's Begin line). A class kept in
+  // a .bas is a class. A component with the same name replaces the earlier
+  // one in place.
+  const ProjectComponent* Add(const std::filesystem::path& file, TextDocument text);
+  // Adds a file that is already on disk. Null when it cannot be read.
   const ProjectComponent* AddFile(const std::filesystem::path& file);
   void Remove(const std::string& name);
+  // Writes the component's file and lets its text go. False with the
+  // message of the failed write.
+  bool WriteComponent(const std::string& name, OutputDirectory& out, std::string* err);
 
   const std::vector<ReferenceInfo>& References() const { return references_; }
   void AddFromGuid(const std::string& guid, int major, int minor);

@@ -174,9 +174,8 @@ class CodeIndenter {
 
 }  // namespace
 
-void SilentIndent(const std::filesystem::path& file) {
-  std::vector<std::string> lines;
-  if (!ReadTextLines(file, &lines, nullptr)) return;
+void SilentIndent(TextDocument& doc) {
+  const std::vector<std::string>& lines = doc.Lines();
   std::vector<std::string> out;
   out.reserve(lines.size());
   size_t i = 0;
@@ -243,7 +242,7 @@ void SilentIndent(const std::filesystem::path& file) {
       code.Statement(out, parts);
     }
   }
-  WriteTextLines(file, out, nullptr);
+  doc.SetLines(std::move(out));
 }
 
 }  // namespace morvane

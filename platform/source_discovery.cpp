@@ -118,7 +118,16 @@ ExportKind ClassifyExport(const std::vector<std::string>& lines, std::string_vie
   if (InList("|.sql|", extension)) return ExportKind::Sql;
   std::string_view first = Trim(lines[i]);
   if (IStartsWith(first, "VERSION 1.0 CLASS")) return ExportKind::ClassModule;
-  if (IStartsWith(first, "Attribute VB_Name")) return ExportKind::StandardModule;
+  if (IStartsWith(first, "Attribute ")) {
+    // The module's Attribute lines: a class carries its own (Access writes
+    // them without a VB_Name), a standard module only VB_Name.
+    bool named = false;
+    for (size_t k = i; k < lines.size() && IStartsWith(Trim(lines[k]), "Attribute "); ++k) {
+      if (IsClassAttributeLine(lines[k])) return ExportKind::ClassModule;
+      if (IStartsWith(Trim(lines[k]), "Attribute VB_Name")) named = true;
+    }
+    if (named) return ExportKind::StandardModule;
+  }
 
   // The lines before the first block say what the design text is.
   for (size_t k = i; k < lines.size(); ++k) {

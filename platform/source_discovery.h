@@ -18,7 +18,7 @@ enum class ExportKind {
   Report,          // Begin Report
   Macro,           // Version =, then Begin/Action = records
   StandardModule,  // Attribute VB_Name, Option Compare Database or other code
-  ClassModule,     // VERSION 1.0 CLASS
+  ClassModule,     // VERSION 1.0 CLASS, or the class's own Attribute lines
   Query,           // dbMemo "SQL" =, Operation =
   Sql,             // SQL text alone, in a .sql file
 };

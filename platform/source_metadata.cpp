@@ -19,18 +19,29 @@ using text::Trim;
 
 namespace {
 
+struct JsonMember;
+
 struct JsonValue {
   enum Kind { Null, Bool, Number, String, Array, Object } Type = Null;
   std::string Text;  // string, number or boolean as text ("True"/"False")
-  std::vector<std::pair<std::string, JsonValue>> Members;
+  // A vector may hold a type that is still incomplete where the vector is
+  // declared; a pair may not, so members are a struct of their own.
+  std::vector<JsonMember> Members;
   std::vector<JsonValue> Items;
 
-  const JsonValue* Member(std::string_view name) const {
-    for (const auto& [k, v] : Members)
-      if (IEquals(k, name)) return &v;
-    return nullptr;
-  }
+  const JsonValue* Member(std::string_view name) const;
 };
+
+struct JsonMember {
+  std::string Key;
+  JsonValue Value;
+};
+
+const JsonValue* JsonValue::Member(std::string_view name) const {
+  for (const auto& [k, v] : Members)
+    if (IEquals(k, name)) return &v;
+  return nullptr;
+}
 
 class JsonReader {
  public:
@@ -117,7 +128,7 @@ class JsonReader {
         std::string key;
         JsonValue v;
         if (!StringValue(&key) || !Eat(':') || !Value(&v, depth + 1)) return false;
-        out->Members.emplace_back(std::move(key), std::move(v));
+        out->Members.push_back({std::move(key), std::move(v)});
       } while (Eat(','));
       return Eat('}');
     }

@@ -101,19 +101,37 @@ std::string VbNameOf(std::string_view line) {
   return std::string(t.substr(q1 + 1, q2 - q1 - 1));
 }
 
+bool IsClassAttributeLine(std::string_view line) {
+  std::string_view t = Trim(line);
+  if (!IStartsWith(t, "Attribute ")) return false;
+  t = Trim(t.substr(10));
+  for (std::string_view key :
+       {"VB_GlobalNameSpace", "VB_Creatable", "VB_PredeclaredId", "VB_Exposed"})
+    if (IStartsWith(t, key) && Trim(t.substr(key.size())).substr(0, 1) == "=") return true;
+  return false;
+}
+
+size_t ClassHeaderLength(const std::vector<std::string>& lines) {
+  size_t i = 0;
+  if (lines.empty() || !IStartsWith(Trim(lines[0]), "VERSION 1.0 CLASS")) return 0;
+  ++i;
+  if (i < lines.size() && IEquals(Trim(lines[i]), "BEGIN")) {
+    while (i < lines.size() && !IEquals(Trim(lines[i]), "END")) ++i;
+    if (i < lines.size()) ++i;
+  }
+  return i;
+}
+
+// Both shapes of a class module are read: the VBA editor's export with its
+// VERSION 1.0 CLASS header, and Access's own text of a class, which starts
+// with the class's Attribute lines and names no VB_Name.
 ModuleCode ModuleFromExport(const std::vector<std::string>& lines, std::string* vbName) {
   ModuleCode out;
-  size_t i = 0;
   if (vbName) vbName->clear();
-  if (i < lines.size() && IStartsWith(Trim(lines[i]), "VERSION 1.0 CLASS")) {
-    out.Type = 1;
-    ++i;
-    if (i < lines.size() && IEquals(Trim(lines[i]), "BEGIN")) {
-      while (i < lines.size() && !IEquals(Trim(lines[i]), "END")) ++i;
-      if (i < lines.size()) ++i;
-    }
-  }
+  size_t i = ClassHeaderLength(lines);
+  if (i > 0) out.Type = 1;
   for (; i < lines.size() && IsAttributeLine(lines[i]); ++i) {
+    if (IsClassAttributeLine(lines[i])) out.Type = 1;
     std::string name = VbNameOf(lines[i]);
     if (!name.empty() && vbName) *vbName = name;
   }
@@ -137,6 +155,21 @@ ModuleCode CodeBehindFromDesign(const std::vector<std::string>& lines) {
   while (i < lines.size() && IsAttributeLine(lines[i])) ++i;
   AppendCode(lines, i, &out);
   return out;
+}
+
+std::string CodeFileOfStub(const std::vector<std::string>& lines) {
+  size_t i = 0;
+  while (i < lines.size() && Trim(lines[i]) != "CodeBehindForm") ++i;
+  std::string file;
+  for (++i; i < lines.size(); ++i) {
+    std::string_view t = Trim(lines[i]);
+    if (t.empty() || IsAttributeLine(t)) continue;
+    if (!file.empty() || !IStartsWith(t, "' See \"") || t.back() != '"') return {};
+    std::string_view named = t.substr(7, t.size() - 8);
+    if (named.empty() || named.find('"') != std::string_view::npos) return {};
+    file = std::string(named);
+  }
+  return file;
 }
 
 }  // namespace morvane

@@ -3,6 +3,7 @@
 // declaration lines.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,9 +27,23 @@ int CountDeclarationLines(const std::vector<std::string>& code);
 // `Attribute VB_Name` (empty when the file has none).
 ModuleCode ModuleFromExport(const std::vector<std::string>& lines, std::string* vbName);
 
+// Whether the line is one of the Attribute lines that only a class module
+// carries (VB_GlobalNameSpace, VB_Creatable, VB_PredeclaredId, VB_Exposed).
+bool IsClassAttributeLine(std::string_view line);
+
+// The number of lines of the VBA editor's class header (VERSION 1.0 CLASS
+// and its BEGIN ... END block) at the start of a module text; 0 without one.
+size_t ClassHeaderLength(const std::vector<std::string>& lines);
+
 // The code behind of a form or report text: the lines after the
 // CodeBehindForm line, without its Attribute lines. Empty when there is none.
 ModuleCode CodeBehindFromDesign(const std::vector<std::string>& lines);
+
+// Where a design's code lies in a file of its own, the design keeps after
+// CodeBehindForm only a comment naming that file (' See "Name.cls"). The
+// file name when the code behind is such a stub and nothing else; empty
+// otherwise.
+std::string CodeFileOfStub(const std::vector<std::string>& lines);
 
 // Whether the design text has a CodeBehindForm line.
 bool HasCodeBehind(const std::vector<std::string>& lines);

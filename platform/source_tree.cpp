@@ -39,6 +39,16 @@ const SourceObject* SourceTree::Find(AccessObjectKind kind, const std::string& n
   return nullptr;
 }
 
+bool SourceTree::LoadDesignText(AccessObjectKind kind, const std::string& name,
+                                std::vector<std::string>* lines, std::string* err) const {
+  const SourceObject* o = Find(kind, name);
+  if (!o) {
+    if (err) *err = "no object \"" + name + "\" in the tree";
+    return false;
+  }
+  return ReadExportLines(o->File, lines, err);
+}
+
 namespace {
 
 constexpr size_t kBinaryProbeBytes = 4096;
@@ -93,6 +103,7 @@ struct FoundFile {
   QueryExport Query;        // queries
   std::string SqlText;      // .sql files
   bool CodeBehind = false;  // forms and reports: code after CodeBehindForm
+  std::string StubFile;     // forms and reports: the code file a stub names
 };
 
 struct TreeQuery {
@@ -109,6 +120,8 @@ class DirectorySourceTree : public SourceTree {
   const std::vector<SourceObject>& Objects() const override { return objects_; }
   bool LoadModule(AccessObjectKind kind, const std::string& name, ModuleCode* out,
                   std::string* err) const override;
+  bool LoadDesignText(AccessObjectKind kind, const std::string& name,
+                      std::vector<std::string>* lines, std::string* err) const override;
   bool LoadMacroText(const std::string& name, std::vector<std::string>* lines,
                      std::string* err) const override;
   std::unique_ptr<MemoryCatalog> BuildCatalog() const override;
@@ -138,9 +151,14 @@ class DirectorySourceTree : public SourceTree {
   // that carry their own code.
   std::map<std::string, size_t> besideDesign_;
   std::set<std::string> withCodeBehind_;
+  std::map<size_t, std::string> stubs_;  // objects_ index -> the code file its stub names
   std::map<std::string, std::string> properties_;
   std::vector<ReferenceInfo> references_;
   std::vector<std::string> warnings_;
+  // The decoded text of every export, read once while the tree is read; the
+  // loaders split it again instead of reading the file a second time.
+  std::map<std::string, std::string> decoded_;
+  bool ReadLines(const fs::path& file, std::vector<std::string>* lines, std::string* err) const;
 };
 
 // Forced layouts admit only the files their shape holds.
@@ -181,23 +199,13 @@ void DirectorySourceTree::ReadFile(const fs::path& file, const LayoutRule* force
   if (!Admit(file, forced) || IsQuietlySkipped(ext)) return;
 
   std::string bytes;
-  {
-    std::ifstream in(file, std::ios::binary);
-    if (!in) {
-      Warn(file, "cannot be read; skipped");
-      return;
-    }
-    bytes.resize(kBinaryProbeBytes);
-    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    bytes.resize(static_cast<size_t>(in.gcount()));
-    if (LooksBinary(bytes)) {
-      Warn(file, "binary file, not an Access export; skipped");
-      return;
-    }
-  }
   std::string err;
   if (!ReadFileBytes(file, &bytes, &err)) {
     Warn(file, "cannot be read; skipped");
+    return;
+  }
+  if (LooksBinary(std::string_view(bytes).substr(0, kBinaryProbeBytes))) {
+    Warn(file, "binary file, not an Access export; skipped");
     return;
   }
   DecodedText text;
@@ -246,9 +254,10 @@ void DirectorySourceTree::ReadFile(const fs::path& file, const LayoutRule* force
   }
   if (f.Kind == ExportKind::Sql) f.SqlText = text.Text;
   if (f.Kind == ExportKind::Form || f.Kind == ExportKind::Report) {
-    ModuleCode code = CodeBehindFromDesign(lines);
-    f.CodeBehind = code.CountOfLines() > 0;
+    f.StubFile = CodeFileOfStub(lines);
+    f.CodeBehind = f.StubFile.empty() && CodeBehindFromDesign(lines).CountOfLines() > 0;
   }
+  decoded_[file.string()] = std::move(text.Text);
   found_.push_back(std::move(f));
 }
 
@@ -317,6 +326,13 @@ bool DirectorySourceTree::Resolve(std::string* err) {
       besideDesign_.emplace(f.File.parent_path().string() + "/" + Lower(f.Stem),
                             objects_.size() - 1);
       if (f.CodeBehind) withCodeBehind_.insert(f.File.string());
+      if (!f.StubFile.empty()) {
+        // The file the stub names is the code, whatever its name.
+        stubs_[objects_.size() - 1] = f.StubFile;
+        besideDesign_.emplace(f.File.parent_path().string() + "/" +
+                                  Lower(NameFromFileName(fs::path(f.StubFile).filename())),
+                              objects_.size() - 1);
+      }
     }
     if (kind == AccessObjectKind::Query)
       queries_[Lower(name)] = {
@@ -342,6 +358,11 @@ bool DirectorySourceTree::Resolve(std::string* err) {
     }
     if (!AddObject(AccessObjectKind::Module, name, f.File, err)) return false;
   }
+  for (const auto& [index, stub] : stubs_)
+    if (objects_[index].CodeFile.empty())
+      Warn(objects_[index].File, "its code is kept in \"" + stub +
+                                     "\", which the tree does not hold; the " +
+                                     KindWord(objects_[index].Kind) + " is read without code");
   for (const auto& f : found_) {
     if (f.Kind != ExportKind::Sql) continue;
     std::string name = StripKindPrefix(f.Stem, AccessObjectKind::Query);
@@ -365,6 +386,7 @@ bool DirectorySourceTree::Resolve(std::string* err) {
   found_.clear();
   besideDesign_.clear();
   withCodeBehind_.clear();
+  stubs_.clear();
   return true;
 }
 
@@ -413,6 +435,14 @@ bool DirectorySourceTree::Read(const fs::path& dir, const std::string& layout, s
   return true;
 }
 
+bool DirectorySourceTree::ReadLines(const fs::path& file, std::vector<std::string>* lines,
+                                    std::string* err) const {
+  auto it = decoded_.find(file.string());
+  if (it == decoded_.end()) return ReadExportLines(file, lines, err);
+  *lines = SplitLines(it->second);
+  return true;
+}
+
 bool DirectorySourceTree::LoadModule(AccessObjectKind kind, const std::string& name,
                                      ModuleCode* out, std::string* err) const {
   const SourceObject* o = Find(kind, name);
@@ -421,15 +451,37 @@ bool DirectorySourceTree::LoadModule(AccessObjectKind kind, const std::string& n
     return false;
   }
   std::vector<std::string> lines;
-  if (!ReadExportLines(o->CodeFile.empty() ? o->File : o->CodeFile, &lines, err)) return false;
   if (kind == AccessObjectKind::Module) {
+    if (!ReadLines(o->File, &lines, err)) return false;
     *out = ModuleFromExport(lines, nullptr);
-  } else if (!o->CodeFile.empty()) {
-    *out = ModuleFromExport(lines, nullptr);
-    out->Type = 1;
-  } else {
-    *out = CodeBehindFromDesign(lines);
+    return true;
   }
+  if (!LoadDesignText(kind, name, &lines, err)) return false;
+  *out = CodeBehindFromDesign(lines);
+  return true;
+}
+
+bool DirectorySourceTree::LoadDesignText(AccessObjectKind kind, const std::string& name,
+                                         std::vector<std::string>* lines, std::string* err) const {
+  const SourceObject* o = Find(kind, name);
+  if (!o || (kind != AccessObjectKind::Form && kind != AccessObjectKind::Report)) {
+    if (err) *err = std::string("no ") + KindWord(kind) + " \"" + name + "\" in the tree";
+    return false;
+  }
+  if (!ReadLines(o->File, lines, err)) return false;
+  const bool stub = !CodeFileOfStub(*lines).empty();
+  if (o->CodeFile.empty() && !stub) return true;
+  // The code behind is the code file's module text (class header left out);
+  // a stub that only names the file is never taken as code.
+  auto at = std::find_if(lines->begin(), lines->end(),
+                         [](const std::string& l) { return text::Trim(l) == "CodeBehindForm"; });
+  lines->erase(at, lines->end());
+  lines->push_back("CodeBehindForm");
+  if (o->CodeFile.empty()) return true;
+  std::vector<std::string> code;
+  if (!ReadLines(o->CodeFile, &code, err)) return false;
+  lines->insert(lines->end(), code.begin() + static_cast<std::ptrdiff_t>(ClassHeaderLength(code)),
+                code.end());
   return true;
 }
 
@@ -440,7 +492,7 @@ bool DirectorySourceTree::LoadMacroText(const std::string& name, std::vector<std
     if (err) *err = "no macro \"" + name + "\" in the tree";
     return false;
   }
-  return ReadExportLines(o->File, lines, err);
+  return ReadLines(o->File, lines, err);
 }
 
 std::unique_ptr<MemoryCatalog> DirectorySourceTree::BuildCatalog() const {

@@ -57,6 +57,13 @@ class SourceTree {
   // report. A form or report without code gives an empty module and true.
   virtual bool LoadModule(AccessObjectKind kind, const std::string& name, ModuleCode* out,
                           std::string* err) const = 0;
+  // The export text of a form or report as Windows-1252 lines, with its
+  // code: where the layout keeps the code in a file of its own, the lines
+  // after CodeBehindForm are that file's module text, so that the design and
+  // its module read as one export. This implementation reads the object's
+  // file as it is.
+  virtual bool LoadDesignText(AccessObjectKind kind, const std::string& name,
+                              std::vector<std::string>* lines, std::string* err) const;
   // A macro's saved text, converted to Windows-1252 lines.
   virtual bool LoadMacroText(const std::string& name, std::vector<std::string>* lines,
                              std::string* err) const = 0;

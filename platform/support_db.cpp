@@ -83,6 +83,16 @@ class Statement {
     return p ? std::string(p, static_cast<size_t>(sqlite3_column_bytes(stmt_, col))) : "";
   }
   long long Int(int col) const { return sqlite3_column_int64(stmt_, col); }
+  bool IsNull(int col) const { return sqlite3_column_type(stmt_, col) == SQLITE_NULL; }
+  std::optional<std::string> Blob(int col) const {
+    const void* p = sqlite3_column_blob(stmt_, col);
+    const int size = sqlite3_column_bytes(stmt_, col);
+    return p ? std::string(static_cast<const char*>(p), static_cast<size_t>(size)) : std::string();
+  }
+  Statement& BindBlob(int i, const std::string& v) {
+    sqlite3_bind_blob(stmt_, i, v.data(), static_cast<int>(v.size()), SQLITE_TRANSIENT);
+    return *this;
+  }
   sqlite3_stmt* get() { return stmt_; }
 
  private:
@@ -249,6 +259,72 @@ std::optional<FieldRow> SupportDatabase::FindField(const std::string& fieldName)
   st.Bind(1, fieldName);
   if (!st.Next()) return std::nullopt;
   return FieldRow{st.Text(0), static_cast<int>(st.Int(1)), st.Text(2)};
+}
+
+bool SupportDatabase::ClearLogOf(const std::vector<std::string>& reports) {
+  bool ok = true;
+  for (const auto& report : reports) {
+    Statement st(db_, "DELETE FROM tblLog WHERE Report = ?");
+    ok = st.Bind(1, report).Run() && ok;
+  }
+  return ok;
+}
+
+int SupportDatabase::LastErrorCode() const { return db_ ? sqlite3_extended_errcode(db_) : -1; }
+
+bool SupportDatabase::StagePicture(const std::string& bytes) {
+  if (!ClearStagedPicture()) return false;
+  Statement st(db_, "INSERT INTO tblPict (ID, PictureData) VALUES (1, ?)");
+  return st.BindBlob(1, bytes).Run();
+}
+
+std::optional<std::string> SupportDatabase::StagedPicture() const {
+  Statement st(db_, "SELECT PictureData FROM tblPict WHERE ID = 1");
+  if (!st.ok()) return std::nullopt;
+  if (!st.Next()) return std::nullopt;
+  return st.Blob(0);
+}
+
+bool SupportDatabase::ClearStagedPicture() { return Execute("DELETE FROM tblPict WHERE ID = 1"); }
+
+std::optional<CustomControlRow> SupportDatabase::FindCustomControl(
+    const std::string& accessClass) const {
+  Statement st(db_,
+               "SELECT VBType, ClassID, FileName FROM CustomControlMapping "
+               "WHERE AccessClassName = ? COLLATE NOCASE LIMIT 1");
+  st.Bind(1, accessClass);
+  if (!st.Next()) return std::nullopt;
+  return CustomControlRow{st.Text(0), st.Text(1), st.Text(2)};
+}
+
+std::vector<MacroActionRow> SupportDatabase::MacroActions() const {
+  std::vector<MacroActionRow> rows;
+  Statement st(db_, "SELECT Action, ActionID, MapsTo, NumArgs FROM mtm_tblActions ORDER BY rowid");
+  while (st.Next()) {
+    MacroActionRow r{st.Text(0), static_cast<long>(st.Int(1)), std::nullopt,
+                     static_cast<int>(st.Int(3))};
+    if (!st.IsNull(2)) r.MapsTo = st.Text(2);
+    rows.push_back(std::move(r));
+  }
+  return rows;
+}
+
+std::vector<MacroActionArgRow> SupportDatabase::MacroActionArgs() const {
+  std::vector<MacroActionArgRow> rows;
+  Statement st(db_,
+               "SELECT ActionID, ArgNumber, ArgumentType, LookupBase, AutoExpression "
+               "FROM mtm_tblActionArgs");
+  while (st.Next())
+    rows.push_back({static_cast<long>(st.Int(0)), static_cast<int>(st.Int(1)),
+                    static_cast<int>(st.Int(2)), static_cast<long>(st.Int(3)), st.Int(4) != 0});
+  return rows;
+}
+
+std::vector<MacroLookupRow> SupportDatabase::MacroLookups() const {
+  std::vector<MacroLookupRow> rows;
+  Statement st(db_, "SELECT LookupNumber, Value FROM mtm_tblLookups");
+  while (st.Next()) rows.push_back({static_cast<long>(st.Int(0)), st.Text(1)});
+  return rows;
 }
 
 std::vector<ReportOutputRow> SupportDatabase::ReportOutput() const {

@@ -46,6 +46,32 @@ struct LogRow {
   int ControlDeleted = 0;
 };
 
+// A row of CustomControlMapping.
+struct CustomControlRow {
+  std::string VBType;
+  std::string ClassID;
+  std::string FileName;
+};
+
+// Rows of the macro mapping tables; a Null text is nullopt.
+struct MacroActionRow {
+  std::string Action;
+  long ActionID = 0;
+  std::optional<std::string> MapsTo;
+  int NumArgs = 0;
+};
+struct MacroActionArgRow {
+  long ActionID = 0;
+  int ArgNumber = 0;
+  int ArgumentType = 0;
+  long LookupBase = 0;
+  bool AutoExpression = false;
+};
+struct MacroLookupRow {
+  long LookupNumber = 0;
+  std::string Value;
+};
+
 struct FieldRow {
   std::string FieldName;
   int Type = 0;
@@ -64,7 +90,8 @@ class SupportDatabase {
   SupportDatabase& operator=(const SupportDatabase&) = delete;
 
   const std::filesystem::path& File() const { return file_; }
-  sqlite3* Handle() { return db_; }
+  // The engine's code of the last failed operation.
+  int LastErrorCode() const;
 
   // Runs SQL without results. False with the engine's message on failure.
   bool Execute(const std::string& sql, std::string* err = nullptr);
@@ -82,6 +109,8 @@ class SupportDatabase {
   // Finds the row by ModuleName; writes each count only when it is not 0.
   bool MergeStats(const StatsRow& row);
   bool AddLog(const LogRow& row);
+  // Forgets the log rows of a report, under each of its names.
+  bool ClearLogOf(const std::vector<std::string>& reports);
 
   // Rows of a table of the schema; -1 when the table cannot be read.
   int CountRows(const std::string& table) const;
@@ -89,6 +118,21 @@ class SupportDatabase {
   void ClearFields();  // "Delete * From tblFields"
   bool AddField(const FieldRow& row);
   std::optional<FieldRow> FindField(const std::string& fieldName) const;
+
+  // tblPict: a picture on its way from the design to a binary record, in
+  // the row with ID 1.
+  bool StagePicture(const std::string& bytes);
+  std::optional<std::string> StagedPicture() const;
+  bool ClearStagedPicture();
+
+  // The mapping of an Access custom control's class, compared without
+  // regard to case as Jet compares text.
+  std::optional<CustomControlRow> FindCustomControl(const std::string& accessClass) const;
+
+  // The macro mapping tables, whole, in their stored order.
+  std::vector<MacroActionRow> MacroActions() const;
+  std::vector<MacroActionArgRow> MacroActionArgs() const;
+  std::vector<MacroLookupRow> MacroLookups() const;
 
   // Notes of the run: what it could not do (an object without an export, a
   // converter or stage this build does not have), one row each.

@@ -84,7 +84,7 @@ bool AccessLink::ChooseDatabase(ConversionSession& s, const SourceChoice& choice
   s.SourcePath = database_.empty() ? treeRoot_.string() : database_.string();
   s.AccessApp = tree_.get();
   s.SourceDb = catalog_.get();
-  s.AdoConnect =
+  s.Options.AdoConnect =
       "Provider=Microsoft.Jet.OLEDB.4.0;Persist Security Info=False;Data Source=" +
       FileNameOf(database_.empty() ? treeRoot_.filename().string() + ".mdb" : database_.string());
   return true;
@@ -120,7 +120,7 @@ bool AccessLink::CopySourceDatabase(ConversionSession& s, std::string* err) {
 bool AccessLink::OpenSupportDatabase(ConversionSession& s, std::string* err) {
   support_.reset();
   s.SupportDb = nullptr;
-  support_ = SupportDatabase::Open(fs::path(s.OutputPath) / "morvane.db", s.DataDir, err);
+  support_ = SupportDatabase::Open(fs::path(s.OutputPath) / "morvane.db", s.Options.DataDir, err);
   if (!support_) return false;
   s.SupportDb = support_.get();
   return true;

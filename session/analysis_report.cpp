@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "platform/output_directory.h"
 #include "platform/support_db.h"
 #include "platform/text_file.h"
 #include "session/conversion_session.h"
@@ -40,6 +41,22 @@ constexpr Reason kReasons[] = {
      "or part of a longer name); kept as written"},
     {17, "Generated file would not load or compile in Visual Basic 6"},
 };
+
+// What each tblLog error of a report says.
+constexpr Reason kLogErrors[] = {
+    {1, "Control of a type a DataReport cannot hold; left out"},
+    {2, "Calculated text box in a section that cannot hold a function; left out"},
+    {3, "Calculated text box whose function a DataReport lacks; left out"},
+    {4, "Subreport; not converted (the location is its source object)"},
+    {5, "Check box or bound object frame without a field; left out"},
+    {6, "Report procedure; review"},
+};
+
+const char* LogText(long errorId) {
+  for (const auto& r : kLogErrors)
+    if (r.id == errorId) return r.text;
+  return "";
+}
 
 // HTML text from Windows-1252 bytes: markup characters escaped, the page
 // declares its encoding.
@@ -96,6 +113,12 @@ std::string WriteAnalysisReport(ConversionSession& s, const RunSummary& summary)
                 "; to review: " + std::to_string(summary.LinesToReview) +
                 "; not translated: " + std::to_string(summary.LinesNotTranslated) + "</p>");
 
+  if (!summary.Failures.empty()) {
+    out.push_back("<h2>Not written</h2><ul>");
+    for (const auto& failure : summary.Failures) out.push_back("<li>" + Html(failure) + "</li>");
+    out.push_back("</ul>");
+  }
+
   auto notes = s.SupportDb->RunNotes();
   if (!notes.empty()) {
     out.push_back("<h2>Not done in this run</h2><ul>");
@@ -130,7 +153,8 @@ std::string WriteAnalysisReport(ConversionSession& s, const RunSummary& summary)
   if (!log.empty()) {
     out.push_back("<h2>Log</h2><table><tr><th>Error</th><th>Report</th><th>Location</th></tr>");
     for (const auto& r : log)
-      out.push_back("<tr>" + Cell(r.ErrorID) + Cell(r.Report) + Cell(r.Location) + "</tr>");
+      out.push_back("<tr><td>" + std::to_string(r.ErrorID) + " " + Html(LogText(r.ErrorID)) +
+                    "</td>" + Cell(r.Report) + Cell(r.Location) + "</tr>");
     out.push_back("</table>");
   }
   out.push_back("</body></html>");
@@ -139,7 +163,9 @@ std::string WriteAnalysisReport(ConversionSession& s, const RunSummary& summary)
   std::error_code ec;
   std::filesystem::create_directories(dir, ec);
   std::filesystem::path file = dir / "index.html";
-  if (!WriteTextLines(file, out, nullptr)) return "";
+  const std::string text = JoinCrLf(out);
+  if (s.Output ? !s.Output->Write(file, text, nullptr) : !WriteFileWhole(file, text, nullptr))
+    return "";
   return file.string();
 }
 

@@ -1,6 +1,6 @@
-// The one shared record of a conversion run: the options of the main window,
-// the objects and paths of the run, the selection lists and the per-form
-// fields that the hint processor and the code translator hand to the driver.
+// The one shared record of a conversion run: the run's options, the objects
+// and paths of the run, the selection lists, what the run collects across
+// objects, and the state of the form or report being converted.
 #pragma once
 
 #include <array>
@@ -9,6 +9,9 @@
 #include <string>
 #include <vector>
 
+#include "session/form_state.h"
+#include "session/run_options.h"
+
 namespace morvane {
 
 class Catalog;
@@ -16,34 +19,18 @@ class SourceTree;
 class SupportDatabase;
 class ProjectModel;
 class UserInterface;
+class OutputDirectory;
 
 // A list filled from index 1; index 0 exists and stays empty, so the upper
 // bound of the list is its count.
 using OneBasedList = std::vector<std::string>;
 
 struct ConversionSession {
-  // Options of the main window.
-  bool StandardControls = true;
-  bool IsMdi = true;
-  bool MacrosWanted = true;
-  bool CreateProject = true;
-  bool SecurityDisabled = true;  // chkSecurity ticked
-  int ListboxType = 5;           // lstListboxType ListIndex 4 + 1
-  int ComboboxType = 4;          // lstComboBoxType ListIndex 3 + 1
-  bool ListboxBound = false;
-  bool ComboboxBound = true;
-  bool UseAdo = true;
-  bool IsVb5 = false;
-  // Reach the walkers only through the option word.
-  bool RelativePaths = true;
-  bool SsOptionSet = false;
-  bool DatePicker = true;
-  // Window values that are read directly by the steps that need them.
-  bool WantRelativePaths = true;  // chkRelativePaths
-  bool WantSsOptionSet = false;   // chkSSOption
-  bool WantDatePicker = true;     // chkDTPicker
-  std::string WorkgroupFile;      // txtMDW
+  ConversionSession() { forms_.push_back(std::make_unique<FormState>()); }
 
+  RunOptions Options;
+  // The options packed for the walkers; a walker whose session has not
+  // unpacked it does nothing.
   std::string OptionWord;
   int OptionWordLength = 0;
 
@@ -53,17 +40,13 @@ struct ConversionSession {
   SupportDatabase* SupportDb = nullptr;
   ProjectModel* ActiveProject = nullptr;
   UserInterface* Ui = nullptr;
+  OutputDirectory* Output = nullptr;  // every file of the run is written through it
 
   // Paths and names. OutputPath always ends in the path separator.
   std::string OutputPath;
   std::string SourcePath;
   std::string ProjectFile;
   std::string ProjectName;
-  std::string UserName = "Admin";
-  std::string Password;
-  std::string AdoConnect;
-  std::string CurrentFile;
-  std::filesystem::path DataDir;  // where the companion files stand
 
   // Selections and catalogs.
   OneBasedList FormList{""};
@@ -72,7 +55,7 @@ struct ConversionSession {
   std::vector<std::string> ConvertedNames;
   bool IsAdp = false;
 
-  // Per-run flags.
+  // Per-run state.
   bool NeedConversionCode = true;
   bool SettingsDirty = false;
   std::array<bool, 21> ListControlsUsed{};
@@ -80,36 +63,37 @@ struct ConversionSession {
   // Procedure names the macro converter has given out; grows across macros.
   std::vector<std::string> MacroProcNames;
 
-  // Per-form fields.
-  bool FormFailed = false;
-  std::string FormLoadCode;
-  std::string LabelCaptionCode;
-  bool FormPictureTiled = false;
-  bool FormPictureStretched = false;
-  bool UsesOpenArgs = false;
-  bool UsesFilter = false;
-  bool UsesFilterOn = false;
-  bool UsesOrderBy = false;
-  bool UsesOrderByOn = false;
-  std::array<bool, 3> InitCalls{};
-  std::vector<std::string> DatasheetForms{""};
-  std::vector<std::string> OpenedSubforms{""};
-  int ControlCount = 0;
-  int PartialControlCount = 0;
-  std::string CurrentControlName;
-  bool PlainListControl = false;
-  std::string ReportInitCode;
-  std::string HintText;
+  // The state of the form or report being converted; a session always has
+  // one, so code that runs outside a conversion still finds a state.
+  FormState& Form() { return *forms_.back(); }
+  const FormState& Form() const { return *forms_.back(); }
+  // A new state for a form (or a nested form) until the matching PopForm.
+  FormState& PushForm(const std::string& name);
+  // Ends the innermost state; the outermost one stays.
+  std::unique_ptr<FormState> PopForm();
 
-  // Resets the per-form fields before each form (the driver's step F1).
-  void ResetFormFields();
+ private:
+  std::vector<std::unique_ptr<FormState>> forms_;
 };
 
-// Packs the option fields into the eleven-character option word.
-std::string PackOptionWord(const ConversionSession& s);
-// Stores OutputPath, unpacks the word into the walkers' fields and sets
-// OptionWordLength. Returns true when the working store's tblFields could not
-// be opened.
+// The state of one form for as long as the scope lasts.
+class FormScope {
+ public:
+  FormScope(ConversionSession& s, const std::string& name) : s_(s), state_(s.PushForm(name)) {}
+  ~FormScope() { s_.PopForm(); }
+  FormScope(const FormScope&) = delete;
+  FormScope& operator=(const FormScope&) = delete;
+  FormState& State() { return state_; }
+
+ private:
+  ConversionSession& s_;
+  FormState& state_;
+};
+
+// Packs the options into the eleven-character option word.
+std::string PackOptionWord(const RunOptions& o);
+// Stores OutputPath and the word, and sets OptionWordLength. Returns true
+// when the working store's tblFields could not be opened.
 bool UnpackOptionWord(ConversionSession& s, const std::string& outputPath,
                       const std::string& optionWord);
 

@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "platform/line_editor.h"
+#include "platform/output_directory.h"
 #include "platform/project_model.h"
 #include "platform/support_db.h"
 #include "platform/text_file.h"
@@ -40,32 +41,28 @@ void Note(ConversionSession& s, RunSummary& summary, const std::string& object,
   if (s.SupportDb) s.SupportDb->AddRunNote(object, text);
 }
 
-void RemoveFile(const std::string& path) {
-  std::error_code ec;
-  fs::remove(path, ec);
+bool WriteOutput(ConversionSession& s, RunSummary& summary, const std::string& object,
+                 const std::string& file, std::string_view bytes) {
+  std::string err;
+  if (s.Output->Write(file, bytes, &err)) return true;
+  // The run goes on; the object is named, and the run's status says so.
+  summary.Failures.push_back(object + ": " + err);
+  return false;
 }
 
-void RenameFile(const std::string& from, const std::string& to) {
-  std::error_code ec;
-  fs::rename(from, to, ec);
-}
-
-// The file of that name in its directory, the case of the name aside, as the
-// converters and the driver name some files in different cases.
-std::string FindFileNoCase(const std::string& path) {
-  if (fs::exists(path)) return path;
-  const fs::path p(path);
-  std::error_code ec;
-  for (const auto& entry : fs::directory_iterator(p.parent_path(), ec))
-    if (EqualsNoCase(entry.path().filename().string(), p.filename().string()))
-      return entry.path().string();
-  return path;
+// Writes a component of the project; its text is let go.
+bool WriteComponent(ConversionSession& s, RunSummary& summary, const std::string& object,
+                    const std::string& component) {
+  std::string err;
+  if (s.ActiveProject->WriteComponent(component, *s.Output, &err)) return true;
+  summary.Failures.push_back(object + ": " + err);
+  return false;
 }
 
 // The property code a form's module gets for each of the Access form
 // properties its code uses.
 struct PropertyBlock {
-  bool ConversionSession::*flag;
+  bool FormState::*flag;
   const char* declaration;
   std::vector<std::string> let;
   std::vector<std::string> get;
@@ -74,17 +71,17 @@ struct PropertyBlock {
 std::vector<PropertyBlock> PropertyBlocks(const std::string& n) {
   const std::string dat = "    dat" + n;
   return {
-      {&ConversionSession::UsesOpenArgs,
+      {&FormState::UsesOpenArgs,
        "Private msOpenArgs as string",
        {"Property Let OpenArgs(sOpenArgs as string)", "    msOpenArgs=sOpenArgs", "End Property"},
        {"Property Get OpenArgs() as string", "    OpenArgs=msOpenArgs", "End Property"}},
-      {&ConversionSession::UsesFilter,
+      {&FormState::UsesFilter,
        "Private msFilter as string",
        {"Property Let Filter(ByVal sNewFilter As String)", "    msFilter=sNewFilter",
         dat + ".RecordSource = RECORD_SOURCE & \" Where \" & sNewFilter", dat + ".Refresh",
         "End Property"},
        {"Property Get Filter() as string", "    Filter = msFilter", "End Property"}},
-      {&ConversionSession::UsesFilterOn,
+      {&FormState::UsesFilterOn,
        "Private mbFilterOn As Boolean",
        {"Property Let FilterOn(bNewValue as boolean)", "    mbFilterOn=bNewValue",
         "    If bNewValue Then",
@@ -92,13 +89,13 @@ std::vector<PropertyBlock> PropertyBlocks(const std::string& n) {
         "    " + dat + ".Refresh", "    Else", "    " + dat + ".RecordSource = RECORD_SOURCE",
         "    " + dat + ".Refresh", "    End If", "End Property"},
        {"Property Get FilterOn() as Boolean", "    FilterOn=mbFilterOn", "End Property"}},
-      {&ConversionSession::UsesOrderBy,
+      {&FormState::UsesOrderBy,
        "Private msOrderBy as string",
        {"Property Let OrderBy(ByVal sNewOrderBy As String)", "    msOrderBy=sNewOrderBy",
         dat + ".RecordSource = RECORD_SOURCE & \" Order By \" & sNewOrderBy", dat + ".Refresh",
         "End Property"},
        {"Property Get OrderBy() as string", "    OrderBy = msOrderBy", "End Property"}},
-      {&ConversionSession::UsesOrderByOn,
+      {&FormState::UsesOrderByOn,
        "Private mbOrderByOn As Boolean",
        {"Property Let OrderByOn(bNewValue as boolean)", "    mbOrderByOn=bNewValue",
         "    If bNewValue Then",
@@ -115,17 +112,17 @@ std::string BlockText(const std::vector<std::string>& lines) {
   return text;
 }
 
-void AddFormPropertyCode(ConversionSession& s, FormConverter& forms, const std::string& name) {
-  const ProjectComponent* component = s.ActiveProject->Find(SafeName(name));
-  if (!component) return;
-  CodeModule code = component->Code();
-  for (const auto& block : PropertyBlocks(component->Name)) {
-    if (!(s.*block.flag)) continue;
+void AddFormPropertyCode(ConversionSession& s, FormConverter& forms, const std::string& name,
+                         const ProjectComponent& component) {
+  CodeModule code = component.Code();
+  const FormState& f = s.Form();
+  for (const auto& block : PropertyBlocks(component.Name)) {
+    if (!(f.*block.flag)) continue;
     code.AddFromString(block.declaration);
     code.InsertLines(code.CountOfLines() + 1, BlockText(block.let));
     code.InsertLines(code.CountOfLines() + 1, BlockText(block.get));
   }
-  if (s.UsesFilter || s.UsesFilterOn || s.UsesOrderBy || s.UsesOrderByOn) {
+  if (f.UsesFilter || f.UsesFilterOn || f.UsesOrderBy || f.UsesOrderByOn) {
     std::string source = forms.RecordSource(s, name);
     std::string sql =
         ToLower(source.substr(0, 7)) == "select " ? source : "Select * From [" + source + "]";
@@ -135,23 +132,21 @@ void AddFormPropertyCode(ConversionSession& s, FormConverter& forms, const std::
 
 void ConvertMacrosStep(ConversionSession& s, Converters& c, RunSummary& summary) {
   // Forms and reports may hold macros in their events even where the source
-  // has no macro of its own: the converter looks at both and writes nothing
+  // has no macro of its own: the converter looks at both and gives no text
   // when there are none.
-  if (!s.MacrosWanted || !s.SourceDb) return;
+  if (!s.Options.MacrosWanted || !s.SourceDb) return;
   if (!c.Macros) {
     if (!s.SourceDb->ContainerDocuments("Scripts").empty())
       Note(s, summary, "", Text(kMsgNotBuiltMacros));
     return;
   }
-  c.Macros->ConvertMacros(s, s.OutputPath);  // C1
-  RenameFile(FindFileNoCase(s.OutputPath + "Macro.txt"),
-             s.OutputPath + "Modu_MacroCode.txt");  // C2
-  std::string path = s.OutputPath + "Modu_MacroCode.txt";
-  if (!fs::exists(path)) return;
-  c.Code->TranslateCode(s, path, kModeModule);   // C3
-  SilentIndent(s.OutputPath + "MacroCode.bas");  // C4
-  s.ActiveProject->AddFile(s.OutputPath + "MacroCode.bas");
-  RemoveFile(s.OutputPath + "Modu_MacroCode.txt");  // C5
+  TextDocument macros = c.Macros->ConvertMacros(s);  // C1, C2
+  if (macros.Empty()) return;
+  TextDocument text = c.Code->TranslateCode(s, macros, "MacroCode", kModeModule);  // C3
+  SilentIndent(text);                                                              // C4
+  const ProjectComponent* component =
+      s.ActiveProject->Add(s.OutputPath + "MacroCode.bas", std::move(text));
+  WriteComponent(s, summary, "MacroCode", component->Name);
   summary.Macros = static_cast<int>(s.SourceDb->ContainerDocuments("Scripts").size());
 }
 
@@ -162,40 +157,41 @@ void ConvertFormsStep(ConversionSession& s, Converters& c, RunSummary& summary) 
       Note(s, summary, name, Text(kMsgNotBuiltForms));
       continue;
     }
-    s.ResetFormFields();  // F1
+    FormScope scope(s, name);  // F1
+    FormState& form = scope.State();
     if (i == 1)
       s.ConvertedNames.assign(1, SafeName(name));  // F2
     else
       s.ConvertedNames.push_back(SafeName(name));
-    c.Forms->ConvertForm(s, name);                           // F3
-    s.CurrentFile = s.OutputPath + SafeName(name) + ".frm";  // F4
-    c.Code->ExportModuleText(s, name, kModeForm);            // F5
-    c.Forms->ProcessHints(s, name);                          // F6
-    if (s.SupportDb)                                         // F8
-      s.SupportDb->MergeStats(
-          {SafeName(name), 0, 0, 0, 0, 0, 0, 0, s.ControlCount, s.PartialControlCount, 0});
-    s.ControlCount = 0;
-    s.PartialControlCount = 0;
-    std::string renamed = s.OutputPath + "form_" + SafeName(name) + ".frm";  // F10
-    RenameFile(s.CurrentFile, renamed);
-    if (fs::exists(renamed)) {
-      std::string path = renamed;
-      c.Code->TranslateCode(s, path, kModeForm);  // F11
-      RemoveFile(renamed);                        // F12
-      SilentIndent(s.CurrentFile);
-      if (!s.FormFailed && s.ActiveProject->AddFile(s.CurrentFile)) {           // F13
-        AddFormPropertyCode(s, *c.Forms, name);                                 // F14
-        if (!s.DatasheetForms[0].empty()) c.Forms->AddDatasheetGrids(s, name);  // F15
-        c.Code->MoveDeclarationBlocks(s);
-        ++summary.Forms;
+    c.Forms->ConvertForm(s, name);  // F3
+    // A form that could not be read has no text: the later steps find
+    // nothing to work on, and the form stays out of the project.
+    if (!form.Text.Empty()) {
+      const std::string file = s.OutputPath + SafeName(name) + ".frm";  // F4
+      c.Code->ExportModuleText(s, name, kModeForm, form.Text);          // F5
+      c.Forms->ProcessHints(s, name);                                   // F6
+      if (s.SupportDb)                                                  // F8
+        s.SupportDb->MergeStats(
+            {SafeName(name), 0, 0, 0, 0, 0, 0, 0, form.ControlCount, form.PartialControlCount, 0});
+      TextDocument text = c.Code->TranslateCode(s, form.Text, SafeName(name), kModeForm);  // F11
+      form.Text = TextDocument();
+      SilentIndent(text);  // F12
+      if (!form.Binary.empty())
+        WriteOutput(s, summary, name, s.OutputPath + SafeName(name) + ".frx", form.Binary);
+      if (!form.FormFailed) {  // F13
+        const ProjectComponent* component = s.ActiveProject->Add(file, std::move(text));
+        const std::string vbName = component->Name;
+        AddFormPropertyCode(s, *c.Forms, name, *component);                        // F14
+        if (!form.DatasheetForms[0].empty()) c.Forms->AddDatasheetGrids(s, name);  // F15
+        c.Code->MoveDeclarationBlocks(s, vbName);
+        if (WriteComponent(s, summary, name, vbName)) ++summary.Forms;
+      } else {
+        // Kept out of the project; its text stays in the output directory.
+        WriteOutput(s, summary, name, file, text.Bytes());
       }
     }
     if (s.Ui) s.Ui->ProgressStep(3, name);  // F17
   }
-  s.FormPictureTiled = false;
-  s.FormPictureStretched = false;
-  s.FormLoadCode.clear();
-  s.InitCalls = {};
 }
 
 void ConvertReportsStep(ConversionSession& s, Converters& c, RunSummary& summary) {
@@ -205,27 +201,29 @@ void ConvertReportsStep(ConversionSession& s, Converters& c, RunSummary& summary
       Note(s, summary, name, Text(kMsgNotBuiltReports));
       continue;
     }
-    std::error_code ec;
-    fs::copy_file(s.DataDir / "rptEnvironment.dsx",
-                  s.OutputPath + SafeName(name) + ".dsx",  // R1
-                  fs::copy_options::overwrite_existing, ec);
-    s.ReportInitCode = c.Reports->ConvertReport(s, name);                    // R2
-    s.CurrentFile = s.OutputPath + SafeName(name) + ".dsr";                  // R3
-    c.Code->ExportModuleText(s, name, kModeReport);                          // R5
-    std::string renamed = s.OutputPath + "REPT_" + SafeName(name) + ".txt";  // R7
-    RenameFile(s.CurrentFile, renamed);
-    if (fs::exists(renamed)) {
-      std::string path = renamed;
-      c.Code->TranslateCode(s, path, kModeReport);  // R8
-      RemoveFile(renamed);                          // R9
-      SilentIndent(s.CurrentFile);
-      if (s.ActiveProject->AddFile(s.CurrentFile)) ++summary.Reports;
+    FormScope scope(s, name);
+    FormState& report = scope.State();
+    report.ReportInitCode = c.Reports->ConvertReport(s, name);  // R1, R2
+    if (!report.Text.Empty()) {
+      const std::string file = s.OutputPath + SafeName(name) + ".dsr";                         // R3
+      c.Code->ExportModuleText(s, name, kModeReport, report.Text);                             // R5
+      TextDocument text = c.Code->TranslateCode(s, report.Text, SafeName(name), kModeReport);  // R8
+      report.Text = TextDocument();
+      SilentIndent(text);  // R9
+      if (!report.Binary.empty())
+        WriteOutput(s, summary, name, s.OutputPath + SafeName(name) + ".dsx", report.Binary);
+      const ProjectComponent* component = s.ActiveProject->Add(file, std::move(text));
+      if (WriteComponent(s, summary, name, component->Name)) ++summary.Reports;
     }
     if (s.Ui) s.Ui->ProgressStep(1, name);  // R10
   }
   if (c.Reports && s.ReportList.size() > 1 && !s.ActiveProject->Find("rptEnvironment")) {
-    c.Reports->WriteDataEnvironment(s);
-    s.ActiveProject->AddFile(s.OutputPath + "rptEnvironment.dsr");
+    TextDocument environment = c.Reports->WriteDataEnvironment(s);
+    if (!environment.Empty()) {
+      const ProjectComponent* component =
+          s.ActiveProject->Add(s.OutputPath + "rptEnvironment.dsr", std::move(environment));
+      WriteComponent(s, summary, "rptEnvironment", component->Name);
+    }
   }
 }
 
@@ -237,17 +235,14 @@ void ConvertModulesStep(ConversionSession& s, Converters& c, RunSummary& summary
       if (s.Ui) s.Ui->ProgressStep(1, name);
       continue;
     }
-    c.Code->ExportModuleText(s, name, kModeModule);  // M2
-    std::string input = s.OutputPath + "MODU_" + SafeFileName(name) + ".txt";
-    std::string path = input;
-    c.Code->TranslateCode(s, path, kModeModule);  // M4
-    // Only the extraction file this run wrote goes: a text file the user keeps
-    // in the output directory is not ours to delete.
-    RemoveFile(input);                                           // M5
-    s.CurrentFile = s.OutputPath + SafeFileName(name) + ".bas";  // M6
-    if (fs::exists(s.CurrentFile)) {
-      SilentIndent(s.CurrentFile);
-      if (s.ActiveProject->AddFile(s.CurrentFile)) ++summary.Modules;
+    TextDocument source;
+    if (c.Code->ExportModuleText(s, name, kModeModule, source)) {  // M2
+      const std::string file = SafeFileName(name);
+      TextDocument text = c.Code->TranslateCode(s, source, file, kModeModule);  // M4
+      SilentIndent(text);                                                       // M6
+      const ProjectComponent* component =
+          s.ActiveProject->Add(s.OutputPath + file + ".bas", std::move(text));
+      if (WriteComponent(s, summary, name, component->Name)) ++summary.Modules;
     }
     if (s.Ui) s.Ui->ProgressStep(1, name);  // M7
   }
@@ -266,27 +261,38 @@ void CountLines(ConversionSession& s, RunSummary& summary) {
 
 }  // namespace
 
-RunSummary StartTranslation(ConversionSession& s, AccessLink& link, Converters& c,
-                            const RunRequest& request) {
-  RunSummary summary;
+bool CheckRequest(ConversionSession& s, AccessLink& link, const RunRequest& request) {
   if (request.OutputDir.empty()) {  // 1, 2
     s.Ui->ShowMessage(Text(kMsgOutputPathRequired), MessageIcon::Information);
-    return summary;
+    return false;
   }
-  s.OutputPath = WithSeparator(request.OutputDir);  // 3
-  if (!link.TreeRoot().empty() && IsInside(s.OutputPath, link.TreeRoot())) {
-    s.Ui->ShowMessage(FormatText(kMsgOutputInsideSource, {s.OutputPath}), MessageIcon::Stop);
-    return summary;
+  const std::string output = WithSeparator(request.OutputDir);  // 3
+  if (!link.TreeRoot().empty() && IsInside(output, link.TreeRoot())) {
+    s.Ui->ShowMessage(FormatText(kMsgOutputInsideSource, {output}), MessageIcon::Stop);
+    return false;
+  }
+  if (request.Forms.empty() && request.Modules.empty() && request.Reports.empty()) {  // 9
+    s.Ui->ShowMessage(Text(kMsgNothingToConvert), MessageIcon::Information);
+    return false;
   }
   std::error_code ec;
-  if (!fs::is_directory(s.OutputPath, ec)) {  // 4
-    if (!s.Ui->AskYesNo(Text(kMsgCreateDirectory), true)) return summary;
-    fs::create_directories(s.OutputPath, ec);
+  if (!fs::is_directory(output, ec)) {  // 4
+    if (!s.Ui->AskYesNo(Text(kMsgCreateDirectory), true)) return false;
+    fs::create_directories(output, ec);
     if (ec) {
-      s.Ui->ShowMessage(ec.message() + ": " + s.OutputPath, MessageIcon::Stop);
-      return summary;
+      s.Ui->ShowMessage(ec.message() + ": " + output, MessageIcon::Stop);
+      return false;
     }
   }
+  return true;
+}
+
+RunSummary RunTranslation(ConversionSession& s, AccessLink& link, Converters& c,
+                          const RunRequest& request) {
+  RunSummary summary;
+  s.OutputPath = WithSeparator(request.OutputDir);
+  OutputDirectory output(s.OutputPath);
+  s.Output = &output;
   s.FormList.assign(1, "");  // 6
   s.ModuleList.assign(1, "");
   s.ReportList.assign(1, "");
@@ -296,12 +302,7 @@ RunSummary StartTranslation(ConversionSession& s, AccessLink& link, Converters& 
   for (const auto& f : request.Forms) s.FormList.push_back(f);
   for (const auto& m : request.Modules) s.ModuleList.push_back(m);
   for (const auto& r : request.Reports) s.ReportList.push_back(r);
-  if (s.FormList.size() == 1 && s.ModuleList.size() == 1 && s.ReportList.size() == 1) {  // 9
-    s.Ui->ShowMessage(Text(kMsgNothingToConvert), MessageIcon::Information);
-    return summary;
-  }
   s.ListControlsUsed = {};  // 11
-  s.UseAdo = true;
   // 12: the project is named after the source file, less its extension.
   std::string file = FileNameOf(s.SourcePath);
   if (!link.DatabaseFile().empty() && file.size() > 4) {
@@ -311,8 +312,7 @@ RunSummary StartTranslation(ConversionSession& s, AccessLink& link, Converters& 
   }
   if (s.ProjectName.empty()) s.ProjectName = "Project1";
   s.ProjectFile = s.ProjectName + ".vbp";
-  ProjectModel& project = link.NewProject(s);  // 13
-  project.SaveAs(fs::path(s.OutputPath) / s.ProjectFile, nullptr);
+  link.NewProject(s);  // 13
   summary.Started = true;
   RunConversion(s, link, c, summary);  // 14
   // The converters note what they could not do in the analysis; the summary
@@ -322,7 +322,14 @@ RunSummary StartTranslation(ConversionSession& s, AccessLink& link, Converters& 
     for (const auto& [object, text] : s.SupportDb->RunNotes())
       summary.Notes.push_back(object.empty() ? text : object + ": " + text);
   }
+  s.Output = nullptr;
   return summary;
+}
+
+RunSummary StartTranslation(ConversionSession& s, AccessLink& link, Converters& c,
+                            const RunRequest& request) {
+  if (!CheckRequest(s, link, request)) return RunSummary();
+  return RunTranslation(s, link, c, request);
 }
 
 void RunConversion(ConversionSession& s, AccessLink& link, Converters& c, RunSummary& summary) {
@@ -350,8 +357,8 @@ void RunConversion(ConversionSession& s, AccessLink& link, Converters& c, RunSum
   }
   int units = static_cast<int>(s.ReportList.size() - 1 + s.ModuleList.size() - 1 +
                                3 * (s.FormList.size() - 1));
-  if (s.Ui) s.Ui->ProgressStart(units);                  // S6
-  UnpackOptionWord(s, s.OutputPath, PackOptionWord(s));  // S8
+  if (s.Ui) s.Ui->ProgressStart(units);                          // S6
+  UnpackOptionWord(s, s.OutputPath, PackOptionWord(s.Options));  // S8
   for (const auto& stage : c.Code->UnbuiltStages())
     Note(s, summary, "", FormatText(kMsgNotBuiltStage, {stage}));
 
@@ -361,7 +368,8 @@ void RunConversion(ConversionSession& s, AccessLink& link, Converters& c, RunSum
   ConvertModulesStep(s, c, summary);
   AssembleProject(s, c, summary);
 
-  s.ActiveProject->SaveAs(fs::path(s.OutputPath) / s.ProjectFile, nullptr);
+  const fs::path vbp = fs::path(s.OutputPath) / s.ProjectFile;
+  WriteOutput(s, summary, s.ProjectName, vbp, s.ActiveProject->VbpText(vbp.parent_path()));
   if (s.Ui) s.Ui->ProgressEnd();  // E2
   CountLines(s, summary);
   CheckConversionOutput(s);

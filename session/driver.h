@@ -29,11 +29,22 @@ struct RunSummary {
   int Forms = 0, Reports = 0, Modules = 0, Macros = 0;
   int LinesTranslated = 0, LinesToReview = 0, LinesNotTranslated = 0;
   std::vector<std::string> Notes;  // what the run could not do, one line each
+  // Objects that could not be read or written, each with its message.
+  std::vector<std::string> Failures;
   std::string AnalysisPath;
 };
 
-// The start of a run: every check comes first and stops the run with nothing
-// changed. Returns the summary; Started is false when the run did not start.
+// The checks at the start of a run, with its one question (whether to create
+// the output directory): false, with the message shown, when the run cannot
+// start. Nothing is changed but the directory the user agreed to.
+bool CheckRequest(ConversionSession& s, AccessLink& link, const RunRequest& request);
+
+// The run of a checked request; it asks nothing. Started is false when the
+// run could not start after all (the support database or the working copy).
+RunSummary RunTranslation(ConversionSession& s, AccessLink& link, Converters& c,
+                          const RunRequest& request);
+
+// Both, in order.
 RunSummary StartTranslation(ConversionSession& s, AccessLink& link, Converters& c,
                             const RunRequest& request);
 

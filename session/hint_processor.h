@@ -1,28 +1,22 @@
-// The hint file: the records the form writer leaves for what can only be done
-// on the finished form text (event code, data control calls, list filling,
-// subforms, counts and analysis rows), and the processor that reads them and
-// edits the form's file.
+// The hint processor: acts on the records the form writer left in the form's
+// state, in order, on the finished form text (event code, data control
+// calls, list filling, subforms, counts and analysis rows).
 #pragma once
 
-#include <initializer_list>
 #include <string>
 #include <vector>
+
+#include "session/hint_records.h"
 
 namespace morvane {
 
 struct ConversionSession;
 
-// Appends a record, a keyword and its fields, one line each, to HintText.
-void AddHint(ConversionSession& s, std::initializer_list<std::string> keywordAndFields);
+// Appends a record to the current form's state.
+void AddHint(ConversionSession& s, HintRecord record);
 
-// The fields of a "...Code" record.
-struct ControlHint {
-  std::string FormName;
-  std::string AccessName;
-  std::string VbName;
-  int ComboKind = 0;  // "ComboBoxCode" only
-  std::string SubformControl;
-};
+// The name of an event writer family ("ListBox", "Button", ...).
+const char* ControlEventKindName(ControlEventKind kind);
 
 // What the records ask of the converters. The base implementation of each
 // step records in the analysis that the step is not available, so a record
@@ -30,11 +24,10 @@ struct ControlHint {
 class HintActions {
  public:
   virtual ~HintActions() = default;
-  // The control's event writer for `kind`: "ListBox", "ComboBox", "Image",
-  // "Button", "CheckBox", "OptionGroup", "TextBox" or "BoundObjectFrame".
-  // `hintForm` is the form whose hint file is read.
-  virtual void ControlEvents(ConversionSession& s, const std::string& kind,
-                             const std::string& hintForm, const ControlHint& control);
+  // The control's event writer. `hintForm` is the form whose records are
+  // processed.
+  virtual void ControlEvents(ConversionSession& s, const std::string& hintForm,
+                             const ControlCodeHint& control);
   virtual void FormEvents(ConversionSession& s, const std::string& formName,
                           const std::string& hintForm, const std::string& subformControl);
   virtual void WriteListBoxInit(ConversionSession& s, const std::string& rowSource,
@@ -42,10 +35,11 @@ class HintActions {
   virtual void WriteComboBoxInit(ConversionSession& s, const std::string& rowSource,
                                  const std::string& controlName, bool isValueList);
   virtual void ExportModuleText(ConversionSession& s, const std::string& name, int mode);
-  // Converts the continuous subform shown by `controlName` on `formName` and
-  // returns the name of the form it shows, whose hint file is read next.
-  virtual std::string ConvertContinuousForm(ConversionSession& s, const std::string& formName,
-                                            const std::string& controlName);
+  // Converts the continuous subform shown by `controlName` on `formName`
+  // and returns its records, which are processed next.
+  virtual std::vector<HintRecord> ConvertContinuousForm(ConversionSession& s,
+                                                        const std::string& formName,
+                                                        const std::string& controlName);
   // True when the form stays unconverted.
   virtual bool ReduceControlCount(ConversionSession& s, const std::string& formName);
   virtual void OpenSubform(ConversionSession& s, const std::string& name);
@@ -55,9 +49,8 @@ class HintActions {
   void NotAvailable(ConversionSession& s, const std::string& object, const std::string& what);
 };
 
-// Reads the hint file of `formName` (OutputPath + SafeName(form) + ".hnt"),
-// acts on each record in order, deletes the file and finishes CurrentFile.
-// A form without a hint file is left as it is.
+// Acts on each record of the current form state in order, on its text, and
+// finishes the text. `formName` is the form whose records they are.
 void ProcessHints(ConversionSession& s, const std::string& formName, HintActions& actions);
 
 }  // namespace morvane

@@ -4,6 +4,7 @@
 
 #include "platform/catalog.h"
 #include "platform/line_editor.h"
+#include "platform/output_directory.h"
 #include "platform/project_model.h"
 #include "platform/support_db.h"
 #include "platform/text_file.h"
@@ -30,19 +31,19 @@ std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
 std::vector<std::string> SubMainLines(ConversionSession& s) {
   std::vector<std::string> lines = {"", "Public Sub Main()", ""};  // P3
   const std::string copy = s.OutputPath + s.ProjectName + ".mdb";
-  if (!s.IsAdp && !s.SecurityDisabled) {  // P4
-    lines.push_back("    DBEngine.SystemDB = " + Quoted(s.WorkgroupFile));
+  if (!s.IsAdp && !s.Options.SecurityDisabled) {  // P4
+    lines.push_back("    DBEngine.SystemDB = " + Quoted(s.Options.WorkgroupFile));
     lines.push_back("    Set wks = CreateWorkspace(" + Quoted(s.ProjectName) + ", " +
-                    Quoted(s.UserName) + ", " + Quoted(s.Password) + ")");
+                    Quoted(s.Options.UserName) + ", " + Quoted(s.Options.Password) + ")");
     lines.push_back("    Set db = wks.OpenDatabase(" + Quoted(copy) + ")");
   } else if (!s.IsAdp) {
     lines.push_back("    Set db = DBEngine(0).OpenDatabase(" + Quoted(copy) + ")");
   }
   lines.push_back("    Set pconn = new ADODB.Connection");
-  lines.push_back("    pconn.open " + Quoted(s.AdoConnect));
+  lines.push_back("    pconn.open " + Quoted(s.Options.AdoConnect));
   lines.push_back("");
-  if (s.IsMdi) lines.push_back("    MDIParent.Show");  // P5.1
-  if (!s.IsAdp && s.SourceDb) {                        // P5.2
+  if (s.Options.IsMdi) lines.push_back("    MDIParent.Show");  // P5.1
+  if (!s.IsAdp && s.SourceDb) {                                // P5.2
     for (const auto& macro : s.SourceDb->ContainerDocuments("Scripts")) {
       if (ToLower(macro) == "autoexec") {
         lines.push_back("    Call Autoexec");
@@ -58,29 +59,41 @@ std::vector<std::string> SubMainLines(ConversionSession& s) {
   return lines;
 }
 
+// The conversion code: the base text, GetFormFromName and Sub Main, then
+// the templates the run's code asks for.
 void WriteConversionCodeFile(ConversionSession& s, Converters& c, RunSummary& summary) {
-  const fs::path base = s.DataDir / "MorvaneConversionCode.bas";
-  const std::string target = s.OutputPath + "MorvaneConversionCode.bas";
-  std::error_code ec;
-  if (!fs::copy_file(base, target, fs::copy_options::overwrite_existing, ec)) {  // P1
+  const fs::path base = s.Options.DataDir / "MorvaneConversionCode.bas";
+  std::string bytes;
+  if (!ReadFileBytes(base, &bytes, nullptr)) {  // P1
     std::string note = FormatText(kMsgConversionCodeMissing, {base.string()});
     summary.Notes.push_back(note);
     if (s.SupportDb) s.SupportDb->AddRunNote("MorvaneConversionCode", note);
     return;
   }
-  c.Code->WriteFormLookup(s);                                   // P2
-  AppendFileBytes(target, JoinCrLf(SubMainLines(s)), nullptr);  // P3 - P5
-  s.ActiveProject->AddFile(target);
+  TextDocument text = TextDocument::FromBytes(bytes);
+  if (s.NeedConversionCode) {
+    c.Code->WriteFormLookup(s, text);        // P2
+    text.Append(JoinCrLf(SubMainLines(s)));  // P3 - P5
+  }
+  c.Code->WriteConversionCode(s, text);  // P6
+  const ProjectComponent* component =
+      s.ActiveProject->Add(s.OutputPath + "MorvaneConversionCode.bas", std::move(text));
+  std::string err;
+  if (!s.ActiveProject->WriteComponent(component->Name, *s.Output, &err))
+    summary.Failures.push_back("MorvaneConversionCode: " + err);
 }
 
-void AddMdiParent(ConversionSession& s) {
-  const std::string target = s.OutputPath + "MDIParent.frm";
-  std::error_code ec;
-  if (!fs::copy_file(s.DataDir / "MDIParent.frm", target, fs::copy_options::overwrite_existing, ec))
-    return;
-  InsertLine(target, " ", "VERSION 5.00", 1);  // P7
-  InsertLine(target, "VERSION 5.00", kMdiObjectLine, 1);
-  s.ActiveProject->AddFile(target);
+void AddMdiParent(ConversionSession& s, RunSummary& summary) {
+  std::string bytes;
+  if (!ReadFileBytes(s.Options.DataDir / "MDIParent.frm", &bytes, nullptr)) return;
+  TextDocument text = TextDocument::FromBytes(bytes);
+  InsertLine(text, " ", "VERSION 5.00", 1);  // P7
+  InsertLine(text, "VERSION 5.00", kMdiObjectLine, 1);
+  const ProjectComponent* component =
+      s.ActiveProject->Add(s.OutputPath + "MDIParent.frm", std::move(text));
+  std::string err;
+  if (!s.ActiveProject->WriteComponent(component->Name, *s.Output, &err))
+    summary.Failures.push_back("MDIParent: " + err);
 }
 
 bool HasReference(const ProjectModel& project, const char* guid) {
@@ -108,9 +121,8 @@ void AddReferences(ConversionSession& s) {
 }  // namespace
 
 void AssembleProject(ConversionSession& s, Converters& c, RunSummary& summary) {
-  if (s.NeedConversionCode) WriteConversionCodeFile(s, c, summary);
-  if (fs::exists(s.OutputPath + "MorvaneConversionCode.bas")) c.Code->WriteConversionCode(s);  // P6
-  if (s.IsMdi) AddMdiParent(s);
+  WriteConversionCodeFile(s, c, summary);
+  if (s.Options.IsMdi) AddMdiParent(s, summary);
   AddReferences(s);
 }
 

@@ -1,8 +1,6 @@
 // Analysis writers over the support database.
 #include "translator/analysis_writers.h"
 
-#include <sqlite3.h>
-
 #include "session/conversion_session.h"
 #include "session/user_interface.h"
 
@@ -19,10 +17,9 @@ void ReportLine(ConversionSession& s, const std::string& moduleName, int reasonI
 void ModuleStats(ConversionSession& s, const StatsRow& counts) {
   if (!s.SupportDb) return;
   if (s.SupportDb->MergeStats(counts)) return;
-  if (!s.Ui) return;
-  int number = s.SupportDb->Handle() ? sqlite3_extended_errcode(s.SupportDb->Handle()) : -1;
-  s.Ui->ShowMessage(s.SupportDb->File().filename().string() + "\n" + std::to_string(number),
-                    MessageIcon::Stop);
+  s.SupportDb->AddRunNote(s.SupportDb->File().filename().string(),
+                          "the statistics of " + counts.ModuleName + " could not be written (" +
+                              std::to_string(s.SupportDb->LastErrorCode()) + ")");
 }
 
 void LogEntry(ConversionSession& s, int errorId, const std::string& report,

@@ -8,23 +8,28 @@
 
 namespace morvane {
 
-void TranslatorCodeConverter::ExportModuleText(ConversionSession& s, const std::string& name,
-                                               int mode) {
-  morvane::ExportModuleText(s, name, mode);
+bool TranslatorCodeConverter::ExportModuleText(ConversionSession& s, const std::string& name,
+                                               int mode, TextDocument& into) {
+  return morvane::ExportModuleText(s, name, mode, into);
 }
 
-void TranslatorCodeConverter::TranslateCode(ConversionSession& s, std::string& path, int mode) {
-  morvane::TranslateCode(s, path, mode);
+TextDocument TranslatorCodeConverter::TranslateCode(ConversionSession& s, const TextDocument& input,
+                                                    const std::string& moduleName, int mode) {
+  return morvane::TranslateCode(s, input, moduleName, mode);
 }
 
-void TranslatorCodeConverter::MoveDeclarationBlocks(ConversionSession& s) {
-  morvane::MoveDeclarationBlocks(s);
+void TranslatorCodeConverter::MoveDeclarationBlocks(ConversionSession& s,
+                                                    const std::string& component) {
+  morvane::MoveDeclarationBlocks(s, component);
 }
 
-void TranslatorCodeConverter::WriteFormLookup(ConversionSession& s) { morvane::WriteFormLookup(s); }
+void TranslatorCodeConverter::WriteFormLookup(ConversionSession& s, TextDocument& conversionCode) {
+  morvane::WriteFormLookup(s, conversionCode);
+}
 
-void TranslatorCodeConverter::WriteConversionCode(ConversionSession& s) {
-  morvane::WriteConversionCode(s);
+void TranslatorCodeConverter::WriteConversionCode(ConversionSession& s,
+                                                  TextDocument& conversionCode) {
+  morvane::WriteConversionCode(s, conversionCode);
 }
 
 std::vector<std::string> TranslatorCodeConverter::UnbuiltStages() const {

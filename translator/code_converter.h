@@ -8,11 +8,13 @@ namespace morvane {
 
 class TranslatorCodeConverter : public CodeConverter {
  public:
-  void ExportModuleText(ConversionSession& s, const std::string& name, int mode) override;
-  void TranslateCode(ConversionSession& s, std::string& path, int mode) override;
-  void MoveDeclarationBlocks(ConversionSession& s) override;
-  void WriteFormLookup(ConversionSession& s) override;
-  void WriteConversionCode(ConversionSession& s) override;
+  bool ExportModuleText(ConversionSession& s, const std::string& name, int mode,
+                        TextDocument& into) override;
+  TextDocument TranslateCode(ConversionSession& s, const TextDocument& input,
+                             const std::string& moduleName, int mode) override;
+  void MoveDeclarationBlocks(ConversionSession& s, const std::string& component) override;
+  void WriteFormLookup(ConversionSession& s, TextDocument& conversionCode) override;
+  void WriteConversionCode(ConversionSession& s, TextDocument& conversionCode) override;
   std::vector<std::string> UnbuiltStages() const override;
 };
 

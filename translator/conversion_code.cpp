@@ -19,8 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kModuleName = "MorvaneConversionCode";
-constexpr std::string_view kModuleFile = "MorvaneConversionCode.bas";
 constexpr std::string_view kTemplateFolder = "conversion_templates";
 
 // One file per template in the data directory, in id order.
@@ -83,16 +81,11 @@ constexpr ListHelper kComboBoxHelpers[] = {
 
 constexpr int kPlainListFlag = 4;
 
-// Appends lines to a text file, each ended by CR LF. A file whose last line
-// lacks its line end gets one first, so the new text starts on a line of its
-// own.
-void AppendLines(const fs::path& file, const std::vector<std::string>& lines) {
-  std::string text;
-  std::string existing;
-  if (ReadFileBytes(file, &existing, nullptr) && !existing.empty() && existing.back() != '\n')
-    text = "\r\n";
-  text += JoinCrLf(lines);
-  AppendFileBytes(file, text, nullptr);
+// Appends lines to a text, each ended by CR LF. A text whose last line lacks
+// its line end gets one first, so the new text starts on a line of its own.
+void AppendLines(TextDocument& text, const std::vector<std::string>& lines) {
+  if (text.EndsOpen()) text.Append("\r\n");
+  text.Append(JoinCrLf(lines));
 }
 
 std::string_view TrimIndent(std::string_view line) {
@@ -133,19 +126,20 @@ void WriteListInit(ConversionSession& s, const std::string& header,
   }
   // A plain control calls AddItemsMS instead; the flag of the chosen type is
   // set all the same.
-  if (s.PlainListControl) s.ListControlsUsed[kPlainListFlag] = true;
+  if (s.Form().PlainListControl) s.ListControlsUsed[kPlainListFlag] = true;
 
   const std::string procedure =
-      s.PlainListControl ? std::string("AddItemsMS") : "AddItems" + std::string(suffix);
+      s.Form().PlainListControl ? std::string("AddItemsMS") : "AddItems" + std::string(suffix);
   const std::string callLine = "Call " + procedure + "(\"" + rowSource + "\", me!" + controlName +
                                ", \"" + (isValueList ? "String" : "Jet") + "\")";
 
-  if (IsDuplicateLine(s.CurrentFile, header, 0) > 0) {
-    InsertLine(s.CurrentFile, header, callLine, 1);
+  TextDocument& form = s.Form().Text;
+  if (IsDuplicateLine(form, header, 0) > 0) {
+    InsertLine(form, header, callLine, 1);
   } else {
-    AppendLines(s.CurrentFile, {header, callLine, "End Function"});
+    AppendLines(form, {header, callLine, "End Function"});
   }
-  s.InitCalls[initCall] = true;
+  s.Form().InitCalls[initCall] = true;
 }
 
 }  // namespace
@@ -161,7 +155,7 @@ std::string ConversionCodeTemplate(const fs::path& dataDir, int id) {
   return JoinCrLf(SplitLines(bytes));
 }
 
-void WriteFormLookup(ConversionSession& s) {
+void WriteFormLookup(ConversionSession& s, TextDocument& conversionCode) {
   std::vector<std::string> lines = {
       "Public Function GetFormFromName(FormName As String) As Form",
       "    Select Case FormName",
@@ -179,42 +173,36 @@ void WriteFormLookup(ConversionSession& s) {
       "list\"");
   lines.push_back("    End Select");
   lines.push_back("End Function");
-  AppendLines(s.OutputPath + std::string(kModuleFile), lines);
+  AppendLines(conversionCode, lines);
 }
 
-void WriteConversionCode(ConversionSession& s) {
-  const fs::path file = s.OutputPath + std::string(kModuleFile);
-  if (s.ActiveProject) s.ActiveProject->Remove(std::string(kModuleName));
-
-  std::string text;
-  ReadFileBytes(file, &text, nullptr);  // a missing file holds nothing yet
+void WriteConversionCode(ConversionSession& s, TextDocument& conversionCode) {
+  const std::string text = conversionCode.Bytes();
   std::string added;
   for (int n = 0; n < kConversionTemplateCount; ++n) {
     if (!s.ListControlsUsed[n]) continue;
     const std::string templateText =
-        ConversionCodeTemplate(s.DataDir, kFirstConversionTemplate + n);
+        ConversionCodeTemplate(s.Options.DataDir, kFirstConversionTemplate + n);
     if (templateText.empty() || HoldsTemplate(text + added, templateText)) continue;
     // An empty line sets each procedure apart from the one before it.
     added += "\r\n" + templateText;
   }
   if (!added.empty()) {
     if (!text.empty() && text.back() != '\n') added.insert(0, "\r\n");
-    AppendFileBytes(file, added, nullptr);
+    conversionCode.Append(added);
   }
-
-  if (s.ActiveProject) s.ActiveProject->AddFile(file);
 }
 
 void WriteListBoxInit(ConversionSession& s, const std::string& rowSource,
                       const std::string& controlName, bool isValueList) {
-  WriteListInit(s, "Private Function InitializeListBoxes()", kListBoxHelpers, s.ListboxType, 0,
-                rowSource, controlName, isValueList);
+  WriteListInit(s, "Private Function InitializeListBoxes()", kListBoxHelpers, s.Options.ListboxType,
+                0, rowSource, controlName, isValueList);
 }
 
 void WriteComboBoxInit(ConversionSession& s, const std::string& rowSource,
                        const std::string& controlName, bool isValueList) {
-  WriteListInit(s, "Private Function InitializeComboBoxes()", kComboBoxHelpers, s.ComboboxType, 1,
-                rowSource, controlName, isValueList);
+  WriteListInit(s, "Private Function InitializeComboBoxes()", kComboBoxHelpers,
+                s.Options.ComboboxType, 1, rowSource, controlName, isValueList);
 }
 
 }  // namespace morvane

@@ -9,6 +9,8 @@
 #include <filesystem>
 #include <string>
 
+#include "platform/text_document.h"
+
 namespace morvane {
 
 struct ConversionSession;
@@ -22,13 +24,12 @@ inline constexpr int kConversionTemplateCount = 21;
 std::string ConversionCodeTemplate(const std::filesystem::path& dataDir, int id);
 
 // Appends GetFormFromName, which maps each form of s.FormList to its form
-// object, to OutputPath + "MorvaneConversionCode.bas".
-void WriteFormLookup(ConversionSession& s);
+// object, to the conversion code.
+void WriteFormLookup(ConversionSession& s, TextDocument& conversionCode);
 
 // Adds to the conversion code each template that s.ListControlsUsed asks for
-// and that the file does not hold yet, in id order, and puts the file into
-// the active project again.
-void WriteConversionCode(ConversionSession& s);
+// and that the text does not hold yet, in id order.
+void WriteConversionCode(ConversionSession& s, TextDocument& conversionCode);
 
 // Add the call that fills one list box / combo box to the form's
 // InitializeListBoxes / InitializeComboBoxes in s.CurrentFile, creating the

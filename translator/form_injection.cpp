@@ -17,9 +17,9 @@ namespace {
 // no statistic.
 void PictureBlock(ModuleTranslation& t) {
   const ConversionSession& s = t.Session;
-  if (s.FormPictureStretched) {
+  if (s.Form().FormPictureStretched) {
     t.Write("Me.PaintPicture Me.Picture, 0, 0, Me.Width, Me.Height");
-  } else if (s.FormPictureTiled) {
+  } else if (s.Form().FormPictureTiled) {
     for (const char* line :
          {"Dim dblX As Double", "Dim dblY As Double", "Dim dblWidth As Double",
           "Dim dblHeight As Double", "", "dblWidth = Me.ScaleX(Me.Picture.Width)",
@@ -40,8 +40,8 @@ void Counted(ModuleTranslation& t, const std::string& line) {
 void LoadCodeAndCaptions(ModuleTranslation& t) {
   const ConversionSession& s = t.Session;
   PictureBlock(t);
-  if (!s.FormLoadCode.empty()) t.Write(s.FormLoadCode);
-  if (!s.LabelCaptionCode.empty()) t.Write(s.LabelCaptionCode);
+  if (!s.Form().FormLoadCode.empty()) t.Write(s.Form().FormLoadCode);
+  if (!s.Form().LabelCaptionCode.empty()) t.Write(s.Form().LabelCaptionCode);
 }
 
 // The written line is the header of the Sub `name`. The plain rule looks for
@@ -69,14 +69,14 @@ void InjectAfterLine(ModuleTranslation& t, const std::string& written) {
   const ConversionSession& s = t.Session;
   if (IsSubHeader(t, written, "Form_Load")) {
     t.FormLoadSeen = true;
-    if (s.InitCalls[0] || s.InitCalls[1]) Counted(t, "Dim vReturnValue as variant");
-    if (s.InitCalls[0]) Counted(t, "vReturnValue=InitializeListBoxes()");
-    if (s.InitCalls[1]) Counted(t, "vReturnValue=InitializeComboBoxes()");
+    if (s.Form().InitCalls[0] || s.Form().InitCalls[1]) Counted(t, "Dim vReturnValue as variant");
+    if (s.Form().InitCalls[0]) Counted(t, "vReturnValue=InitializeListBoxes()");
+    if (s.Form().InitCalls[1]) Counted(t, "vReturnValue=InitializeComboBoxes()");
     LoadCodeAndCaptions(t);
   }
   if (IsSubHeader(t, written, "Form_Activate")) {
     t.FormActivateSeen = true;
-    if (s.InitCalls[2]) {
+    if (s.Form().InitCalls[2]) {
       Counted(t, "Dim vReturnValue as variant");
       Counted(t, "vReturnValue=InitialDataCtlCaptions()");
     }
@@ -85,21 +85,21 @@ void InjectAfterLine(ModuleTranslation& t, const std::string& written) {
 
 void InjectAtEnd(ModuleTranslation& t) {
   const ConversionSession& s = t.Session;
-  const bool loadWork = s.InitCalls[0] || s.InitCalls[1] || s.FormPictureStretched ||
-                        s.FormPictureTiled || !s.FormLoadCode.empty() ||
-                        !s.LabelCaptionCode.empty();
+  const bool loadWork = s.Form().InitCalls[0] || s.Form().InitCalls[1] ||
+                        s.Form().FormPictureStretched || s.Form().FormPictureTiled ||
+                        !s.Form().FormLoadCode.empty() || !s.Form().LabelCaptionCode.empty();
   if (!t.FormLoadSeen && loadWork) {
     t.Write("Private Sub Form_Load()");
     Bump(t.TotalLines, 2);
     Bump(t.CodeLines, 2);
-    if (s.InitCalls[0]) Counted(t, "Call InitializeListBoxes()");
-    if (s.InitCalls[1]) Counted(t, "Call InitializeComboBoxes()");
-    if (s.InitCalls[2]) Counted(t, "Call InitialDataCtlCaptions()");
+    if (s.Form().InitCalls[0]) Counted(t, "Call InitializeListBoxes()");
+    if (s.Form().InitCalls[1]) Counted(t, "Call InitializeComboBoxes()");
+    if (s.Form().InitCalls[2]) Counted(t, "Call InitialDataCtlCaptions()");
     LoadCodeAndCaptions(t);
     t.Write("End Sub");
     Bump(t.SubCount);
   }
-  if (!t.FormActivateSeen && s.InitCalls[2]) {
+  if (!t.FormActivateSeen && s.Form().InitCalls[2]) {
     t.Write("Private Sub Form_Activate()");
     t.Write("Dim vReturnValue as variant");
     t.Write("vReturnValue=InitialDataCtlCaptions()");
@@ -108,9 +108,9 @@ void InjectAtEnd(ModuleTranslation& t) {
     Bump(t.CodeLines, 4);
     Bump(t.SubCount);
   }
-  if (t.Mode == kModeReport && (!s.ReportInitCode.empty() || t.FormLoadSeen)) {
+  if (t.Mode == kModeReport && (!s.Form().ReportInitCode.empty() || t.FormLoadSeen)) {
     t.Write("Private Sub DataReport_Initialize()");
-    t.Write(s.ReportInitCode);
+    t.Write(s.Form().ReportInitCode);
     if (t.FormLoadSeen) t.Write("If DataReport_Open() Then Unload Me");
     t.Write("End Sub");
     Bump(t.SubCount);

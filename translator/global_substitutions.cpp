@@ -316,7 +316,7 @@ void GlobalSubstitutions(ModuleTranslation& t, std::string& line) {
 
   if (folded.Contains("SysCmd(") && ContainsWord(line, "SysCmd(", kInCodeOrComment)) {
     folded.Replace("SysCmd(", "SysCmdVB(");
-    s.ListControlsUsed[s.IsMdi ? 6 : 7] = true;
+    s.ListControlsUsed[s.Options.IsMdi ? 6 : 7] = true;
   }
   ReplaceAll(folded, kSysCmdConstants);
   folded.Replace(".TimerInterval", ".Timer1.Interval");

@@ -24,7 +24,7 @@ enum class Member { Bookmark, CurrentRecord, RecordSource, GoToPage, Flag, Other
 struct MemberRule {
   std::string_view name;
   Member kind;
-  bool ConversionSession::*flag;
+  bool FormState::*flag;
 };
 
 constexpr MemberRule kMembers[] = {
@@ -32,11 +32,11 @@ constexpr MemberRule kMembers[] = {
     {"CurrentRecord", Member::CurrentRecord, nullptr},
     {"RecordSource", Member::RecordSource, nullptr},
     {"GoToPage", Member::GoToPage, nullptr},
-    {"OpenArgs", Member::Flag, &ConversionSession::UsesOpenArgs},
-    {"Filter", Member::Flag, &ConversionSession::UsesFilter},
-    {"FilterOn", Member::Flag, &ConversionSession::UsesFilterOn},
-    {"OrderBy", Member::Flag, &ConversionSession::UsesOrderBy},
-    {"OrderByOn", Member::Flag, &ConversionSession::UsesOrderByOn},
+    {"OpenArgs", Member::Flag, &FormState::UsesOpenArgs},
+    {"Filter", Member::Flag, &FormState::UsesFilter},
+    {"FilterOn", Member::Flag, &FormState::UsesFilterOn},
+    {"OrderBy", Member::Flag, &FormState::UsesOrderBy},
+    {"OrderByOn", Member::Flag, &FormState::UsesOrderByOn},
 };
 
 const MemberRule* FindMember(const std::string& m) {
@@ -102,7 +102,7 @@ void RulesFor(ModuleTranslation& t, std::string& line, const std::string& owner)
         if (!GoToPage(t, line, owner, p)) return;
         break;
       case Member::Flag:
-        s.*(rule->flag) = true;
+        s.Form().*(rule->flag) = true;
         break;
       case Member::Other:
         if (owner != "Me" || m.empty() || !s.SupportDb) break;

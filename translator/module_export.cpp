@@ -69,37 +69,26 @@ std::vector<std::string> ReadCode(const CodeModule& code, int count) {
   return lines;
 }
 
-const ProjectComponent* CurrentComponent(const ConversionSession& s) {
-  if (!s.ActiveProject || s.ActiveProject->Components().empty()) return nullptr;
-  for (const auto& component : s.ActiveProject->Components())
-    if (!s.CurrentFile.empty() && component.File == std::filesystem::path(s.CurrentFile))
-      return &component;
-  return &s.ActiveProject->Components().back();
-}
-
 }  // namespace
 
-void ExportModuleText(ConversionSession& s, const std::string& name, int mode) {
-  if (!s.AccessApp) return;
+bool ExportModuleText(ConversionSession& s, const std::string& name, int mode, TextDocument& into) {
+  if (!s.AccessApp) return false;
   ModuleCode code;
-  if (!s.AccessApp->LoadModule(KindOf(mode), name, &code, nullptr)) return;
+  if (!s.AccessApp->LoadModule(KindOf(mode), name, &code, nullptr)) return false;
 
   std::vector<std::string> out;
-  std::string file;
   if (mode == kModeForm || mode == kModeReport) {
-    file = s.CurrentFile;
-    if (file.empty()) return;
     if (mode == kModeReport)
       out.push_back(NameAttribute(SafeName(name)));
     else if (!s.ConvertedNames.empty())
       out.push_back(NameAttribute(s.ConvertedNames.back()));
   } else {
-    file = s.OutputPath + "MODU_" + SafeFileName(name) + ".txt";
     const std::string unique = UniqueModuleName(s, name);
     s.ConvertedNames.push_back(unique);
     if (code.Type == 1) {
       out.assign(std::begin(kClassHeadStart), std::end(kClassHeadStart));
-      if (!s.IsVb5) out.insert(out.end(), std::begin(kClassHeadVb6), std::end(kClassHeadVb6));
+      if (!s.Options.IsVb5)
+        out.insert(out.end(), std::begin(kClassHeadVb6), std::end(kClassHeadVb6));
       out.push_back("End");
       out.push_back(NameAttribute(unique));
       out.insert(out.end(), std::begin(kClassAttributes), std::end(kClassAttributes));
@@ -115,15 +104,12 @@ void ExportModuleText(ConversionSession& s, const std::string& name, int mode) {
   if (mode == kModeForm) out.emplace_back();
   AddCodeLines(code, declarations + 1, code.CountOfLines() - declarations, &out);
 
-  const std::string text = JoinCrLf(out);
-  if (mode == kModeModule)
-    WriteFileBytes(file, text, nullptr);
-  else
-    AppendFileBytes(file, text, nullptr);
+  into.Append(JoinCrLf(out));
+  return true;
 }
 
-void MoveDeclarationBlocks(ConversionSession& s) {
-  const ProjectComponent* component = CurrentComponent(s);
+void MoveDeclarationBlocks(ConversionSession& s, const std::string& name) {
+  const ProjectComponent* component = s.ActiveProject ? s.ActiveProject->Find(name) : nullptr;
   if (!component) return;
   CodeModule code = component->Code();
 

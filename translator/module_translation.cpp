@@ -1,15 +1,17 @@
-// The per-call translation state and its 16-bit counter arithmetic.
+// The per-call translation state and its counter arithmetic.
 #include "translator/module_translation.h"
 
+#include <limits>
 #include <utility>
 
 #include "session/converters.h"
 
 namespace morvane {
 
-void Bump(int16_t& counter, int by) {
-  int sum = counter + by;
-  if (sum >= INT16_MIN && sum <= INT16_MAX) counter = static_cast<int16_t>(sum);
+void Bump(int& counter, int by) {
+  const long long sum = static_cast<long long>(counter) + by;
+  if (sum >= std::numeric_limits<int>::min() && sum <= std::numeric_limits<int>::max())
+    counter = static_cast<int>(sum);
 }
 
 ModuleTranslation::ModuleTranslation(ConversionSession& session, int mode, std::string moduleName)

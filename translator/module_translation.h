@@ -1,10 +1,9 @@
 // The state of one TranslateCode call that the stages of the pipeline share:
-// the 16-bit line counters of the module's statistics, the current procedure,
+// the line counters of the module's statistics, the current procedure,
 // the event procedure turned into a function, the data control suffix, and
 // the output lines written so far.
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -18,9 +17,10 @@ struct ConversionSession;
 // and in front of the old text of a translated line.
 inline constexpr std::string_view kCommentMark = "'MORVANE ";
 
-// Adds `by` to a 16-bit counter. A sum outside the 16-bit range leaves the
-// counter as it was, as a failed step does.
-void Bump(int16_t& counter, int by = 1);
+// Adds `by` to a counter. The counters are as wide as the analysis rows, so
+// that the largest module is counted right; a sum beyond that range leaves the
+// counter as it was.
+void Bump(int& counter, int by = 1);
 
 struct ModuleTranslation {
   ModuleTranslation(ConversionSession& session, int mode, std::string moduleName);
@@ -29,16 +29,16 @@ struct ModuleTranslation {
   int Mode;                // 1 form, 2 standard module, 3 report
   std::string ModuleName;  // the input file name less prefix and extension
 
-  int16_t TotalLines = 0;
-  int16_t CodeLines = -2;  // the LineNumber of the analysis rows
-  int16_t CommentLines = 0;
-  int16_t BlankLines = 0;
-  int16_t LinesNotTranslated = 0;
-  int16_t LinesPotentiallyConverted = 0;
-  int16_t SubCount = 0;
-  int16_t ProcCount = 0;
-  int16_t BeginCount = 0;
-  int16_t EndCount = 0;
+  int TotalLines = 0;
+  int CodeLines = -2;  // the LineNumber of the analysis rows
+  int CommentLines = 0;
+  int BlankLines = 0;
+  int LinesNotTranslated = 0;
+  int LinesPotentiallyConverted = 0;
+  int SubCount = 0;
+  int ProcCount = 0;
+  int BeginCount = 0;
+  int EndCount = 0;
 
   std::string CurrentRoutine;
   std::string EventFunction;

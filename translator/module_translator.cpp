@@ -3,11 +3,9 @@
 // second pass.
 #include "translator/module_translator.h"
 
-#include <filesystem>
 #include <string_view>
 #include <vector>
 
-#include "platform/text_file.h"
 #include "session/conversion_session.h"
 #include "session/converters.h"
 #include "session/naming.h"
@@ -35,21 +33,6 @@ namespace {
 // the data control of another form (a subform's code).
 constexpr std::string_view kFormCodeMark = "'MORVANE Form Code for ";
 constexpr std::string_view kEndFormCodeMark = "'MORVANE End Form Code for ";
-
-constexpr size_t kPrefixLength = 5;     // "form_", "REPT_", "MODU_"
-constexpr size_t kExtensionLength = 4;  // ".frm", ".txt"
-
-std::string ModuleNameOf(const std::string& fileName) {
-  if (fileName.size() <= kPrefixLength) return std::string();
-  std::string rest = fileName.substr(kPrefixLength);
-  return rest.substr(0, rest.size() > kExtensionLength ? rest.size() - kExtensionLength : 0);
-}
-
-const char* OutputExtension(int mode) {
-  if (mode == kModeForm) return ".frm";
-  if (mode == kModeReport) return ".dsr";
-  return ".bas";
-}
 
 }  // namespace
 
@@ -114,29 +97,19 @@ std::string TranslateStatement(ModuleTranslation& t, std::string line, bool newL
   return line;
 }
 
-void TranslateCode(ConversionSession& s, std::string& path, int mode) {
-  const std::string input = path;
-  const std::string fileName = FileNameOf(input);
-  path = ModuleNameOf(fileName);
-
-  // The output of an earlier run (for a form, the file of the same name).
-  std::error_code ec;
-  if (fileName.size() > kPrefixLength)
-    std::filesystem::remove(s.OutputPath + fileName.substr(kPrefixLength), ec);
-
-  std::vector<std::string> lines;
-  if (!ReadTextLines(input, &lines, nullptr)) return;
-
-  ModuleTranslation t(s, mode, path);
-  TranslateLines(t, lines);
+TextDocument TranslateCode(ConversionSession& s, const TextDocument& input,
+                           const std::string& moduleName, int mode) {
+  ModuleTranslation t(s, mode, moduleName);
+  t.Output.reserve(input.Lines().size() + 16);
+  TranslateLines(t, input.Lines());
   InjectAtEnd(t);
 
-  const std::string output = s.OutputPath + path + OutputExtension(mode);
-  if (!WriteTextLines(output, t.Output, nullptr)) return;
   ModuleStats(
-      s, {path, t.TotalLines, t.CommentLines, t.LinesNotTranslated, t.LinesPotentiallyConverted,
-          t.BlankLines, t.SubCount, t.ProcCount, 0, 0, t.CodeLines});
-  RecordsetPass(s, output);
+      s, {moduleName, t.TotalLines, t.CommentLines, t.LinesNotTranslated,
+          t.LinesPotentiallyConverted, t.BlankLines, t.SubCount, t.ProcCount, 0, 0, t.CodeLines});
+  TextDocument output(std::move(t.Output));
+  RecordsetPass(s, output, moduleName);
+  return output;
 }
 
 }  // namespace morvane

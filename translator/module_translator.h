@@ -6,16 +6,18 @@
 
 #include <string>
 
+#include "platform/text_document.h"
+
 namespace morvane {
 
 struct ConversionSession;
 
-// `path` in: the full path of the input file, whose name carries a prefix of
-// five characters and an extension of four ("form_X.frm", "REPT_X.txt",
-// "MODU_X.txt"); out: the module's name, the file name without them.
-// `mode`: 1 form (writes name + ".frm"), 2 standard module (".bas"), 3 report
-// (".dsr"), in the session's OutputPath. Never throws: a step that fails
-// leaves its line as it was.
-void TranslateCode(ConversionSession& s, std::string& path, int mode);
+// The translated text of `input`: a form's text with its designer block and
+// code (mode 1), a standard or class module (2) or a report's designer text
+// (3). `moduleName` names the module in the analysis rows and the data
+// controls of its forms. Never throws: a step that fails leaves its line as
+// it was.
+TextDocument TranslateCode(ConversionSession& s, const TextDocument& input,
+                           const std::string& moduleName, int mode);
 
 }  // namespace morvane

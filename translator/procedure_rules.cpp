@@ -60,8 +60,8 @@ void SubHeader(ModuleTranslation& t, std::string& line) {
   } else if (EqualsNoCase(tail, "BeforeDelConfirm")) {
     line = "Private Function " + e + "(Response As Integer) as Integer";
   } else if (EndsWithNoCase(e, "Form_Error") && !StartsWithNoCase(e, "dat")) {
-    line = "Private Function " + e + "(DataErr As " + (t.Session.UseAdo ? "Long" : "Integer") +
-           ") as Integer";
+    line = "Private Function " + e + "(DataErr As " +
+           (t.Session.Options.UseAdo ? "Long" : "Integer") + ") as Integer";
   } else {
     t.EventFunction.clear();
   }

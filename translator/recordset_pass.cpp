@@ -4,7 +4,6 @@
 #include "translator/recordset_pass.h"
 
 #include <array>
-#include <filesystem>
 #include <string_view>
 #include <vector>
 
@@ -245,10 +244,8 @@ bool IsIndexLine(std::string_view trimmed) {
 
 }  // namespace
 
-void RecordsetPass(ConversionSession& s, const std::string& file) {
-  std::vector<std::string> lines;
-  if (!ReadTextLines(file, &lines, nullptr)) return;
-  const std::string moduleName = std::filesystem::path(file).stem().string();
+void RecordsetPass(ConversionSession& s, TextDocument& text, const std::string& moduleName) {
+  std::vector<std::string>& lines = text.Lines();
   size_t number = 0;
   std::vector<std::string> members{""}, locals{""}, groups{""};
   bool inDeclarations = true;
@@ -313,11 +310,7 @@ void RecordsetPass(ConversionSession& s, const std::string& file) {
       ReportLine(s, moduleName, kReasonKeptChoice, TrimBlanks(before), static_cast<int>(number),
                  TrimBlanks(line), "");
   }
-  const std::string copy = file + "1";
-  if (!WriteTextLines(copy, lines, nullptr)) return;
-  std::error_code ec;
-  std::filesystem::remove(file, ec);
-  std::filesystem::rename(copy, file, ec);
+  text.SplitBreaks(0, lines.size());
 }
 
 }  // namespace morvane

@@ -5,11 +5,14 @@
 
 #include <string>
 
+#include "platform/text_document.h"
+
 namespace morvane {
 
 struct ConversionSession;
 
-// Rewrites `file` in place.
-void RecordsetPass(ConversionSession& s, const std::string& file);
+// Rewrites the text in place. A use the plain rules would have garbled is
+// left as it is, with an analysis row under `moduleName`.
+void RecordsetPass(ConversionSession& s, TextDocument& text, const std::string& moduleName = "");
 
 }  // namespace morvane

@@ -25,7 +25,7 @@ bool EndsObjectPath(char c) { return c == ']' || c == ' ' || c == '.' || c == '!
 void RequeryRule(ModuleTranslation& t, std::string& line) {
   const int pos = InStrExact(line, ".REQUERY");
   if (pos == 0) return;
-  const bool bound = t.Session.ListboxBound;
+  const bool bound = t.Session.Options.ListboxBound;
   const std::string refill = "Call InitializeComboBoxes()";
 
   int k = pos - 1;

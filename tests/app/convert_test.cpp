@@ -5,6 +5,9 @@
 #include <filesystem>
 
 #include "platform/support_db.h"
+#include "session/vb6_check.h"
+#include "support/designer_checker.h"
+#include "support/fixtures.h"
 #include "support/run_command.h"
 #include "support/temp_dir.h"
 
@@ -56,6 +59,9 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
                       "Module=MacroCode; MacroCode.bas",
                       "Form=frmCustomers.frm",
                       "Form=frmOrders.frm",
+                      "Designer=rptCustomerDirectory.dsr",
+                      "Designer=rptOrdersByDate.dsr",
+                      "Designer=rptEnvironment.dsr",
                       "Module=basOrders; basOrders.bas",
                       "Module=basStatistics; basStatistics.bas",
                       "Class=clsCustomer; clsCustomer.bas",
@@ -81,6 +87,9 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
             "frmCustomers.frm:488: an operator without its operand after \"(\"\n"
             "frmOrders.frm:257: an operator without its operand after \"(\"\n"
             "2 problem(s), 0 warning(s)\n");
+  // The reports bind to commands of the data environment.
+  const auto designers = test::CheckReportDesigners(dir / "out");
+  EXPECT_TRUE(designers.empty()) << designers.front();
 
   // Forms: the data control, the controls of every section and the event
   // code, with the macro of a button called in the form's context.
@@ -128,7 +137,8 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   EXPECT_NE(statistics.find("frmOrders!txtCount = DCount("), std::string::npos);
   EXPECT_NE(statistics.find("varResult = SysCmdVB(4, "), std::string::npos);
 
-  EXPECT_NE(r.out.find("Converted 6 object(s): 2 form(s)"), std::string::npos) << r.out;
+  EXPECT_NE(r.out.find("Converted 8 object(s): 2 form(s), 2 report(s)"), std::string::npos)
+      << r.out;
   EXPECT_NE(r.out.find("analysis/index.html"), std::string::npos) << r.out;
   EXPECT_EQ(r.out.find("Form conversion is not available"), std::string::npos) << r.out;
 
@@ -136,7 +146,7 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   auto db = SupportDatabase::Open(dir / "out" / "morvane.db", MORVANE_DATA_DIR, &err);
   ASSERT_TRUE(db) << err;
   auto stats = db->Stats();
-  ASSERT_EQ(stats.size(), 7u);
+  ASSERT_EQ(stats.size(), 9u);
   EXPECT_EQ(stats[0].ModuleName, "MacroCode");
   // The form rows count their controls, the section frames as one; the
   // calendar is converted in part.
@@ -145,8 +155,11 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   EXPECT_EQ(stats[1].CtlsPartiallyConverted, 1);
   EXPECT_EQ(stats[2].ModuleName, "frmOrders");
   EXPECT_EQ(stats[2].CtlCount, 7);
-  EXPECT_EQ(stats[3].ModuleName, "basOrders");
-  EXPECT_GT(stats[3].TotalLines, 50);
+  // The report rows count the controls that became items.
+  EXPECT_EQ(stats[3].ModuleName, "rptCustomerDirectory");
+  EXPECT_EQ(stats[3].CtlCount, 10);
+  EXPECT_EQ(stats[5].ModuleName, "basOrders");
+  EXPECT_GT(stats[5].TotalLines, 50);
   EXPECT_FALSE(db->ReportOutput().empty());
 }
 
@@ -167,6 +180,100 @@ TEST(Check, FindingsByFileAndLineAndAStatus) {
   auto missing = RunMorvane({"check", (dir / "none").string()});
   EXPECT_EQ(missing.status, 2);
   EXPECT_NE(missing.err.find("no such directory"), std::string::npos);
+}
+
+// Real trees keep class modules as Access itself writes them (the class's
+// Attribute lines, no VB_Name) and sometimes with a doubled byte order mark;
+// version-control tools keep a form's code in a .cls beside its design and
+// leave only a stub after CodeBehindForm.
+TEST(Convert, ClassModulesOfBothShapesAndCodeBesideItsFormComeAcross) {
+  TempDir dir;
+  const std::string bom = "\xEF\xBB\xBF";
+  const std::string classAttributes =
+      "Attribute VB_GlobalNameSpace = False\nAttribute VB_Creatable = True\n"
+      "Attribute VB_PredeclaredId = %\nAttribute VB_Exposed = False\n";
+  auto attributes = [&](const char* predeclared) {
+    std::string a = classAttributes;
+    return a.replace(a.find('%'), 1, predeclared);
+  };
+  auto utf16 = [](const std::string& text) {
+    std::string out = "\xFF\xFE";
+    for (char c : text) out += {c, '\0'};
+    return out;
+  };
+  const fs::path src = dir / "src";
+  WriteFile(src / "modules" / "basMain.bas",
+            bom +
+                "Attribute VB_Name = \"basMain\"\nOption Compare Database\n\n"
+                "Public Sub Go()\n    Dim c As New clsCounter\n    c.Add 1\nEnd Sub\n");
+  WriteFile(src / "modules" / "clsCounter.cls",
+            bom + attributes("False") +
+                "Option Compare Database\nOption Explicit\n\nPrivate mTotal As Long\n\n"
+                "Public Sub Add(ByVal n As Long)\n    mTotal = mTotal + n\nEnd Sub\n");
+  WriteFile(src / "modules" / "clsLog.cls",
+            bom + bom +
+                Crlf("VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1  'True\nEND\n"
+                     "Attribute VB_Name = \"clsLog\"\n" +
+                     attributes("False") +
+                     "Option Explicit\n\nPublic Sub Note(ByVal text As String)\n"
+                     "    Debug.Print text\nEnd Sub\n"));
+  const std::string form =
+      "Version =20\nVersionRequired =20\nBegin Form\n    Width =4000\n    Caption =\"%\"\n"
+      "    OnCurrent =\"[Event Procedure]\"\n    Begin\n        Begin Section\n"
+      "            Height =1000\n            Name =\"Detail\"\n            Begin\n"
+      "                Begin CommandButton\n                    Left =100\n"
+      "                    Top =100\n                    Width =1500\n"
+      "                    Height =400\n                    Name =\"cmdGo\"\n"
+      "                    OnClick =\"[Event Procedure]\"\n                End\n"
+      "            End\n        End\n    End\nEnd\nCodeBehindForm\n' See \"%.cls\"\n";
+  auto design = [&](std::string name) {
+    std::string text = form;
+    for (size_t at; (at = text.find('%')) != std::string::npos;) text.replace(at, 1, name);
+    return text;
+  };
+  WriteFile(src / "forms" / "frmMain.form", utf16(Crlf(design("frmMain"))));
+  WriteFile(src / "forms" / "frmMain.cls",
+            bom + attributes("True") +
+                "Option Compare Database\nOption Explicit\n\nPrivate Sub cmdGo_Click()\n"
+                "    Go\nEnd Sub\n\nPrivate Sub Form_Current()\n    Me.Caption = \"Main\"\n"
+                "End Sub\n");
+  // Its code file is missing: the stub must not become the form's code.
+  WriteFile(src / "forms" / "frmLost.form", bom + design("frmLost"));
+
+  auto r = RunMorvane({"convert", src.string(), "-o", (dir / "out").string(), "--yes"});
+  ASSERT_EQ(r.status, 0) << r.err;
+  EXPECT_EQ(r.err.find("not an Access export"), std::string::npos) << r.err;
+  EXPECT_NE(r.err.find("frmLost.form: its code is kept in \"frmLost.cls\", which the tree does "
+                       "not hold"),
+            std::string::npos)
+      << r.err;
+  EXPECT_NE(r.out.find("Converted 5 object(s): 2 form(s), 0 report(s), 3 module(s)."),
+            std::string::npos)
+      << r.out;
+  const std::string vbp = ReadFile(dir / "out" / "src.vbp");
+  for (const char* line : {"Form=frmMain.frm\r\n", "Module=basMain; basMain.bas\r\n",
+                           "Class=clsCounter; clsCounter.bas\r\n", "Class=clsLog; clsLog.bas\r\n"})
+    EXPECT_NE(vbp.find(line), std::string::npos) << line << vbp;
+  EXPECT_EQ(vbp.find("frmMain.cls"), std::string::npos) << vbp;
+  const std::string counter = ReadFile(dir / "out" / "clsCounter.bas");
+  EXPECT_EQ(counter.rfind("VERSION 1.0 CLASS\r\n", 0), 0u) << counter;
+  EXPECT_NE(counter.find("\r\nPublic Sub Add(ByVal n As Long)\r\n    mTotal = mTotal + n\r\n"),
+            std::string::npos)
+      << counter;
+  EXPECT_NE(ReadFile(dir / "out" / "clsLog.bas").find("\r\nPublic Sub Note("), std::string::npos);
+
+  // The form's code is the .cls, and the glue calls procedures it holds.
+  const std::string main = ReadFile(dir / "out" / "frmMain.frm");
+  for (const char* wanted : {"\r\nPrivate Sub cmdGo_Click()\r\n    Go\r\nEnd Sub\r\n",
+                             "\r\nPrivate Sub Form_Current()\r\n", "    Call Form_Current\r\n"})
+    EXPECT_NE(main.find(wanted), std::string::npos) << wanted << main;
+  for (const char* unwanted : {"See \"", "Attribute VB_PredeclaredId", "Option Compare Database"})
+    EXPECT_EQ(main.find(unwanted), std::string::npos) << unwanted;
+  EXPECT_EQ(ReadFile(dir / "out" / "frmLost.frm").find("See \""), std::string::npos);
+  for (const char* file : {"frmMain.frm", "frmLost.frm", "clsCounter.bas", "clsLog.bas"}) {
+    auto problems = CheckVb6Structure(file, ReadFile(dir / "out" / file));
+    EXPECT_TRUE(problems.empty()) << file << ": " << problems.front();
+  }
 }
 
 TEST(Convert, RunningTwiceIntoOneDirectoryGivesTheSameFiles) {
@@ -215,11 +322,11 @@ TEST(Convert, FormsTheRunCannotConvertAreSaidSo) {
   auto r = RunMorvane(
       {"convert", (dir / "src").string(), "-o", (dir / "out").string(), "--no-mdi", "--yes"});
   ASSERT_EQ(r.status, 0) << r.err;
-  EXPECT_NE(r.err.find("The form \"frmBig\" has 255 controls.  Visual Basic has a limit of 254 "
+  EXPECT_NE(r.out.find("The form \"frmBig\" has 255 controls.  Visual Basic has a limit of 254 "
                        "controls, and Morvane was unable to find a way to reduce the control "
                        "count.  The form will not be converted."),
             std::string::npos)
-      << r.err;
+      << r.out;
   const std::string vbp = ReadFile(dir / "out" / "src.vbp");
   EXPECT_EQ(vbp.find("frmBig"), std::string::npos) << vbp;
   EXPECT_NE(vbp.find("Form=frmSmall.frm"), std::string::npos) << vbp;
@@ -235,17 +342,12 @@ TEST(Convert, BadRequestsStopWithOneLineAndAStatus) {
     std::vector<std::string> args;
     const char* message;
   };
-  const fs::path fixtures = MORVANE_FIXTURES_DIR;
-  fs::copy_file(fixtures / "jet3-northwind-de.mdb", dir / "nw.mdb");
-  fs::create_directories(dir / "nw.src");
   WriteFile(dir / "garbage.mdb", std::string(5000, 'x'));
   fs::create_directories(dir / "garbage.src");
   const Case cases[] = {
       {{"convert", (dir / "none").string(), "-o", (dir / "o1").string()}, "cannot be read"},
       {{"convert", kSample.string(), "-o", (dir / "o2").string(), "--modules", "basNope"},
        "The source has no module named \"basNope\"."},
-      {{"convert", (dir / "nw.mdb").string(), "-o", (dir / "o3").string()},
-       "If the database is an Access 97 database, it must be converted"},
       {{"convert", (dir / "garbage.mdb").string(), "-o", (dir / "o4").string()},
        "Invalid database file selected."},
       {{"list", (dir / "none.mdb").string()}, "cannot be read"},
@@ -256,7 +358,21 @@ TEST(Convert, BadRequestsStopWithOneLineAndAStatus) {
     EXPECT_NE(r.err.find(c.message), std::string::npos) << r.err;
     EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1) << r.err;
   }
-  for (auto o : {"o1", "o2", "o3", "o4"}) EXPECT_FALSE(fs::exists(dir / o)) << o;
+  for (auto o : {"o1", "o2", "o4"}) EXPECT_FALSE(fs::exists(dir / o)) << o;
+}
+
+TEST(Convert, AnAccess97DatabaseIsRefused) {
+  MORVANE_NEED_JET_FIXTURES();
+  TempDir dir;
+  fs::copy_file(test::JetFixtures() / "jet3-northwind-de.mdb", dir / "nw.mdb");
+  fs::create_directories(dir / "nw.src");
+  auto r = RunMorvane({"convert", (dir / "nw.mdb").string(), "-o", (dir / "o3").string()});
+  EXPECT_NE(r.status, 0);
+  EXPECT_NE(r.err.find("If the database is an Access 97 database, it must be converted"),
+            std::string::npos)
+      << r.err;
+  EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1) << r.err;
+  EXPECT_FALSE(fs::exists(dir / "o3"));
 }
 
 TEST(Convert, AnOutputDirectoryInsideTheSourceIsRefused) {
@@ -277,7 +393,8 @@ TEST(List, PrintsTheCatalogInItsOrder) {
       r.out,
       "Forms:\n  frmCustomers\n  frmOrders\nModules:\n  basOrders\n  basStatistics\n  clsCustomer\n"
       "  Date Helpers\n"
-      "Reports:\nMacros:\n  AutoExec\n  mcrOrders\n");
+      "Reports:\n  rptCustomerDirectory\n  rptOrdersByDate\n"
+      "Macros:\n  AutoExec\n  mcrOrders\n");
 }
 
 }  // namespace
@@ -287,8 +404,9 @@ namespace morvane {
 namespace {
 
 TEST(Convert, ADatabaseWithItsTreeBesideItGetsAWorkingCopy) {
+  MORVANE_NEED_JET_FIXTURES();
   test::TempDir dir;
-  const fs::path fixture = fs::path(MORVANE_FIXTURES_DIR) / "jet4-subform-events.mdb";
+  const fs::path fixture = test::JetFixtures() / "jet4-subform-events.mdb";
   fs::copy_file(fixture, dir / "Events.mdb");
   test::WriteFile(dir / "Events.src" / "modules" / "basEvents.bas",
                   test::Crlf("Attribute VB_Name = \"basEvents\"\nPublic Sub Go()\n"
@@ -311,8 +429,9 @@ TEST(Convert, ADatabaseWithItsTreeBesideItGetsAWorkingCopy) {
 }
 
 TEST(List, DetailsOfARealJet4Database) {
+  MORVANE_NEED_JET_FIXTURES();
   test::TempDir dir;
-  fs::copy_file(fs::path(MORVANE_FIXTURES_DIR) / "jet4-banco-horas.mdb", dir / "Horas.mdb");
+  fs::copy_file(test::JetFixtures() / "jet4-banco-horas.mdb", dir / "Horas.mdb");
   auto r = test::RunMorvane({"list", "--details", (dir / "Horas.mdb").string()});
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_NE(r.out.find("Tables:\n  BANCO_HORAS (7 fields)\n"), std::string::npos) << r.out;

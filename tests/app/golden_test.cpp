@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "platform/support_db.h"
+#include "support/designer_checker.h"
 #include "support/run_command.h"
 #include "support/temp_dir.h"
 
@@ -39,6 +40,14 @@ std::string StatsRows(SupportDatabase& db) {
       out += "\t" + std::to_string(v);
     out += "\r\n";
   }
+  return out;
+}
+
+std::string LogRows(SupportDatabase& db) {
+  std::string out = "ErrorID\tReport\tLocation\tControlDeleted\r\n";
+  for (const auto& r : db.Log())
+    out += std::to_string(r.ErrorID) + "\t" + r.Report + "\t" + r.Location + "\t" +
+           std::to_string(r.ControlDeleted) + "\r\n";
   return out;
 }
 
@@ -92,6 +101,7 @@ TEST(Golden, EveryCaseGivesItsExpectedFiles) {
                         fs::copy_options::overwrite_existing);
       WriteFile(expected / "tblReportOutput.tsv", ReportRows(*db));
       WriteFile(expected / "tblStats.tsv", StatsRows(*db));
+      if (!db->Log().empty()) WriteFile(expected / "tblLog.tsv", LogRows(*db));
     }
     int compared = 0;
     for (const auto& f : fs::directory_iterator(expected)) {
@@ -101,6 +111,8 @@ TEST(Golden, EveryCaseGivesItsExpectedFiles) {
         actual = ReportRows(*db);
       else if (name == "tblStats.tsv")
         actual = StatsRows(*db);
+      else if (name == "tblLog.tsv")
+        actual = LogRows(*db);
       else
         actual = ReadFile(out / "out" / name);
       const std::string want = ReadFile(f.path());
@@ -110,6 +122,8 @@ TEST(Golden, EveryCaseGivesItsExpectedFiles) {
     EXPECT_GT(compared, 0);
     // What the run's own check finds in the output stands in the expected
     // tblReportOutput.tsv, reason 17.
+    const auto designers = test::CheckReportDesigners(out / "out");
+    EXPECT_TRUE(designers.empty()) << designers.front();
   }
   EXPECT_GT(cases, 0);
 }

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 
 #include "design/design_loader.h"
@@ -156,9 +157,17 @@ TEST(DesignStore, OverASourceTreeOnDisk) {
     utf16 += static_cast<char>(u >> 8);
   }
   test::WriteFile(dir / "Form_frmParent.txt", utf16);
+  // The child keeps its code in a file of its own; the report's stub names a
+  // code file that is not there. Either way the stub is no code.
   test::WriteFile(dir / "Form_frmChild.txt",
-                  test::Crlf("Version =20\nBegin Form\n    Caption =\"Child\"\nEnd\n"));
-  test::WriteFile(dir / "Report_rptEmpty.txt", "Version =20\nBegin Report\nEnd\n");
+                  test::Crlf("Version =20\nBegin Form\n    Caption =\"Child\"\nEnd\n"
+                             "CodeBehindForm\n' See \"Form_frmChild.cls\"\n"));
+  test::WriteFile(dir / "Form_frmChild.cls",
+                  "Attribute VB_GlobalNameSpace = False\nAttribute VB_Creatable = True\n"
+                  "Attribute VB_PredeclaredId = True\nAttribute VB_Exposed = False\n"
+                  "Option Explicit\nPrivate Sub Form_Load()\nEnd Sub\n");
+  test::WriteFile(dir / "Report_rptEmpty.txt",
+                  "Version =20\nBegin Report\nEnd\nCodeBehindForm\n' See \"rptEmpty.cls\"\n");
   std::string err;
   auto tree = SourceTree::Open(dir.path(), "", &err);
   ASSERT_NE(tree, nullptr) << err;
@@ -170,7 +179,12 @@ TEST(DesignStore, OverASourceTreeOnDisk) {
   const FormDesign* child = parent->Control("sub")->Form(&err);
   ASSERT_NE(child, nullptr) << err;
   EXPECT_EQ(child->Text("Caption"), "Child");
-  EXPECT_NE(store.OpenReport("rptEmpty", &err), nullptr) << err;
+  EXPECT_EQ(child->Code().back(), "End Sub");
+  EXPECT_EQ(std::count(child->Code().begin(), child->Code().end(), "Option Explicit"), 1);
+  const FormDesign* report = store.OpenReport("rptEmpty", &err);
+  ASSERT_NE(report, nullptr) << err;
+  EXPECT_TRUE(report->HasCode());
+  EXPECT_TRUE(report->Code().empty());
   EXPECT_EQ(store.OpenCount(), 3u);
 }
 

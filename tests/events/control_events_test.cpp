@@ -24,7 +24,7 @@ std::vector<std::string> Headers(const std::string& text) {
 TEST_F(ControlEvents, ButtonExpressionInClickBecomesANewProcedureAtTheEnd) {
   AddTestForm(ControlBlock("CommandButton", "cmdGo", {{"OnClick", "=Foo()"}}));
   SetCode("Option Explicit\n");
-  Control("Button", "cmdGo", "cmdGo");
+  Control(ControlEventKind::Button, "cmdGo", "cmdGo");
   EXPECT_EQ(Added("Option Explicit\n"), Crlf("\nPrivate Sub cmdGo_Click()\nCall Foo()\nEnd Sub\n"));
   EXPECT_TRUE(Rows().empty());
 }
@@ -36,7 +36,7 @@ TEST_F(ControlEvents, ButtonDoubleClickBecomesTheLastLineOfItsClick) {
   SetCode(
       "Private Sub cmdGo_Click()\nMsgBox 1\nEnd Sub\nPrivate Sub cmdGo_DblClick(Cancel As "
       "Integer)\nEnd Sub\n");
-  Control("Button", "cmdGo", "cmdGo");
+  Control(ControlEventKind::Button, "cmdGo", "cmdGo");
   EXPECT_EQ(Output(), Crlf(std::string(kFrmHead) +
                            "Private Sub cmdGo_Click()\nMsgBox 1\nCall cmdGo_DblClick\nEnd Sub\n"
                            "Private Sub cmdGo_DblClick(Cancel As Integer)\nEnd Sub\n"));
@@ -45,7 +45,7 @@ TEST_F(ControlEvents, ButtonDoubleClickBecomesTheLastLineOfItsClick) {
 TEST_F(ControlEvents, ButtonMacroOnDoubleClickAloneRunsOnClick) {
   AddTestForm(ControlBlock("CommandButton", "cmdGo", {{"OnDblClick", "mcrBeep"}}));
   SetCode("");
-  Control("Button", "cmdGo", "cmdGo");
+  Control(ControlEventKind::Button, "cmdGo", "cmdGo");
   EXPECT_EQ(Added(""), Crlf("\nPrivate Sub cmdGo_Click()\nCall mcrBeep\nEnd Sub\n"));
 }
 
@@ -55,9 +55,9 @@ TEST_F(ControlEvents, MacroThatNeedsTheFormRunsWithTheFormAsContextAlsoWhenInser
               ControlBlock("CommandButton", "cmdNext", {{"OnClick", "mcrNav.Fill"}}) +
               ControlBlock("CommandButton", "cmdBeep", {{"OnClick", "mcrBeep"}}));
   SetCode("Private Sub cmdGo_Click()\nx = 1\nEnd Sub\n");
-  Control("Button", "cmdGo", "cmdGo");
-  Control("Button", "cmdNext", "cmdNext");
-  Control("Button", "cmdBeep", "cmdBeep");
+  Control(ControlEventKind::Button, "cmdGo", "cmdGo");
+  Control(ControlEventKind::Button, "cmdNext", "cmdNext");
+  Control(ControlEventKind::Button, "cmdBeep", "cmdBeep");
   EXPECT_EQ(Output(),
             Crlf(std::string(kFrmHead) + "Private Sub cmdGo_Click()\nx = 1\n"
                                          "Set CodeContextObject = Me\nCall mcrNav_Fill\n"
@@ -75,7 +75,7 @@ TEST_F(ControlEvents, EmbeddedMacroCountsAsAMacroOfTheControl) {
       "                Begin\n                    Action =\"Beep\"\n                End\n"
       "            End\n        End\n");
   SetCode("");
-  Control("Button", "cmdGo", "cmdGo");
+  Control(ControlEventKind::Button, "cmdGo", "cmdGo");
   const std::string added = Added("");
   EXPECT_EQ(Headers(added), std::vector<std::string>{"cmdGo_Click()"});
   EXPECT_NE(added.find("\r\nCall frmTest_cmdGo"), std::string::npos) << added;
@@ -144,8 +144,8 @@ TEST_F(ControlEvents, EachFamilyWritesItsProceduresInItsOwnOrder) {
   for (const auto& f : kFamilyOrders)
     controls += ControlBlock(f.type, std::string("x") + f.kind, kEveryEvent);
   AddTestForm(controls);
-  s_.ListboxType = 1;
-  s_.ComboboxType = 4;
+  s_.Options.ListboxType = 1;
+  s_.Options.ComboboxType = 4;
   for (const auto& f : kFamilyOrders) {
     SetCode("");
     Control(f.kind, std::string("x") + f.kind, "x");
@@ -156,7 +156,7 @@ TEST_F(ControlEvents, EachFamilyWritesItsProceduresInItsOwnOrder) {
 TEST_F(ControlEvents, ButtonBodiesFoldDoubleClickEnterAndExit) {
   AddTestForm(ControlBlock("CommandButton", "cmdGo", kEveryEvent));
   SetCode("");
-  Control("Button", "cmdGo", "cmdGo");
+  Control(ControlEventKind::Button, "cmdGo", "cmdGo");
   EXPECT_EQ(Added(""),
             Crlf("\nPrivate Sub cmdGo_Click()\nCall C()\nCall D()\nEnd Sub\n"
                  "\nPrivate Sub cmdGo_KeyDown(KeyCode As Integer, Shift As Integer)\n"
@@ -191,7 +191,7 @@ TEST_F(ControlEvents, RenamedControlChangesOnlyItsOwnHeaders) {
       "Private Sub txtName_Change()\nEnd Sub\nPrivate Sub txtName_GotFocus()\nEnd Sub\n"
       "Private Sub txtName_LostFocus()\nEnd Sub\n" +
       other);
-  Control("TextBox", "txtName", "txtName1");
+  Control(ControlEventKind::TextBox, "txtName", "txtName1");
   EXPECT_EQ(Output(),
             Crlf(std::string(kFrmHead) +
                  "Private Sub txtName1_Click()\nEnd Sub\n"
@@ -211,8 +211,8 @@ TEST_F(ControlEvents, RenamesKeepToTheSectionOfTheFormThatHoldsTheControl) {
       "Private Sub cmdGo_Click()\nEnd Sub\n'MORVANE Form Code for frmSub\n"
       "Private Sub cmdGo_Click()\nEnd Sub\n'MORVANE End Form Code for frmSub\n"
       "Private Sub cmdGo_Click()\nEnd Sub\n");
-  ControlHint hint{"frmSub", "cmdGo", "cmdGo2", 0, ""};
-  Actions().ControlEvents(s_, "Button", "frmTest", hint);
+  Actions().ControlEvents(s_, "frmTest",
+                          Hint(ControlEventKind::Button, "frmSub", "cmdGo", "cmdGo2"));
   EXPECT_EQ(Output(), Crlf(std::string(kFrmHead) +
                            "Private Sub cmdGo_Click()\nEnd Sub\n'MORVANE Form Code for frmSub\n"
                            "Private Sub cmdGo2_Click()\nEnd Sub\n"
@@ -229,8 +229,9 @@ TEST_F(ControlEvents, ControlOfASubformIsReachedThroughItsSubformControl) {
       "Private Sub txtQty_Change()\nEnd Sub\n'MORVANE Form Code for frmLines\n"
       "Private Sub txtQty_Change()\nEnd Sub\n'MORVANE End Form Code for frmLines\n";
   SetCode(code);
-  ControlHint hint{"frmTest", "txtQty", "txtQty1", 0, "sfrmLines"};
-  Actions().ControlEvents(s_, "TextBox", "frmTest", hint);
+  Actions().ControlEvents(
+      s_, "frmTest",
+      Hint(ControlEventKind::TextBox, "frmTest", "txtQty", "txtQty1", 0, "sfrmLines"));
   EXPECT_EQ(Output(), Crlf(std::string(kFrmHead) +
                            "Private Sub txtQty_Change()\nEnd Sub\n'MORVANE Form Code for frmLines\n"
                            "Private Sub txtQty1_Change()\nEnd Sub\n"
@@ -244,9 +245,9 @@ TEST_F(ControlEvents, EnterAndGotFocus) {
       ControlBlock("TextBox", "txtB", {{"OnEnter", "[Event Procedure]"}}) +
       ControlBlock("TextBox", "txtC", {{"OnGotFocus", "[Event Procedure]"}, {"OnEnter", "=Go()"}}));
   SetCode("Private Sub txtC_GotFocus()\nx = 1\nEnd Sub\n");
-  Control("TextBox", "txtA", "txtA");
-  Control("TextBox", "txtB", "txtB");
-  Control("TextBox", "txtC", "txtC");
+  Control(ControlEventKind::TextBox, "txtA", "txtA");
+  Control(ControlEventKind::TextBox, "txtB", "txtB");
+  Control(ControlEventKind::TextBox, "txtC", "txtC");
   EXPECT_EQ(Output(), Crlf(std::string(kFrmHead) +
                            "Private Sub txtC_GotFocus()\nCall Go()\nx = 1\nEnd Sub\n"
                            // An empty Enter leaves an empty first line.
@@ -260,8 +261,8 @@ TEST_F(ControlEvents, ExitProcedureReturnsTheFocusWhenItAnswersTrue) {
       ControlBlock("TextBox", "txtB",
                    {{"OnExit", "[Event Procedure]"}, {"OnLostFocus", "[Event Procedure]"}}));
   SetCode("Private Sub txtB_LostFocus()\nx = 1\nEnd Sub\n");
-  Control("TextBox", "txtA", "txtA");
-  Control("TextBox", "txtB", "txtB");
+  Control(ControlEventKind::TextBox, "txtA", "txtA");
+  Control(ControlEventKind::TextBox, "txtB", "txtB");
   EXPECT_EQ(Output(), Crlf(std::string(kFrmHead) +
                            "Private Sub txtB_LostFocus()\nIf txtB_Exit() Then\ntxtB.SetFocus\n"
                            "Exit Sub\nEnd If\nx = 1\nEnd Sub\n"
@@ -275,9 +276,9 @@ TEST_F(ControlEvents, ValidateIsWrittenOnlyOutsideVisualBasic5) {
   const std::string code = "Private Sub txtB_BeforeUpdate(Cancel As Integer)\nEnd Sub\n";
   for (bool vb5 : {true, false}) {
     SetCode(code);
-    s_.IsVb5 = vb5;
-    Control("TextBox", "txtA", "txtA");
-    Control("TextBox", "txtB", "txtB");
+    s_.Options.IsVb5 = vb5;
+    Control(ControlEventKind::TextBox, "txtA", "txtA");
+    Control(ControlEventKind::TextBox, "txtB", "txtB");
     if (vb5)
       EXPECT_EQ(Output(), Crlf(kFrmHead + code));
     else
@@ -291,7 +292,7 @@ TEST_F(ControlEvents, ValidateIsWrittenOnlyOutsideVisualBasic5) {
 TEST_F(ControlEvents, NewProcedureWhoseHeaderStandsIsReportedAndWrittenAgain) {
   AddTestForm(ControlBlock("CommandButton", "cmdGo", {{"OnClick", "=Foo()"}}));
   SetCode("Private Sub cmdGo_Click()\nEnd Sub\n");
-  Control("Button", "cmdGo", "cmdGo");
+  Control(ControlEventKind::Button, "cmdGo", "cmdGo");
   EXPECT_EQ(Added("Private Sub cmdGo_Click()\nEnd Sub\n"),
             Crlf("\nPrivate Sub cmdGo_Click()\nCall Foo()\nEnd Sub\n"));
   auto rows = Rows();
@@ -313,9 +314,9 @@ TEST_F(ControlEvents, CheckBoxAfterUpdateRunsOnLosingTheFocus) {
                             {"OnExit", "[Event Procedure]"},
                             {"OnLostFocus", "[Event Procedure]"}}));
   SetCode("Private Sub chkC_LostFocus()\nx = 1\nEnd Sub\n");
-  Control("CheckBox", "chkA", "chkA");
-  Control("CheckBox", "chkB", "chkB");
-  Control("CheckBox", "chkC", "chkC");
+  Control(ControlEventKind::CheckBox, "chkA", "chkA");
+  Control(ControlEventKind::CheckBox, "chkB", "chkB");
+  Control(ControlEventKind::CheckBox, "chkC", "chkC");
   EXPECT_EQ(Output(), Crlf(std::string(kFrmHead) +
                            "Private Sub chkC_LostFocus()\nCall Recalc()\nIf chkC_Exit() Then\n"
                            "chkC.SetFocus\nExit Sub\nEnd If\nx = 1\nEnd Sub\n"
@@ -336,8 +337,8 @@ TEST_F(ControlEvents, BoundObjectFrameUpdatesRunOnLosingTheFocus) {
       "Private Sub olePhoto_Updated(Code As Integer)\nEnd Sub\n"
       "Private Sub oleDoc_LostFocus()\nEnd Sub\n";
   SetCode(code);
-  Control("BoundObjectFrame", "olePhoto", "olePhoto");
-  Control("BoundObjectFrame", "oleDoc", "oleDoc");
+  Control(ControlEventKind::BoundObjectFrame, "olePhoto", "olePhoto");
+  Control(ControlEventKind::BoundObjectFrame, "oleDoc", "oleDoc");
   EXPECT_EQ(Output(), Crlf(std::string(kFrmHead) +
                            "Private Sub olePhoto_Updated(Code As Integer)\nEnd Sub\n"
                            "Private Sub oleDoc_LostFocus()\nCall Check()\nCall oleDoc_AfterUpdate\n"
@@ -358,8 +359,8 @@ TEST_F(ControlEvents, OptionGroupProceduresTakeTheIndexOfTheControlArray) {
                             {"OnExit", "[Event Procedure]"}}) +
               ControlBlock("OptionGroup", "grpPay", {{"BeforeUpdate", "[Event Procedure]"}}));
   SetCode("Private Sub grpPay_BeforeUpdate(Cancel As Integer)\nEnd Sub\n");
-  Control("OptionGroup", "grpShip", "grpShip");
-  Control("OptionGroup", "grpPay", "grpPay");
+  Control(ControlEventKind::OptionGroup, "grpShip", "grpShip");
+  Control(ControlEventKind::OptionGroup, "grpPay", "grpPay");
   EXPECT_EQ(Output(),
             Crlf(std::string(kFrmHead) +
                  "Private Sub grpPay_Validate(Cancel As Boolean)\nEnd Sub\n"
@@ -377,7 +378,7 @@ TEST_F(ControlEvents, LabelOnTheFormFoldsDoubleClickIntoItsNewClick) {
   AddTestForm(ControlBlock("Label", "lblTitle",
                            {{"OnClick", "=Foo()"}, {"OnDblClick", "[Event Procedure]"}}));
   SetCode("");
-  Control("Image", "lblTitle", "lblTitle");
+  Control(ControlEventKind::Image, "lblTitle", "lblTitle");
   EXPECT_EQ(Added(""),
             Crlf("\nPrivate Sub lblTitle_Click()\nCall Foo()\nCall lblTitle_DblClick\nEnd Sub\n"));
 }
@@ -385,7 +386,7 @@ TEST_F(ControlEvents, LabelOnTheFormFoldsDoubleClickIntoItsNewClick) {
 TEST_F(ControlEvents, ControlThatIsNotThereIsNotedAndLeavesTheFileAsItIs) {
   AddTestForm(ControlBlock("CommandButton", "cmdGo", {{"OnClick", "=Foo()"}}));
   SetCode("");
-  Control("Button", "cmdGone", "cmdGone");
+  Control(ControlEventKind::Button, "cmdGone", "cmdGone");
   EXPECT_EQ(Output(), Crlf(kFrmHead));
   auto notes = db_->RunNotes();
   ASSERT_EQ(notes.size(), 1u);
@@ -396,7 +397,7 @@ TEST_F(ControlEvents, PropertyTheControlDoesNotHaveWritesNothing) {
   // An image has no key events; a value written for one is no property of it.
   AddTestForm(ControlBlock("Image", "imgLogo", {{"OnMouseUp", "=Up()"}}));
   SetCode("");
-  Control("Image", "imgLogo", "imgLogo");
+  Control(ControlEventKind::Image, "imgLogo", "imgLogo");
   EXPECT_EQ(Headers(Added("")),
             std::vector<std::string>{
                 "imgLogo_MouseUp(Button As Integer, Shift As Integer, X As Single, Y As Single)"});

@@ -12,8 +12,8 @@
 #include <utility>
 #include <vector>
 
-#include "events/event_writer.h"
 #include "design/design_store.h"
+#include "events/event_writer.h"
 #include "platform/source_tree.h"
 #include "platform/support_db.h"
 #include "session/conversion_session.h"
@@ -71,7 +71,6 @@ class EventHarness : public ::testing::Test {
     std::filesystem::create_directories(dir_ / "src" / "forms");
     std::filesystem::create_directories(dir_ / "out");
     s_.OutputPath = (dir_ / "out").string() + "/";
-    s_.CurrentFile = s_.OutputPath + "frmTest.frm";
     // A macro group whose first macro sets a value on the form, and a plain
     // macro that only beeps.
     AddMacro("mcrNav", MacroName("Fill") + MacroRow("SetValue", "[Total]") + kMacroSeparator +
@@ -91,8 +90,10 @@ class EventHarness : public ::testing::Test {
     AddForm("frmTest", FormText(formProperties, controls));
   }
   // The output file: the designer part, then `code` (lines with "\n").
-  void SetCode(const std::string& code) { WriteFile(s_.CurrentFile, Crlf(kFrmHead + code)); }
-  std::string Output() const { return ReadFile(s_.CurrentFile); }
+  void SetCode(const std::string& code) {
+    s_.Form().Text = TextDocument::FromBytes(Crlf(kFrmHead + code));
+  }
+  std::string Output() const { return s_.Form().Text.Bytes(); }
   // What the writers added behind the code the test set.
   std::string Added(const std::string& code) const {
     const std::string before = Crlf(kFrmHead + code);
@@ -124,11 +125,30 @@ class EventHarness : public ::testing::Test {
   }
 
   // The control record of `kind` for a control of frmTest.
+  void Control(ControlEventKind kind, const std::string& accessName, const std::string& vbName,
+               int comboKind = 0) {
+    s_.Form().CurrentControlName = vbName;
+    Actions().ControlEvents(s_, "frmTest", Hint(kind, "frmTest", accessName, vbName, comboKind));
+  }
+  // The same by the family's name ("Button", "ListBox" ...).
   void Control(const std::string& kind, const std::string& accessName, const std::string& vbName,
                int comboKind = 0) {
-    ControlHint hint{"frmTest", accessName, vbName, comboKind, ""};
-    s_.CurrentControlName = vbName;
-    Actions().ControlEvents(s_, kind, "frmTest", hint);
+    for (int k = 0; k <= static_cast<int>(ControlEventKind::BoundObjectFrame); ++k)
+      if (kind == ControlEventKindName(static_cast<ControlEventKind>(k)))
+        return Control(static_cast<ControlEventKind>(k), accessName, vbName, comboKind);
+    ADD_FAILURE() << "no event writer family " << kind;
+  }
+  static ControlCodeHint Hint(ControlEventKind kind, const std::string& form,
+                              const std::string& accessName, const std::string& vbName,
+                              int comboKind = 0, const std::string& subformControl = "") {
+    ControlCodeHint hint;
+    hint.Kind = kind;
+    hint.FormName = form;
+    hint.AccessName = accessName;
+    hint.VbName = vbName;
+    hint.ComboKind = comboKind;
+    hint.SubformControl = subformControl;
+    return hint;
   }
   void FormEvents(const std::string& formName, const std::string& subformControl = "") {
     Actions().FormEvents(s_, formName, "frmTest", subformControl);

@@ -219,7 +219,7 @@ TEST_F(FormEventCode, AfterUpdateAloneUnderAdoCompletesTheUpdate) {
 
 TEST_F(FormEventCode, BeforeInsertAloneUnderDaoCancelsTheAddition) {
   Forms({{"BeforeInsert", "[Event Procedure]"}});
-  s_.UseAdo = false;
+  s_.Options.UseAdo = false;
   SetCode("");
   Main();
   EXPECT_EQ(Added(""), Crlf("\nPrivate Sub datfrmTest_Validate(Action As Integer, Save As "
@@ -267,7 +267,7 @@ TEST_F(FormEventCode, SubformRecordEventsUnderAdoAndDao) {
                            "Case adRsnUpdate\nCall frmLines_SubForm_AfterUpdate()\n"
                            "Case Else\nEnd Select\nEnd Sub\n"));
 
-  s_.UseAdo = false;
+  s_.Options.UseAdo = false;
   SetCode(WithSubform("", sub));
   Sub();
   EXPECT_EQ(Output(),
@@ -286,18 +286,18 @@ TEST_F(FormEventCode, SubformRecordEventsUnderAdoAndDao) {
 TEST_F(FormEventCode, CurrentJoinsTheMoveProcedureTheDataControlHas) {
   Forms({{"OnCurrent", "[Event Procedure]"}});
   SetCode("");
-  AddDataCtlEntry2(s_.CurrentFile, "datfrmTest", "datfrmTest.Caption = \"x\"");
+  AddDataCtlEntry2(s_.Form().Text, "datfrmTest", "datfrmTest.Caption = \"x\"");
   const std::string before = Output();
   Main();
   const std::string header =
       "Private Sub datfrmTest_MoveComplete(ByVal adReason As ADODB.EventReasonEnum, ByVal pError "
       "As ADODB.Error, adStatus As ADODB.EventStatusEnum, ByVal pRecordset As "
       "ADODB.Recordset20)";
-  EXPECT_EQ(IsDuplicateLine(s_.CurrentFile, header, 0), 1);
+  EXPECT_EQ(IsDuplicateLine(s_.Form().Text, header, 0), 1);
   EXPECT_EQ(Output(), ReplaceAllText(before, "End Sub\r\n", "Call Form_Current\r\nEnd Sub\r\n"));
 
   // Without one, the procedure is made, with no empty line ahead.
-  s_.UseAdo = false;
+  s_.Options.UseAdo = false;
   SetCode("");
   Main();
   EXPECT_EQ(Added(""), Crlf("Private Sub datfrmTest_Reposition()\nCall Form_Current\nEnd sub\n"));
@@ -324,7 +324,7 @@ TEST_F(FormEventCode, ErrorOfTheDataControlAsksTheFormsErrorProcedure) {
                  "ByVal HelpContext As Long, fCancelDisplay As Boolean)\n"
                  "fCancelDisplay = Form_Error(ErrorNumber)\nEnd Sub\n"));
 
-  s_.UseAdo = false;
+  s_.Options.UseAdo = false;
   SetCode(WithSubform(
       "", "Private Sub Form_Error(DataErr As Integer, Response As Integer)\nEnd Sub\n"));
   Sub();
@@ -384,10 +384,9 @@ TEST_F(FormEventCode, HintRecordsRunTheWritersOnTheFormsFile) {
   AddTestForm(ControlBlock("CommandButton", "cmd Go", {{"OnClick", "=Go()"}}),
               {{"OnCurrent", "=Moved()"}});
   SetCode("");
-  WriteFile(s_.OutputPath + "frmTest.hnt",
-            Crlf("FormCode\nfrmTest\n\nButtonCode\nfrmTest\ncmd Go\ncmd_Go\n\n\n"));
+  s_.Form().Hints = {FormCodeHint{"frmTest", ""},
+                     Hint(ControlEventKind::Button, "frmTest", "cmd Go", "cmd_Go")};
   ProcessHints(s_, "frmTest", Actions());
-  EXPECT_FALSE(std::filesystem::exists(s_.OutputPath + "frmTest.hnt"));
   EXPECT_EQ(Added(""),
             Crlf("Private Sub datfrmTest_MoveComplete(ByVal adReason As ADODB.EventReasonEnum, "
                  "ByVal pError As ADODB.Error, adStatus As ADODB.EventStatusEnum, ByVal "

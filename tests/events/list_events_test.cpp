@@ -177,9 +177,9 @@ class ListEvents : public EventHarness {
     Reload();
     SetCode(c.code);
     if (kind == "ListBox")
-      s_.ListboxType = c.listType;
+      s_.Options.ListboxType = c.listType;
     else
-      s_.ComboboxType = c.listType;
+      s_.Options.ComboboxType = c.listType;
     Control(kind, accessName, c.vbName, c.comboKind);
     EXPECT_EQ(Output(), Crlf(std::string(kFrmHead) + c.result));
     EXPECT_TRUE(Rows().empty());

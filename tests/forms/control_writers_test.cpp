@@ -196,7 +196,7 @@ Begin Line
 End
 )"));
   Stand("linSlant");
-  w_.Text().SubformLeft = 10;
+  w_.Text().Place.SubformLeft = 10;
   WriteLineControl(w_);
   EXPECT_EQ(Written(), Lines(R"(Begin VB.Line linSlant
 BorderColor =  &HFF&
@@ -303,7 +303,7 @@ Picture = "frmTest.frx":0000
 End
 )"));
   EXPECT_EQ(HintText(), Hint("ImageCode", "imgLogo", "imgLogo"));
-  EXPECT_EQ(test::ReadFile(dir_ / "frmTest.frx").size(), 126u);
+  EXPECT_EQ(s_.Form().Binary.size(), 126u);
 }
 
 TEST_F(ControlWriters, ImageWithoutPictureOrWithARefusedOneHasNoPictureLine) {
@@ -326,7 +326,7 @@ Begin Image
   const std::string odd = Written();
   EXPECT_EQ(odd.find("Picture ="), std::string::npos);
   EXPECT_EQ(odd.find("BorderStyle"), std::string::npos);
-  EXPECT_FALSE(std::filesystem::exists(dir_ / "frmTest.frx"));
+  EXPECT_TRUE(s_.Form().Binary.empty());
 }
 
 constexpr const char* kButtons = R"(
@@ -652,8 +652,8 @@ TEST_F(ControlWriters, DatePickerFormatsAndOptions) {
   AddForm("frmTest", FormText(controls));
   for (size_t i = 0; i < std::size(rows); ++i) {
     const Row& r = rows[i];
-    s_.IsVb5 = r.vb5;
-    s_.DatePicker = r.datePicker;
+    s_.Options.IsVb5 = r.vb5;
+    s_.Options.DatePicker = r.datePicker;
     const std::string name = "txt" + std::to_string(i);
     Stand(name);
     WriteTextBox(w_);
@@ -783,8 +783,8 @@ End
 )"));
   FormTextSet& t = w_.Text();
   Stand("1 st");
-  t.SubformLeft = 1000;
-  t.SubformTop = 2000;
+  t.Place.SubformLeft = 1000;
+  t.Place.SubformTop = 2000;
   t.InSubform = true;
   WriteLabel(w_);
   const std::string label = Written();

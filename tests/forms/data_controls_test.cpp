@@ -10,6 +10,7 @@
 
 #include "design/form_design.h"
 #include "forms/frm_text.h"
+#include "support/hint_text.h"
 #include "tests/forms/data_fixture.h"
 
 namespace morvane {
@@ -28,7 +29,8 @@ class DataControlsTest : public test::DataFixture {
       if (l == line) return true;
     return false;
   }
-  std::string Frx(const std::string& form) { return test::ReadFile(dir_ / (form + ".frx")); }
+  // The records of the form being converted.
+  std::string Frx() const { return s_.Form().Binary; }
 };
 
 TEST_F(DataControlsTest, AdoDataControlOfAFormWithoutNavigationButtons) {
@@ -46,7 +48,7 @@ Begin Form
 End
 )txt";
   Enter("Orders", "Orders");
-  w_.Text().Total = 2500;
+  w_.Text().Place.Total = 2500;
   w_.Text().BodyText = "Begin VB.Form Orders";
   WriteFormDataControl(w_);
 
@@ -99,7 +101,7 @@ EndProperty
 _Version = 393216
 End)"));
   // No AddDataMove for a hidden control; the entry that starts the load code.
-  EXPECT_EQ(s_.HintText, Crlf("AddDataCtlEntry\ndatOrders\n\n"));
+  EXPECT_EQ(test::HintText(s_.Form().Hints), Crlf("AddDataCtlEntry\ndatOrders\n\n"));
   ASSERT_EQ(w_.Text().ComponentFiles.size(), 1u);
   EXPECT_EQ(w_.Text().ComponentFiles[0], "MSADODC.OCX");
   EXPECT_EQ(w_.Text().ComponentGuids[0], "{67397AA1-7FB1-11D0-B148-00A0C922E820}#6.0#0");
@@ -126,10 +128,10 @@ Begin Form
     End
 End
 )txt";
-  s_.UseAdo = false;
-  s_.RelativePaths = false;
+  s_.Options.UseAdo = false;
+  s_.Options.RelativePaths = false;
   Enter("Order List", "Order List");
-  w_.Text().Total = 2000;
+  w_.Text().Place.Total = 2000;
   WriteFormDataControl(w_);
 
   EXPECT_EQ(w_.Text().BodyText, Crlf(R"(
@@ -149,8 +151,8 @@ Width = 2700
 Visible = True
 End)"));
   // The entry comes before the move for VB.Data.
-  EXPECT_EQ(s_.HintText, Crlf("AddDataCtlEntry\ndatOrder_List\n\n"
-                              "AddDataMove\nOrder List\ndatOrder_List\n"));
+  EXPECT_EQ(test::HintText(s_.Form().Hints), Crlf("AddDataCtlEntry\ndatOrder_List\n\n"
+                                                  "AddDataMove\nOrder List\ndatOrder_List\n"));
   EXPECT_TRUE(w_.Text().ComponentFiles.empty());
   // The fields of a saved query come from its select list.
   EXPECT_EQ(support_->CountRows("tblFields"), 6);
@@ -227,7 +229,7 @@ TEST_F(DataControlsTest, RecordsetTypeGivesCursorAndReadOnly) {
 
 TEST_F(DataControlsTest, DatabaseNameUnderRelativePathsAndForASourceTree) {
   Enter("Main", "Main");
-  s_.RelativePaths = true;
+  s_.Options.RelativePaths = true;
   EXPECT_TRUE(HasLine(WriteDataControl(w_, "Main", 0, 1, "Orders", 0, false),
                       "DatabaseName = \"Northwind.mdb\""));
   // Without a database file the tree's folder names the database, as in the
@@ -243,8 +245,8 @@ TEST_F(DataControlsTest, SubformDataControlIsDrivenByTheParentsOne) {
   Enter("frmLines", "Main");
   FormTextSet& t = w_.Text();
   t.CurrentControl = main->Control("subLines");
-  t.SubformLeft = 500;
-  t.Total = 1200;
+  t.Place.SubformLeft = 500;
+  t.Place.Total = 1200;
   WriteFormDataControl(w_);
 
   const std::string text = t.BodyText;
@@ -257,7 +259,7 @@ TEST_F(DataControlsTest, SubformDataControlIsDrivenByTheParentsOne) {
   EXPECT_TRUE(HasLine(text.substr(2), "RecordSource = \"Select * From [Order Details]\""));
   // The ADO control moves first, then enters the load code; then the four
   // records that tie it to the parent.
-  EXPECT_EQ(s_.HintText,
+  EXPECT_EQ(test::HintText(s_.Form().Hints),
             Crlf("AddDataMove\nfrmLines\ndatfrmLines\n"
                  "AddDataCtlEntry\ndatfrmLines\n\n"
                  "AddDataCtlEntry\ndatMain\ndatfrmLines.Recordset.MoveFirst\n"
@@ -290,8 +292,8 @@ Begin Form
 End
 )txt";
   Enter("frmPaged", "frmPaged");
-  w_.Text().Total = 4000;
-  w_.Text().PageBreakTops = {0, 1200};
+  w_.Text().Place.Total = 4000;
+  w_.Text().Place.PageBreakTops = {0, 1200};
   WriteFormDataControl(w_);
   // 4000 - 3000 + 1200 + 520 - 330
   EXPECT_TRUE(HasLine(w_.Text().BodyText.substr(2), "Top = 2390"));
@@ -302,7 +304,7 @@ TEST_F(DataControlsTest, FormWithoutRecordSourceGetsNoDataControl) {
   Enter("frmUnbound", "frmUnbound");
   WriteFormDataControl(w_);
   EXPECT_EQ(w_.Text().BodyText, "");
-  EXPECT_EQ(s_.HintText, "");
+  EXPECT_EQ(test::HintText(s_.Form().Hints), "");
 }
 
 TEST_F(DataControlsTest, ListDataControlLeavesNoHintsAndNoFields) {
@@ -321,7 +323,7 @@ TEST_F(DataControlsTest, ListDataControlLeavesNoHintsAndNoFields) {
         text, ado ? "RecordSource = \"[Order Details]\"" : "RecordSource = \"Order Details\""));
     for (const auto& line : Lines(text)) EXPECT_NE(line.rfind("CommandType", 0), 0u);
   }
-  EXPECT_EQ(s_.HintText, "");
+  EXPECT_EQ(test::HintText(s_.Form().Hints), "");
   EXPECT_EQ(support_->CountRows("tblFields"), 0);
 }
 
@@ -358,24 +360,25 @@ TEST_F(DataControlsTest, BindingsRecordBytes) {
   int n = 0;
   for (const Case& c : cases) {
     SCOPED_TRACE(n);
-    const std::string form = "frm" + std::to_string(n++);
-    s_.UseAdo = c.ado;
-    s_.PlainListControl = c.plain;
-    s_.ListboxType = c.listboxType;
+    ++n;
+    s_.Form().Binary.clear();
+    s_.Options.UseAdo = c.ado;
+    s_.Form().PlainListControl = c.plain;
+    s_.Options.ListboxType = c.listboxType;
     w_.Text().InRepeater = c.repeater;
     ASSERT_EQ(c.head.size(), 8u);
-    EXPECT_EQ(WriteBindingsRecord(w_, "datOrders", form, c.isList), "0000");
-    EXPECT_EQ(Frx(form), c.head + "\x09" + "datOrders");
+    EXPECT_EQ(WriteBindingsRecord(w_, "datOrders", c.isList), "0000");
+    EXPECT_EQ(Frx(), c.head + "\x09" + "datOrders");
   }
 }
 
 TEST_F(DataControlsTest, RecordsAppendAndReturnTheirOffsets) {
   // The first record of a new file is at 0000; 9 + 12 bytes put the next at
   // 0015, and the 28 bytes of an empty picture the one after at 0031.
-  EXPECT_EQ(WriteBindingsRecord(w_, "datCustomers", "Main Form", false), "0000");
-  EXPECT_EQ(WriteBindingsRecord(w_, "ignored", "Main Form", false, true), "0015");
-  EXPECT_EQ(WriteBindingsRecord(w_, "dat", "Main Form", true), "0031");
-  const std::string frx = Frx("Main_Form");
+  EXPECT_EQ(WriteBindingsRecord(w_, "datCustomers", false), "0000");
+  EXPECT_EQ(WriteBindingsRecord(w_, "ignored", false, true), "0015");
+  EXPECT_EQ(WriteBindingsRecord(w_, "dat", true), "0031");
+  const std::string frx = Frx();
   ASSERT_EQ(frx.size(), 0x31u + 12u);
   const std::string picture(
       "\x18\x00\x00\x00\x04\x52\xE3\x0B\x91\x8F\xCE\x11\x9D\xE3\x00\xAA\x00\x4B\xB8\x51"
@@ -385,17 +388,9 @@ TEST_F(DataControlsTest, RecordsAppendAndReturnTheirOffsets) {
   EXPECT_EQ(frx.substr(0x31 + 8), std::string("\x03", 1) + "dat");
 }
 
-TEST_F(DataControlsTest, ExistingFrxIsAppendedTo) {
-  test::WriteFile(dir_ / "Main.frx", std::string(300, 'x'));
-  EXPECT_EQ(WriteBindingsRecord(w_, "datMain", "Main", false), "012C");
-  // Past four digits the offset keeps all of them.
-  test::WriteFile(dir_ / "Big.frx", std::string(0x10000, 'x'));
-  EXPECT_EQ(WriteBindingsRecord(w_, "datBig", "Big", false), "10000");
-}
-
-TEST_F(DataControlsTest, UnwritableFrxGivesNoOffset) {
-  std::filesystem::create_directory(dir_ / "Locked.frx");
-  EXPECT_EQ(WriteBindingsRecord(w_, "datLocked", "Locked", false), "");
+TEST_F(DataControlsTest, OffsetsPastFourDigitsKeepThemAll) {
+  s_.Form().Binary.assign(0x10000, 'x');
+  EXPECT_EQ(WriteBindingsRecord(w_, "datBig", false), "10000");
 }
 
 }  // namespace

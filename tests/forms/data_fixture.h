@@ -114,7 +114,7 @@ class DataFixture : public ::testing::Test {
     support_ = SupportDatabase::Open(dir_ / "morvane.db", MORVANE_DATA_DIR, nullptr);
     s_.OutputPath = dir_.path().string() + "/";
     s_.SourcePath = "/home/user/Northwind.mdb";
-    s_.AdoConnect =
+    s_.Options.AdoConnect =
         "Provider=Microsoft.Jet.OLEDB.4.0;Persist Security Info=False;Data Source=Northwind.mdb";
     s_.SourceDb = &db_;
     s_.SupportDb = support_.get();

@@ -12,6 +12,7 @@
 #include "session/naming.h"
 #include "session/user_interface.h"
 #include "session/vb6_check.h"
+#include "support/hint_text.h"
 #include "support/temp_dir.h"
 
 namespace morvane {
@@ -58,15 +59,15 @@ class FormWriterTest : public ::testing::Test {
     s_.Ui = &ui_;
   }
 
-  // Converts the form and returns its .frm text; the .hnt text in hints_.
+  // Converts the form and returns its .frm text; the hint records as text in
+  // hints_.
   std::string Convert(const std::string& name, const std::string& text) {
     texts_[name] = text;
     FormWriter w(s_, store_);
     std::string err;
     EXPECT_TRUE(w.ConvertForm(name, &err)) << err;
-    // The files take the name as Visual Basic can have it.
-    hints_ = ReadFile(dir_ / (SafeName(name) + ".hnt"));
-    return ReadFile(dir_ / (SafeName(name) + ".frm"));
+    hints_ = test::HintText(s_.Form().Hints);
+    return s_.Form().Text.Bytes();
   }
 
   TempDir dir_;
@@ -112,7 +113,7 @@ TEST_F(FormWriterTest, HeaderOfAPlainForm) {
                             "MDIChild = -1\n"
                             "HelpContextID=7\n"
                             "End\n"));
-  EXPECT_EQ(hints_, test::Crlf("FormCode\nOrders\n\nCtlCounts\n0\n0\n\n"));
+  EXPECT_EQ(hints_, test::Crlf("FormCode\nOrders\n\nCtlCounts\n0\n0\n"));
 }
 
 TEST_F(FormWriterTest, NamesCaptionsAndDialogs) {
@@ -129,7 +130,7 @@ TEST_F(FormWriterTest, NamesCaptionsAndDialogs) {
   EXPECT_EQ(frm.find("MDIChild"), std::string::npos);
   frm = Convert("Popup", Form("    PopUp = NotDefault\n", Detail("")));
   EXPECT_NE(frm.find("MDIChild = -1"), std::string::npos);
-  s_.IsMdi = false;
+  s_.Options.IsMdi = false;
   frm = Convert("NoMdi", Form("", Detail("")));
   EXPECT_EQ(frm.find("MDIChild"), std::string::npos);
 }
@@ -180,17 +181,17 @@ TEST_F(FormWriterTest, ControlNamesAreUniqueInTheForm) {
   ASSERT_TRUE(g);
   const ControlDesign& text1 = g->Controls()[0];
   w.MakeControlName(text1);
-  EXPECT_EQ(s_.CurrentControlName, "Text1");
+  EXPECT_EQ(s_.Form().CurrentControlName, "Text1");
   w.MakeControlName(text1);
-  EXPECT_EQ(s_.CurrentControlName, "Text1A");
+  EXPECT_EQ(s_.Form().CurrentControlName, "Text1A");
   w.MakeControlName(text1);
-  EXPECT_EQ(s_.CurrentControlName, "Text1AB");
+  EXPECT_EQ(s_.Form().CurrentControlName, "Text1AB");
   w.MakeControlName(g->Controls()[1]);
-  EXPECT_EQ(s_.CurrentControlName, "A1st");
+  EXPECT_EQ(s_.Form().CurrentControlName, "A1st");
   const ControlDesign& longOne = g->Controls()[2];
   w.MakeControlName(longOne);
   w.MakeControlName(longOne);
-  EXPECT_EQ(s_.CurrentControlName, std::string(40, 'n') + "A");
+  EXPECT_EQ(s_.Form().CurrentControlName, std::string(40, 'n') + "A");
   // Past 27 collisions the name is cut to 38 characters and gets an "A".
   for (int i = 0; i < 30; ++i) w.MakeControlName(text1);
   EXPECT_EQ(w.Text().UsedControlNames.size(), 36u);
@@ -219,11 +220,11 @@ TEST_F(FormWriterTest, ADesignThatCannotBeOpenedWritesNothing) {
   std::string err;
   EXPECT_FALSE(w.ConvertForm("Missing", &err));
   EXPECT_FALSE(err.empty());
-  EXPECT_FALSE(std::filesystem::exists(dir_ / "Missing.frm"));
+  EXPECT_TRUE(s_.Form().Text.Empty());
   s_.OptionWordLength = 0;
   texts_["Here"] = Form("", Detail(""));
   EXPECT_FALSE(FormWriter(s_, store_).ConvertForm("Here"));
-  EXPECT_FALSE(std::filesystem::exists(dir_ / "Here.frm"));
+  EXPECT_TRUE(s_.Form().Text.Empty());
 }
 
 }  // namespace

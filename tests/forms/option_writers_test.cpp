@@ -308,8 +308,8 @@ End
 }
 
 TEST_F(OptionWriters, SheridanOptionSetOnABoundForm) {
-  s_.SsOptionSet = true;
-  s_.ListboxType = 3;
+  s_.Options.SsOptionSet = true;
+  s_.Options.ListboxType = 3;
   AddForm("frmTest", FormText(kShipGroup, "    RecordSource =\"Orders\"\n"));
   Stand("fraShip");
   WriteOptionGroup(w_);
@@ -357,7 +357,7 @@ End
 }
 
 TEST_F(OptionWriters, SheridanOptionSetNeedsABoundForm) {
-  s_.SsOptionSet = true;
+  s_.Options.SsOptionSet = true;
   AddForm("frmTest", FormText(kShipGroup));
   Stand("fraShip");
   WriteOptionGroup(w_);

@@ -17,6 +17,7 @@
 #include "platform/text_file.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
+#include "support/hint_text.h"
 #include "support/temp_dir.h"
 
 namespace morvane::test {
@@ -116,8 +117,8 @@ class WriterHarness : public ::testing::Test {
     EXPECT_NE(t.CurrentForm, nullptr) << err;
     t.CurrentControl = t.CurrentForm ? t.CurrentForm->Control(control) : nullptr;
     EXPECT_NE(t.CurrentControl, nullptr) << "no control " << control;
-    t.DetailTop = detailTop;
-    t.SectionOffset = detailTop;
+    t.Place.DetailTop = detailTop;
+    t.Place.SectionOffset = detailTop;
     return *t.CurrentControl;
   }
 
@@ -128,9 +129,10 @@ class WriterHarness : public ::testing::Test {
     if (body.compare(0, 2, "\r\n") == 0) body.erase(0, 2);
     return body;
   }
+  // The text of the records the writers left since the last call.
   std::string HintText() {
-    std::string hints = s_.HintText;
-    s_.HintText.clear();
+    std::string hints = test::HintText(s_.Form().Hints);
+    s_.Form().Hints.clear();
     return hints;
   }
 

@@ -4,11 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <map>
 #include <set>
 
 #include "macros/macro_tables.h"
 #include "platform/catalog.h"
+#include "platform/output_directory.h"
 #include "platform/source_tree.h"
 #include "platform/support_db.h"
 #include "session/conversion_session.h"
@@ -66,11 +68,10 @@ class MacroConversion : public ::testing::Test {
     s_.AccessApp = tree_.get();
     s_.SupportDb = db_.get();
     s_.OutputPath = (root_ / "out").string() + "/";
+    output_ = std::make_unique<OutputDirectory>(root_ / "out");
+    s_.Output = output_.get();
   }
-  std::string Convert() {
-    MacroConverterImpl().ConvertMacros(s_, s_.OutputPath);
-    return ReadFile(root_ / "out" / "macro.txt");
-  }
+  std::string Convert() { return MacroConverterImpl().ConvertMacros(s_).Bytes(); }
   // The statements of a one-action macro "M": the body between the error
   // frame's head and its exit label.
   std::string Statement(const std::string& row) {
@@ -96,8 +97,35 @@ class MacroConversion : public ::testing::Test {
   std::unique_ptr<SourceTree> tree_;
   std::unique_ptr<MemoryCatalog> catalog_;
   std::unique_ptr<SupportDatabase> db_;
+  std::unique_ptr<OutputDirectory> output_;
   ConversionSession s_;
 };
+
+// Enumerated arguments are looked up by Val of the stored text.
+TEST(MacroVal, ReadsTheLeadingNumberAsVisualBasicDoes) {
+  const std::pair<const char*, double> cases[] = {
+      {"2", 2},
+      {" 1615 198th Street", 1615198},
+      {"\t-3.5e2x", -350},
+      {"- 4", -4},
+      {"1d2", 100},
+      {"2e", 2},
+      {".5", 0.5},
+      {"12345678901234567890", 12345678901234567890.0},
+      {"99999999999999999999999", 1e23},
+      {"&HFFFF", -1},
+      {"&H10000", 65536},
+      {"&HFFFFFFFF", -1},
+      {"&o17", 15},
+      {"&H1FFFFFFFF", 0},
+      {"abc", 0},
+      {"", 0},
+      {"-", 0},
+  };
+  for (const auto& [text, value] : cases) EXPECT_EQ(Val(text), value) << text;
+  EXPECT_TRUE(std::isinf(Val("1" + std::string(400, '0'))));
+  EXPECT_EQ(Val("1e-999"), 0);
+}
 
 TEST_F(MacroConversion, PlainMacroGivesOneFunctionWithItsErrorFrame) {
   Open({{"Close All", Comment("Close the forms") + Row("Close", {"2", "frmOrders", "0"})}});
@@ -193,6 +221,8 @@ TEST_F(MacroConversion, RunMacroSetValueAndExpressionArguments) {
   // An enumeration value without a row gives an empty argument.
   EXPECT_EQ(Statement(Row("Quit", {"7"})), "DoCmd.Quit");
   EXPECT_EQ(Statement(Row("Close", {"-1", "", "0"})), "DoCmd.Close , \"\"");
+  EXPECT_EQ(Statement(Row("Close", {"98765432109876543210", "frmOrders", "0"})),
+            "DoCmd.Close , \"frmOrders\"");
 }
 
 TEST_F(MacroConversion, StartupFormIsNotedAndNothingElseIsLeftBehind) {
@@ -205,7 +235,7 @@ TEST_F(MacroConversion, StartupFormIsNotedAndNothingElseIsLeftBehind) {
     (void)e;
     ++files;
   }
-  EXPECT_EQ(files, 3u);  // macro.txt, _Startup.txt, morvane.db
+  EXPECT_EQ(files, 2u);  // _Startup.txt, morvane.db
 }
 
 TEST_F(MacroConversion, NeedsContextLooksAtEveryFinishedProcedureOfTheGroup) {

@@ -5,10 +5,14 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+#include <memory>
 #include <random>
 
+#include "platform/jet_guarded_read.h"
 #include "platform/jet_query_sql.h"
 #include "session/strings.h"
+#include "support/fixtures.h"
 #include "support/temp_dir.h"
 
 namespace morvane {
@@ -19,7 +23,7 @@ using test::ReadFile;
 using test::TempDir;
 using test::WriteFile;
 
-fs::path Fixture(const char* name) { return fs::path(MORVANE_FIXTURES_DIR) / name; }
+fs::path Fixture(const char* name) { return test::JetFixtures() / name; }
 
 // A working copy of a fixture; reading a database must change neither file.
 struct Copied {
@@ -51,6 +55,7 @@ std::vector<std::string> Names(const std::vector<TableInfo>& tables) {
 }
 
 TEST(JetCatalog, TablesAndFieldsWithDaoTypesAndSizes) {
+  MORVANE_NEED_JET_FIXTURES();
   Copied db("jet4-datetest.mdb");
   auto cat = OpenCopy(db);
   ASSERT_TRUE(cat);
@@ -76,6 +81,7 @@ TEST(JetCatalog, TablesAndFieldsWithDaoTypesAndSizes) {
 }
 
 TEST(JetCatalog, SavedQueryWithTypeAndSql) {
+  MORVANE_NEED_JET_FIXTURES();
   Copied db("jet4-banco-horas.mdb");
   auto cat = OpenCopy(db);
   ASSERT_TRUE(cat);
@@ -93,6 +99,7 @@ TEST(JetCatalog, SavedQueryWithTypeAndSql) {
 }
 
 TEST(JetCatalog, ContainersInNameOrderWithoutTemporaryObjects) {
+  MORVANE_NEED_JET_FIXTURES();
   Copied events("jet4-subform-events.mdb");
   auto cat = OpenCopy(events);
   ASSERT_TRUE(cat);
@@ -113,6 +120,7 @@ TEST(JetCatalog, ContainersInNameOrderWithoutTemporaryObjects) {
 }
 
 TEST(JetCatalog, AnAccess97FileOpensAndSaysItsVersion) {
+  MORVANE_NEED_JET_FIXTURES();
   Copied db("jet3-northwind-de.mdb");
   auto cat = OpenCopy(db);
   ASSERT_TRUE(cat);
@@ -165,6 +173,7 @@ TEST(JetCatalog, AnAccess97FileOpensAndSaysItsVersion) {
 }
 
 TEST(JetCatalog, DatabasePropertiesAsDaoReadsThem) {
+  MORVANE_NEED_JET_FIXTURES();
   struct Case {
     const char* file;
     const char* name;
@@ -187,6 +196,7 @@ TEST(JetCatalog, DatabasePropertiesAsDaoReadsThem) {
 }
 
 TEST(JetCatalog, PropertyWritesGoToTheOverlayAndNeverToTheFile) {
+  MORVANE_NEED_JET_FIXTURES();
   Copied db("jet3-northwind-de.mdb");
   const fs::path overlay = db.dir / "copy.properties";
   {
@@ -220,6 +230,7 @@ TEST(JetCatalog, PropertyWritesGoToTheOverlayAndNeverToTheFile) {
 }
 
 TEST(JetCatalog, MissingOrDamagedFilesGiveAClearError) {
+  MORVANE_NEED_JET_FIXTURES();
   TempDir dir;
   const std::string bytes = ReadFile(Fixture("jet4-datetest.mdb"));
   std::string foreign = bytes;
@@ -255,6 +266,7 @@ TEST(JetCatalog, MissingOrDamagedFilesGiveAClearError) {
 // A property block whose first chunk claims a length of zero sends libmdb
 // round the same bytes for ever; the reading is stopped and the file named.
 TEST(JetCatalog, AFileThatKeepsTheReaderLoopingIsRefused) {
+  MORVANE_NEED_JET_FIXTURES();
   TempDir dir;
   std::string bytes = ReadFile(Fixture("jet4-banco-horas.mdb"));
   const size_t block = bytes.find(std::string("MR2\0", 4));
@@ -271,6 +283,7 @@ TEST(JetCatalog, AFileThatKeepsTheReaderLoopingIsRefused) {
 // Random damage anywhere after the first page: every copy either opens or is
 // refused with a message naming it; none takes the process down.
 TEST(JetCatalog, RandomDamageNeverCrashesTheCaller) {
+  MORVANE_NEED_JET_FIXTURES();
   TempDir dir;
   const std::string bytes = ReadFile(Fixture("jet4-cadastros.mdb"));
   std::mt19937 rng(20240601);
@@ -283,8 +296,31 @@ TEST(JetCatalog, RandomDamageNeverCrashesTheCaller) {
     WriteFile(file, damaged);
     std::string err;
     auto cat = JetCatalog::Open(file, {}, &err, std::chrono::milliseconds(1500));
-    if (!cat) EXPECT_EQ(err.rfind(file.string() + ": ", 0), 0u) << err;
+    if (!cat) {
+      EXPECT_EQ(err.rfind(file.string() + ": ", 0), 0u) << err;
+    }
   }
+}
+
+// Stands in for libmdb over a file that makes it allocate without end: it
+// takes memory (and uses it) until an allocation fails, or gives up after
+// far more than the guard allows and reports an empty database.
+bool AllocateWithoutEnd(const fs::path&, JetContents*, std::string*) {
+  constexpr size_t kBlock = size_t{32} << 20;
+  std::vector<std::unique_ptr<char[]>> held;
+  for (size_t total = 0; total < (size_t{768} << 20); total += kBlock) {
+    held.emplace_back(new char[kBlock]);
+    std::memset(held.back().get(), 1, kBlock);
+  }
+  return true;
+}
+
+TEST(JetCatalog, AReaderThatTakesMemoryWithoutEndIsStoppedAsADamagedFile) {
+  JetContents out;
+  std::string err;
+  EXPECT_FALSE(ReadJetContentsGuarded("/data/grows.mdb", std::chrono::seconds(60),
+                                      size_t{128} << 20, AllocateWithoutEnd, &out, &err));
+  EXPECT_EQ(err, "/data/grows.mdb: the database is damaged (reading its catalog failed)");
 }
 
 TEST(JetCatalog, TheUsersMessagesAreTheSessionsOwn) {

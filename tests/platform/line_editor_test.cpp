@@ -1,5 +1,4 @@
-// The line-editing operations and the re-indenter, on files in a temporary
-// directory.
+// The line-editing operations and the re-indenter, on text documents.
 #include "platform/line_editor.h"
 
 #include <gtest/gtest.h>
@@ -15,10 +14,9 @@ using test::TempDir;
 using test::WriteFile;
 
 struct FileFixture {
-  TempDir dir;
-  std::filesystem::path file = dir / "f.frm";
-  explicit FileFixture(const std::string& text) { WriteFile(file, Crlf(text)); }
-  std::string Text() const { return ReadFile(file); }
+  TextDocument file;
+  explicit FileFixture(const std::string& text) : file(TextDocument::FromBytes(Crlf(text))) {}
+  std::string Text() const { return file.Bytes(); }
 };
 
 TEST(IsDuplicateLine, CountsWholeLinesWhateverTheirIndentAndCase) {
@@ -27,7 +25,6 @@ TEST(IsDuplicateLine, CountsWholeLinesWhateverTheirIndentAndCase) {
   EXPECT_EQ(IsDuplicateLine(f.file, "x = 1"), 1);
   EXPECT_EQ(IsDuplicateLine(f.file, "x = 1 ' note"), 0);
   EXPECT_EQ(IsDuplicateLine(f.file, "Private Sub Form"), 0);
-  EXPECT_EQ(IsDuplicateLine(f.dir / "missing.frm", "x = 1"), 0);
 }
 
 TEST(InsertLine, PlacementZeroReadsInReverseOrderOfTheCalls) {
@@ -52,9 +49,7 @@ TEST(InsertLine, AMissingAnchorLeavesTheFileAsItWas) {
   const std::string before = f.Text();
   InsertLine(f.file, "Private Sub B()", "x", 0);
   InsertLine(f.file, "Private Sub B()", "x", 1);
-  InsertLine(f.dir / "missing.frm", "Private Sub A()", "x", 0);
   EXPECT_EQ(f.Text(), before);
-  EXPECT_FALSE(std::filesystem::exists(f.dir / "missing.frm"));
 }
 
 TEST(InsertLine, TheMdiParentHeaderLinesGoToTheTop) {

@@ -68,21 +68,20 @@ TEST(ProjectModel, AddingAComponentAgainReplacesItInPlace) {
 }
 
 TEST(CodeModule, WorksOnTheCodeBehindTheHeader) {
-  TempDir dir;
-  const auto file = dir / "frmC.frm";
-  WriteFile(file, Crlf("VERSION 5.00\n"
-                       "Begin VB.Form frmC\n"
-                       "   Begin VB.TextBox txt\n"
-                       "   End\n"
-                       "End\n"
-                       "Attribute VB_Name = \"frmC\"\n"
-                       "Attribute VB_Exposed = False\n"
-                       "Option Explicit\n"
-                       "Dim x As Integer\n"
-                       "' Loads the form\n"
-                       "Private Sub Form_Load()\n"
-                       "End Sub\n"));
-  CodeModule code(file);
+  TextDocument file =
+      TextDocument::FromBytes(Crlf("VERSION 5.00\n"
+                                   "Begin VB.Form frmC\n"
+                                   "   Begin VB.TextBox txt\n"
+                                   "   End\n"
+                                   "End\n"
+                                   "Attribute VB_Name = \"frmC\"\n"
+                                   "Attribute VB_Exposed = False\n"
+                                   "Option Explicit\n"
+                                   "Dim x As Integer\n"
+                                   "' Loads the form\n"
+                                   "Private Sub Form_Load()\n"
+                                   "End Sub\n"));
+  CodeModule code(&file);
   EXPECT_EQ(code.CountOfLines(), 5);
   EXPECT_EQ(code.CountOfDeclarationLines(), 2);
   EXPECT_EQ(code.Lines(1, 2), "Option Explicit\r\nDim x As Integer");
@@ -95,8 +94,8 @@ TEST(CodeModule, WorksOnTheCodeBehindTheHeader) {
   code.DeleteLines(1, 1);
   EXPECT_EQ(code.Lines(1, 1), "Dim x As Integer");
   // The designer block and attributes are untouched.
-  EXPECT_EQ(ReadFile(file).substr(0, 13), "VERSION 5.00\r");
-  EXPECT_NE(ReadFile(file).find("Attribute VB_Exposed = False\r\nDim x As Integer\r\n"),
+  EXPECT_EQ(file.Bytes().substr(0, 13), "VERSION 5.00\r");
+  EXPECT_NE(file.Bytes().find("Attribute VB_Exposed = False\r\nDim x As Integer\r\n"),
             std::string::npos);
 }
 
@@ -136,11 +135,10 @@ namespace {
 
 TEST(CodeModule, AClassHeaderClosedByEndInEitherCase) {
   for (const char* end : {"END", "End"}) {
-    test::TempDir dir;
-    test::WriteFile(dir / "c.bas",
-                    test::Crlf(std::string("VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1  'True\n") +
-                               end + "\nAttribute VB_Name = \"c\"\nOption Explicit\n"));
-    CodeModule code(dir / "c.bas");
+    TextDocument text = TextDocument::FromBytes(
+        test::Crlf(std::string("VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1  'True\n") + end +
+                   "\nAttribute VB_Name = \"c\"\nOption Explicit\n"));
+    CodeModule code(&text);
     EXPECT_EQ(code.CountOfLines(), 1) << end;
     EXPECT_EQ(code.Lines(1, 1), "Option Explicit") << end;
   }

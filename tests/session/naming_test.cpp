@@ -63,41 +63,23 @@ TEST(StartsWithLetter, OnlyAsciiLetters) {
 }
 
 TEST(OptionWord, PacksElevenDigitsInTheirPositions) {
-  ConversionSession s;
-  s.IsVb5 = true;
-  s.ListboxType = 3;
-  s.ListboxBound = true;
-  s.ComboboxType = 2;
-  s.ComboboxBound = false;
-  s.StandardControls = false;
-  s.IsMdi = true;
-  s.WantRelativePaths = false;
-  s.WantSsOptionSet = true;
-  s.UseAdo = true;
-  s.WantDatePicker = false;
-  EXPECT_EQ(PackOptionWord(s), "13120010110");
-}
-
-TEST(OptionWord, UnpackingSetsTheWalkersFieldsAndTheLength) {
-  ConversionSession s;
-  UnpackOptionWord(s, "/out/", "05041111011");
-  EXPECT_EQ(s.OutputPath, "/out/");
-  EXPECT_EQ(s.OptionWordLength, 11);
-  EXPECT_FALSE(s.IsVb5);
-  EXPECT_EQ(s.ListboxType, 5);
-  EXPECT_FALSE(s.ListboxBound);
-  EXPECT_EQ(s.ComboboxType, 4);
-  EXPECT_TRUE(s.ComboboxBound);
-  EXPECT_TRUE(s.RelativePaths);
-  EXPECT_FALSE(s.SsOptionSet);
-  EXPECT_TRUE(s.DatePicker);
-}
-
-TEST(OptionWord, AShortWordLeavesDatePickerOnAndMarksTheSession) {
+  RunOptions o;
+  o.IsVb5 = true;
+  o.ListboxType = 3;
+  o.ListboxBound = true;
+  o.ComboboxType = 2;
+  o.ComboboxBound = false;
+  o.StandardControls = false;
+  o.IsMdi = true;
+  o.RelativePaths = false;
+  o.SsOptionSet = true;
+  o.UseAdo = true;
+  o.DatePicker = false;
+  EXPECT_EQ(PackOptionWord(o), "13120010110");
   ConversionSession s;
   UnpackOptionWord(s, "/out/", "0504111010");
+  EXPECT_EQ(s.OutputPath, "/out/");
   EXPECT_EQ(s.OptionWordLength, 10);
-  EXPECT_TRUE(s.DatePicker);
 }
 
 }  // namespace

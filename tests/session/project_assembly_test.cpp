@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "platform/catalog.h"
+#include "platform/output_directory.h"
 #include "platform/project_model.h"
 #include "session/conversion_session.h"
 #include "session/driver.h"
@@ -20,11 +21,16 @@ using test::WriteFile;
 
 class RecordingCode : public CodeConverter {
  public:
-  void ExportModuleText(ConversionSession&, const std::string&, int) override {}
-  void TranslateCode(ConversionSession&, std::string&, int) override {}
-  void MoveDeclarationBlocks(ConversionSession&) override {}
-  void WriteFormLookup(ConversionSession&) override { calls += "lookup;"; }
-  void WriteConversionCode(ConversionSession&) override { calls += "code;"; }
+  bool ExportModuleText(ConversionSession&, const std::string&, int, TextDocument&) override {
+    return false;
+  }
+  TextDocument TranslateCode(ConversionSession&, const TextDocument&, const std::string&,
+                             int) override {
+    return {};
+  }
+  void MoveDeclarationBlocks(ConversionSession&, const std::string&) override {}
+  void WriteFormLookup(ConversionSession&, TextDocument&) override { calls += "lookup;"; }
+  void WriteConversionCode(ConversionSession&, TextDocument&) override { calls += "code;"; }
   std::vector<std::string> UnbuiltStages() const override { return {}; }
   std::string calls;
 };
@@ -34,6 +40,7 @@ struct Fixture {
   ConversionSession s;
   MemoryCatalog db;
   ProjectModel project;
+  OutputDirectory output{dir / "out"};
   RecordingCode code;
   Converters c;
   RunSummary summary;
@@ -44,12 +51,13 @@ struct Fixture {
     WriteFile(dir / "data" / "MDIParent.frm",
               "Begin VB.MDIForm MDIParent\r\nEnd\r\nAttribute VB_Name = \"MDIParent\"\r\n");
     fs::create_directories(dir / "out");
-    s.DataDir = dir / "data";
+    s.Options.DataDir = dir / "data";
     s.OutputPath = (dir / "out").string() + "/";
     s.ProjectName = "Orders";
-    s.AdoConnect = "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=Orders.mdb";
+    s.Options.AdoConnect = "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=Orders.mdb";
     s.SourceDb = &db;
     s.ActiveProject = &project;
+    s.Output = &output;
     c.Code = &code;
   }
 
@@ -71,7 +79,7 @@ struct Fixture {
 
 TEST(SubMain, MdiParentThenAutoexecThenTheStartupForm) {
   Fixture f;
-  f.s.IsMdi = true;
+  f.s.Options.IsMdi = true;
   f.db.Containers["Scripts"] = {"mcrRefresh", "AUTOEXEC", "autoexec"};
   f.s.StartupFormName = "Order Entry";
   const std::string copy = f.s.OutputPath + "Orders.mdb";
@@ -88,7 +96,7 @@ TEST(SubMain, MdiParentThenAutoexecThenTheStartupForm) {
 TEST(SubMain, NoStartupLineForNoneOrEmpty) {
   for (const char* startup : {"", "(none)"}) {
     Fixture f;
-    f.s.IsMdi = false;
+    f.s.Options.IsMdi = false;
     f.s.StartupFormName = startup;
     auto lines = f.SubMain();
     ASSERT_GE(lines.size(), 2u);
@@ -99,11 +107,11 @@ TEST(SubMain, NoStartupLineForNoneOrEmpty) {
 
 TEST(SubMain, ASecuredDatabaseOpensThroughAWorkspace) {
   Fixture f;
-  f.s.IsMdi = false;
-  f.s.SecurityDisabled = false;
-  f.s.WorkgroupFile = "C:\\sec\\system.mdw";
-  f.s.UserName = "dev";
-  f.s.Password = "pw";
+  f.s.Options.IsMdi = false;
+  f.s.Options.SecurityDisabled = false;
+  f.s.Options.WorkgroupFile = "C:\\sec\\system.mdw";
+  f.s.Options.UserName = "dev";
+  f.s.Options.Password = "pw";
   auto lines = f.SubMain();
   ASSERT_GE(lines.size(), 5u);
   EXPECT_EQ(lines[2], "    DBEngine.SystemDB = \"C:\\sec\\system.mdw\"");
@@ -114,18 +122,18 @@ TEST(SubMain, ASecuredDatabaseOpensThroughAWorkspace) {
 TEST(SubMain, AnAccessDataProjectHasOnlyTheConnection) {
   Fixture f;
   f.s.IsAdp = true;
-  f.s.IsMdi = true;
+  f.s.Options.IsMdi = true;
   f.db.Containers["Scripts"] = {"Autoexec"};
   f.s.StartupFormName = "frmMain";
-  EXPECT_EQ(f.SubMain(),
-            (std::vector<std::string>{
-                "Public Sub Main()", "", "    Set pconn = new ADODB.Connection",
-                "    pconn.open \"" + f.s.AdoConnect + "\"", "", "    MDIParent.Show", "End Sub"}));
+  EXPECT_EQ(f.SubMain(), (std::vector<std::string>{
+                             "Public Sub Main()", "", "    Set pconn = new ADODB.Connection",
+                             "    pconn.open \"" + f.s.Options.AdoConnect + "\"", "",
+                             "    MDIParent.Show", "End Sub"}));
 }
 
 TEST(ProjectAssembly, MdiParentGetsItsHeaderAndReferencesComeOnce) {
   Fixture f;
-  f.s.IsMdi = true;
+  f.s.Options.IsMdi = true;
   f.db.Refs = {{"DAO", "{00025E01-0000-0000-C000-000000000046}", 5, 0},
                {"DAO again", "{00025e01-0000-0000-c000-000000000046}", 5, 0}};
   AssembleProject(f.s, f.c, f.summary);
@@ -150,15 +158,6 @@ TEST(ProjectAssembly, DaoJoinsWhenTheSourceDoesNotReferenceIt) {
   ASSERT_EQ(f.project.References().size(), 3u);
   EXPECT_EQ(f.project.References()[2].Guid, "{00025E01-0000-0000-C000-000000000046}");
   EXPECT_EQ(f.project.References()[2].Major, 5);
-}
-
-TEST(ProjectAssembly, AProjectThatHasTheConversionCodeKeepsItsSubMain) {
-  Fixture f;
-  f.s.NeedConversionCode = false;
-  WriteFile(f.dir / "out" / "MorvaneConversionCode.bas", "kept\r\n");
-  AssembleProject(f.s, f.c, f.summary);
-  EXPECT_EQ(ReadFile(f.dir / "out" / "MorvaneConversionCode.bas"), "kept\r\n");
-  EXPECT_EQ(f.code.calls, "code;");
 }
 
 TEST(ProjectAssembly, AMissingBaseTextIsReportedNotSkipped) {

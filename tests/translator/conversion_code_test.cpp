@@ -44,28 +44,19 @@ std::string Template(int id) { return ConversionCodeTemplate(kDataDir, id); }
 // An output directory holding the base text as the driver copies it, and a
 // session and project that point at it.
 struct ConversionCodeRun {
-  TempDir dir;
-  ProjectModel project;
   ConversionSession s;
-  fs::path file;
+  TextDocument file;
   std::string base;
 
   ConversionCodeRun() {
-    s.OutputPath = dir.path().string() + "/";
-    s.DataDir = kDataDir;
-    s.ActiveProject = &project;
-    file = dir / "MorvaneConversionCode.bas";
+    s.Options.DataDir = kDataDir;
     base = ReadFile(kDataDir / "MorvaneConversionCode.bas");
-    WriteFile(file, base);
+    file = TextDocument::FromBytes(base);
   }
-  std::string Text() const { return ReadFile(file); }
+  std::string Text() const { return file.Bytes(); }
+  void SetText(const std::string& text) { file = TextDocument::FromBytes(text); }
   void Ask(std::initializer_list<int> flags) {
     for (int n : flags) s.ListControlsUsed[n] = true;
-  }
-  int ComponentCount() const {
-    int count = 0;
-    for (const auto& c : project.Components()) count += c.Name == "MorvaneConversionCode";
-    return count;
   }
 };
 
@@ -91,15 +82,13 @@ TEST(ConversionCodeBaseText, StaysValidWithLookupSubMainAndTemplates) {
     SCOPED_TRACE(sysCmd);
     ConversionCodeRun run;
     run.s.FormList = {"", "Orders", "1st"};
-    WriteFormLookup(run.s);
-    AppendFileBytes(
-        run.file,
+    WriteFormLookup(run.s, run.file);
+    run.file.Append(
         Crlf("\nPublic Sub Main()\n\n    Set db = DBEngine(0).OpenDatabase(\"C:\\o\\p.mdb\")\n"
              "    Set pconn = new ADODB.Connection\n    pconn.open \"x\"\n\n"
-             "    MDIParent.Show\nEnd Sub\n"),
-        nullptr);
+             "    MDIParent.Show\nEnd Sub\n"));
     for (int n = 0; n < kConversionTemplateCount; ++n) run.s.ListControlsUsed[n] = n != 13 - sysCmd;
-    WriteConversionCode(run.s);
+    WriteConversionCode(run.s, run.file);
     const std::string text = run.Text();
     EXPECT_TRUE(AllCrLf(text));
     EXPECT_EQ(CheckVb6Structure("MorvaneConversionCode.bas", text), std::vector<std::string>{});
@@ -139,12 +128,10 @@ TEST(MdiParentTemplate, IsAnMdiFormOnceTheDriverAddsItsHeader) {
 }
 
 TEST(MdiParentTemplate, TakesItsHeaderFromTheLineEditorAsTheDriverCallsIt) {
-  TempDir dir;
-  const fs::path copy = dir / "MDIParent.frm";
-  WriteFile(copy, ReadFile(kDataDir / "MDIParent.frm"));
+  TextDocument copy = TextDocument::FromBytes(ReadFile(kDataDir / "MDIParent.frm"));
   InsertLine(copy, " ", "VERSION 5.00", 1);
   InsertLine(copy, "VERSION 5.00", kMdiObjectLine, 1);
-  const std::string text = ReadFile(copy);
+  const std::string text = copy.Bytes();
   const std::vector<std::string> lines = SplitLines(text);
   ASSERT_GE(lines.size(), 3u);
   EXPECT_EQ(lines[0], "VERSION 5.00");
@@ -308,25 +295,23 @@ TEST(ConversionCodeTemplates, OnlyTheStatusBarSysCmdNeedsTheMdiParent) {
 TEST(WriteConversionCode, AddsExactlyTheRequestedTemplatesInIdOrder) {
   ConversionCodeRun run;
   run.Ask({20, 9, 0});
-  WriteConversionCode(run.s);
+  WriteConversionCode(run.s, run.file);
   EXPECT_EQ(run.Text(),
             run.base + "\r\n" + Template(700) + "\r\n" + Template(709) + "\r\n" + Template(720));
-  EXPECT_EQ(run.ComponentCount(), 1);
   EXPECT_EQ(CheckVb6Structure("MorvaneConversionCode.bas", run.Text()), std::vector<std::string>{});
 }
 
 TEST(WriteConversionCode, ASecondRunIntoTheSameDirectoryAddsNoTemplateTwice) {
   ConversionCodeRun run;
   run.Ask({9});
-  WriteConversionCode(run.s);
+  WriteConversionCode(run.s, run.file);
   const std::string once = run.Text();
-  WriteConversionCode(run.s);
+  WriteConversionCode(run.s, run.file);
   EXPECT_EQ(run.Text(), once);
 
   run.Ask({10});
-  WriteConversionCode(run.s);
+  WriteConversionCode(run.s, run.file);
   EXPECT_EQ(run.Text(), once + "\r\n" + Template(710));
-  EXPECT_EQ(run.ComponentCount(), 1);
 }
 
 TEST(WriteConversionCode, KeepsAProcedureTheFileAlreadyDefines) {
@@ -335,36 +320,34 @@ TEST(WriteConversionCode, KeepsAProcedureTheFileAlreadyDefines) {
   ConversionCodeRun run;
   std::string touched;
   for (const auto& line : SplitLines(Template(706))) touched += "\t" + line + "\r\n";
-  WriteFile(run.file, run.base + touched);
+  run.SetText(run.base + touched);
   run.Ask({6, 7});
-  WriteConversionCode(run.s);
+  WriteConversionCode(run.s, run.file);
   EXPECT_EQ(run.Text(), run.base + touched);
 }
 
-TEST(WriteConversionCode, WithNoFlagOnlyTheModuleRejoinsTheProject) {
+TEST(WriteConversionCode, WithNoFlagNothingIsAdded) {
   ConversionCodeRun run;
   run.s.FormList = {"", "Orders"};
-  WriteFormLookup(run.s);
+  WriteFormLookup(run.s, run.file);
   const std::string before = run.Text();
-  run.project.AddFile(run.file);
-  WriteConversionCode(run.s);
+  WriteConversionCode(run.s, run.file);
   EXPECT_EQ(run.Text(), before);
-  EXPECT_EQ(run.ComponentCount(), 1);
 }
 
 TEST(WriteConversionCode, StartsOnANewLineBehindAnUnfinishedLastLine) {
   ConversionCodeRun run;
-  WriteFile(run.file, run.base + "End Sub");
+  run.SetText(run.base + "End Sub");
   run.Ask({8});
-  WriteConversionCode(run.s);
+  WriteConversionCode(run.s, run.file);
   EXPECT_EQ(run.Text(), run.base + "End Sub\r\n\r\n" + Template(708));
 }
 
 TEST(WriteFormLookup, ListsTheSelectedForms) {
   ConversionCodeRun run;
-  WriteFile(run.file, "Attribute VB_Name = \"MorvaneConversionCode\"\r\n");
+  run.SetText("Attribute VB_Name = \"MorvaneConversionCode\"\r\n");
   run.s.FormList = {"", "Orders", "1st", "Order Details", ""};
-  WriteFormLookup(run.s);
+  WriteFormLookup(run.s, run.file);
   EXPECT_EQ(
       run.Text(),
       Crlf("Attribute VB_Name = \"MorvaneConversionCode\"\n"
@@ -383,10 +366,10 @@ TEST(WriteFormLookup, ListsTheSelectedForms) {
 
 TEST(WriteFormLookup, CutsLongNamesAsTheFormFilesAreCut) {
   ConversionCodeRun run;
-  WriteFile(run.file, "");
+  run.SetText("");
   const std::string letters = "Abcdefghijklmnopqrstuvwxyzabcdefghijklmnopqrs";  // 45
   run.s.FormList = {"", letters, "9" + letters};
-  WriteFormLookup(run.s);
+  WriteFormLookup(run.s, run.file);
   const std::string text = run.Text();
   EXPECT_TRUE(HasLine(
       text, "        Case \"" + letters + "\": Set GetFormFromName = " + letters.substr(0, 40)));
@@ -486,13 +469,11 @@ TEST(ListInitialisers, CallTheHelperOfTheChosenType) {
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
-    TempDir dir;
     ConversionSession s;
-    s.CurrentFile = (dir / "frmA.frm").string();
-    WriteFile(s.CurrentFile, Crlf(kFormText));
-    s.ListboxType = c.type;
-    s.ComboboxType = c.type;
-    s.PlainListControl = c.plain;
+    s.Form().Text = TextDocument::FromBytes(Crlf(kFormText));
+    s.Options.ListboxType = c.type;
+    s.Options.ComboboxType = c.type;
+    s.Form().PlainListControl = c.plain;
     if (c.isList)
       WriteListBoxInit(s, "qryA", "lstA", c.isValueList);
     else
@@ -500,31 +481,29 @@ TEST(ListInitialisers, CallTheHelperOfTheChosenType) {
 
     const std::string header = c.isList ? "Private Function InitializeListBoxes()"
                                         : "Private Function InitializeComboBoxes()";
-    EXPECT_EQ(ReadFile(s.CurrentFile),
+    EXPECT_EQ(s.Form().Text.Bytes(),
               Crlf(kFormText) + header + "\r\n" + c.call + "\r\nEnd Function\r\n");
     std::set<int> flags;
     for (int n = 0; n < kConversionTemplateCount; ++n)
       if (s.ListControlsUsed[n]) flags.insert(n);
     EXPECT_EQ(flags, c.flags);
-    EXPECT_EQ(s.InitCalls[0], c.isList);
-    EXPECT_EQ(s.InitCalls[1], !c.isList);
-    EXPECT_FALSE(s.InitCalls[2]);
+    EXPECT_EQ(s.Form().InitCalls[0], c.isList);
+    EXPECT_EQ(s.Form().InitCalls[1], !c.isList);
+    EXPECT_FALSE(s.Form().InitCalls[2]);
   }
 }
 
 TEST(ListInitialisers, LaterControlsJoinTheFunctionInTheOrderOfTheirCalls) {
-  TempDir dir;
   ConversionSession s;
-  s.CurrentFile = (dir / "frmA.frm").string();
-  WriteFile(s.CurrentFile, Crlf(kFormText));
-  s.ListboxType = 5;
-  s.ComboboxType = 4;
+  s.Form().Text = TextDocument::FromBytes(Crlf(kFormText));
+  s.Options.ListboxType = 5;
+  s.Options.ComboboxType = 4;
   WriteListBoxInit(s, "qryA", "lstA", false);
   WriteComboBoxInit(s, "Red;Green", "cboA", true);
   WriteListBoxInit(s, "SELECT a FROM t WHERE b = \"\"x\"\"", "lstB", false);
   WriteComboBoxInit(s, "qryC", "cboC", false);
 
-  const std::string text = ReadFile(s.CurrentFile);
+  const std::string text = s.Form().Text.Bytes();
   EXPECT_EQ(CheckVb6Structure("frmA.frm", text), std::vector<std::string>{});
   const std::vector<std::string> lines = SplitLines(text);
   const std::vector<std::string> code(lines.begin() + 7, lines.end());

@@ -62,7 +62,12 @@ class ModuleExport : public ::testing::Test {
     s.OutputPath = dir.path().string() + "/";
     s.AccessApp = &tree;
   }
-  std::string Output(const std::string& fileName) { return test::ReadFile(dir / fileName); }
+  // The text module export gives for `name`, appended to `into`.
+  std::string Export(const std::string& name, int mode, const std::string& into = "") {
+    TextDocument text = TextDocument::FromBytes(into);
+    ExportModuleText(s, name, mode, text);
+    return text.Bytes();
+  }
 
   test::TempDir dir;
   FakeSourceTree tree;
@@ -72,21 +77,21 @@ class ModuleExport : public ::testing::Test {
 TEST_F(ModuleExport, AStandardModuleGetsItsOwnFileUnderItsSafeName) {
   tree.Add(AccessObjectKind::Module, "Order Details", 0,
            {"Option Compare Database", "Option Explicit", "Public Sub A()", "End Sub"}, 2);
-  ExportModuleText(s, "Order Details", kModeModule);
-  EXPECT_EQ(Output("MODU_Order Details.txt"), test::Crlf("Attribute VB_Name = \"Order_Details\"\n"
-                                                         "Option Compare Database\n"
-                                                         "Option Explicit\n"
-                                                         "Public Sub A()\n"
-                                                         "End Sub\n"));
+  EXPECT_EQ(Export("Order Details", kModeModule),
+            test::Crlf("Attribute VB_Name = \"Order_Details\"\n"
+                       "Option Compare Database\n"
+                       "Option Explicit\n"
+                       "Public Sub A()\n"
+                       "End Sub\n"));
   EXPECT_EQ(s.ConvertedNames, (Lines{"Order_Details"}));
 }
 
 TEST_F(ModuleExport, AClassModuleGetsTheClassHeader) {
   tree.Add(AccessObjectKind::Module, "clsA", 1, {"Option Explicit"}, 1);
   for (bool vb5 : {false, true}) {
-    s.IsVb5 = vb5;
+    s.Options.IsVb5 = vb5;
     s.ConvertedNames.clear();
-    ExportModuleText(s, "clsA", kModeModule);
+    const std::string text = Export("clsA", kModeModule);
     std::string expected = "VERSION 1.0 CLASS\nBEGIN\nMultiUse = -1  'True\n";
     if (!vb5)
       expected +=
@@ -100,17 +105,15 @@ TEST_F(ModuleExport, AClassModuleGetsTheClassHeader) {
         "Attribute VB_PredeclaredId = False\n"
         "Attribute VB_Exposed = False\n"
         "Option Explicit\n";
-    EXPECT_EQ(Output("MODU_clsA.txt"), test::Crlf(expected)) << "IsVb5 " << vb5;
+    EXPECT_EQ(text, test::Crlf(expected)) << "IsVb5 " << vb5;
   }
 }
 
 TEST_F(ModuleExport, TheClassHeaderPassesTheTranslatorAsCode) {
   tree.Add(AccessObjectKind::Module, "clsA", 1, {"Option Explicit", "DoCmd.Beep"}, 1);
-  ExportModuleText(s, "clsA", kModeModule);
-  std::string path = (dir / "MODU_clsA.txt").string();
-  TranslateCode(s, path, kModeModule);
-  Lines out;
-  ASSERT_TRUE(ReadTextLines(dir / "clsA.bas", &out, nullptr));
+  TextDocument text;
+  ExportModuleText(s, "clsA", kModeModule, text);
+  const Lines out = TranslateCode(s, text, "clsA", kModeModule).Lines();
   ASSERT_EQ(out.size(), 15u);
   EXPECT_EQ(out[0], "VERSION 1.0 CLASS");
   EXPECT_EQ(out[7], "End");
@@ -135,11 +138,11 @@ TEST_F(ModuleExport, AModuleNameInUseGetsAnAForEachCollision) {
   for (const auto& c : cases) {
     tree.Add(AccessObjectKind::Module, c.module, 0, {"Option Explicit"}, 1);
     s.ConvertedNames = c.inUse;
-    ExportModuleText(s, c.module, kModeModule);
+    const std::string text = Export(c.module, kModeModule);
     Lines expectedNames = c.inUse;
     expectedNames.push_back(c.unique);
     EXPECT_EQ(s.ConvertedNames, expectedNames) << c.module;
-    Lines lines = SplitLines(Output(std::string("MODU_") + c.module + ".txt"));
+    Lines lines = SplitLines(text);
     ASSERT_FALSE(lines.empty());
     EXPECT_EQ(lines[0], std::string("Attribute VB_Name = \"") + c.unique + "\"");
   }
@@ -163,12 +166,10 @@ TEST_F(ModuleExport, AFormsCodeIsAppendedBehindAnEmptyLine) {
   };
   for (const auto& c : cases) {
     tree.Add(AccessObjectKind::Form, "Order Details", 1, c.code, c.declarations);
-    s.CurrentFile = (dir / "Order_Details.frm").string();
-    test::WriteFile(s.CurrentFile, "VERSION 5.00\r\nBegin VB.Form Order_Details\r\nEnd\r\n");
     s.ConvertedNames = {"Orders", "Order_Details"};
-    ExportModuleText(s, "Order Details", kModeForm);
     EXPECT_EQ(
-        Output("Order_Details.frm"),
+        Export("Order Details", kModeForm,
+               "VERSION 5.00\r\nBegin VB.Form Order_Details\r\nEnd\r\n"),
         test::Crlf(std::string("VERSION 5.00\nBegin VB.Form Order_Details\nEnd\n") + c.appended));
     EXPECT_EQ(s.ConvertedNames.size(), 2u) << "forms are named by the driver";
   }
@@ -177,126 +178,122 @@ TEST_F(ModuleExport, AFormsCodeIsAppendedBehindAnEmptyLine) {
 TEST_F(ModuleExport, AReportsCodeIsAppendedUnderItsSafeName) {
   tree.Add(AccessObjectKind::Report, "Sales Report", 1,
            {"Option Explicit", "Private Sub Report_Open(Cancel As Integer)", "End Sub"}, 1);
-  s.CurrentFile = (dir / "Sales_Report.dsr").string();
-  test::WriteFile(s.CurrentFile, "VERSION 5.00\r\n");
-  ExportModuleText(s, "Sales Report", kModeReport);
-  EXPECT_EQ(Output("Sales_Report.dsr"),
+  EXPECT_EQ(Export("Sales Report", kModeReport, "VERSION 5.00\r\n"),
             test::Crlf("VERSION 5.00\nAttribute VB_Name = \"Sales_Report\"\nOption Explicit\n"
                        "Private Sub Report_Open(Cancel As Integer)\nEnd Sub\n"));
 }
 
-TEST_F(ModuleExport, AMissingModuleWritesNothing) {
-  ExportModuleText(s, "basNone", kModeModule);
-  EXPECT_FALSE(std::filesystem::exists(dir / "MODU_basNone.txt"));
+TEST_F(ModuleExport, AMissingModuleGivesNothing) {
+  TextDocument text;
+  EXPECT_FALSE(ExportModuleText(s, "basNone", kModeModule, text));
+  EXPECT_TRUE(text.Empty());
   EXPECT_TRUE(s.ConvertedNames.empty());
   s.AccessApp = nullptr;
-  ExportModuleText(s, "basNone", kModeModule);
-  EXPECT_FALSE(std::filesystem::exists(dir / "MODU_basNone.txt"));
+  EXPECT_FALSE(ExportModuleText(s, "basNone", kModeModule, text));
 }
 
 // The code part of a component file, after the designer block and the
 // Attribute lines.
-Lines CodeOf(const std::filesystem::path& file) {
-  CodeModule code(file);
+Lines CodeOf(const ProjectComponent& component) {
+  CodeModule code = component.Code();
   Lines lines = SplitLines(code.Lines(1, code.CountOfLines()));
   lines.resize(static_cast<size_t>(code.CountOfLines()));
   return lines;
 }
 
 TEST_F(ModuleExport, DeclarationBlocksMoveIntoTheDeclarationsSection) {
-  const auto file = dir / "Main.frm";
-  test::WriteFile(file, test::Crlf("VERSION 5.00\n"
-                                   "Begin VB.Form Main\n"
-                                   "End\n"
-                                   "Attribute VB_Name = \"Main\"\n"
-                                   "Option Explicit\n"
-                                   "Dim a As Integer\n"
-                                   "Private Sub Form_Load()\n"
-                                   "End Sub\n"
-                                   "'MORVANE Declarations Code for lstA\n"
-                                   "Dim a As Integer\n"
-                                   "Dim b As Integer\n"
-                                   "'MORVANE End Declarations Code for lstA\n"
-                                   "Dim c As Integer\n"
-                                   "Private Sub cmdGo_Click()\n"
-                                   "End Sub\n"));
   ProjectModel project;
-  ASSERT_TRUE(project.AddFile(file));
+  const ProjectComponent* main =
+      project.Add(dir / "Main.frm",
+                  TextDocument::FromBytes(test::Crlf("VERSION 5.00\n"
+                                                     "Begin VB.Form Main\n"
+                                                     "End\n"
+                                                     "Attribute VB_Name = \"Main\"\n"
+                                                     "Option Explicit\n"
+                                                     "Dim a As Integer\n"
+                                                     "Private Sub Form_Load()\n"
+                                                     "End Sub\n"
+                                                     "'MORVANE Declarations Code for lstA\n"
+                                                     "Dim a As Integer\n"
+                                                     "Dim b As Integer\n"
+                                                     "'MORVANE End Declarations Code for lstA\n"
+                                                     "Dim c As Integer\n"
+                                                     "Private Sub cmdGo_Click()\n"
+                                                     "End Sub\n")));
   s.ActiveProject = &project;
-  s.CurrentFile = file.string();
-  MoveDeclarationBlocks(s);
-  EXPECT_EQ(CodeOf(file), (Lines{
-                              "Option Explicit",
-                              "Dim a As Integer",
-                              "'MORVANE Declarations Code for lstA",
-                              "Dim b As Integer",
-                              "'MORVANE End Declarations Code for lstA",
-                              "Dim c As Integer",  // the line behind the end mark goes too
-                              "Private Sub Form_Load()",
-                              "End Sub",
-                              "Private Sub cmdGo_Click()",
-                              "End Sub",
-                          }));
-  EXPECT_TRUE(test::ReadFile(file).starts_with("VERSION 5.00\r\nBegin VB.Form Main\r\n"));
+  MoveDeclarationBlocks(s, "Main");
+  EXPECT_EQ(CodeOf(*main), (Lines{
+                               "Option Explicit",
+                               "Dim a As Integer",
+                               "'MORVANE Declarations Code for lstA",
+                               "Dim b As Integer",
+                               "'MORVANE End Declarations Code for lstA",
+                               "Dim c As Integer",  // the line behind the end mark goes too
+                               "Private Sub Form_Load()",
+                               "End Sub",
+                               "Private Sub cmdGo_Click()",
+                               "End Sub",
+                           }));
+  EXPECT_TRUE(main->Text->Bytes().starts_with("VERSION 5.00\r\nBegin VB.Form Main\r\n"));
 }
 
 TEST_F(ModuleExport, DuplicateDeclarationsGoButEmptyLinesStay) {
-  const auto file = dir / "Main.frm";
-  test::WriteFile(file, test::Crlf("VERSION 5.00\n"
-                                   "Begin VB.Form Main\n"
-                                   "End\n"
-                                   "Attribute VB_Name = \"Main\"\n"
-                                   "Option Explicit\n"
-                                   "\n"
-                                   "Dim a As Integer\n"
-                                   "\n"
-                                   "Dim a As Integer\n"
-                                   "dim a as integer\n"  // compared exactly
-                                   "Dim a As Integer\n"
-                                   // Parts of continued statements and the ends
-                                   // of blocks repeat no declaration.
-                                   "Private Declare Function F Lib \"k\" _\n"
-                                   "    (ByVal h As Long) As Long\n"
-                                   "Private Declare Function G Lib \"k\" _\n"
-                                   "    (ByVal h As Long) As Long\n"
-                                   "Private Type T1\n    h As Long\nEnd Type\n"
-                                   "Private Type T2\n    h As Long\nEnd Type\n"
-                                   "#If VBA7 Then\nPrivate Const K = 1\n#Else\n"
-                                   "Private Const K = 1\n#End If\n"
-                                   "Private Sub Form_Load()\n"
-                                   "Dim a As Integer\n"
-                                   "End Sub\n"));
   ProjectModel project;
-  ASSERT_TRUE(project.AddFile(file));
+  const ProjectComponent* main =
+      project.Add(dir / "Main.frm",
+                  TextDocument::FromBytes(test::Crlf("VERSION 5.00\n"
+                                                     "Begin VB.Form Main\n"
+                                                     "End\n"
+                                                     "Attribute VB_Name = \"Main\"\n"
+                                                     "Option Explicit\n"
+                                                     "\n"
+                                                     "Dim a As Integer\n"
+                                                     "\n"
+                                                     "Dim a As Integer\n"
+                                                     "dim a as integer\n"  // compared exactly
+                                                     "Dim a As Integer\n"
+                                                     // Parts of continued statements
+                                                     // and ends of blocks repeat no
+                                                     // declaration.
+                                                     "Private Declare Function F Lib \"k\" _\n"
+                                                     "    (ByVal h As Long) As Long\n"
+                                                     "Private Declare Function G Lib \"k\" _\n"
+                                                     "    (ByVal h As Long) As Long\n"
+                                                     "Private Type T1\n    h As Long\nEnd Type\n"
+                                                     "Private Type T2\n    h As Long\nEnd Type\n"
+                                                     "#If VBA7 Then\nPrivate Const K = 1\n#Else\n"
+                                                     "Private Const K = 1\n#End If\n"
+                                                     "Private Sub Form_Load()\n"
+                                                     "Dim a As Integer\n"
+                                                     "End Sub\n")));
   s.ActiveProject = &project;
-  s.CurrentFile = file.string();
-  MoveDeclarationBlocks(s);
-  EXPECT_EQ(CodeOf(file), (Lines{
-                              "Option Explicit",
-                              "",
-                              "Dim a As Integer",
-                              "",
-                              "dim a as integer",
-                              "Private Declare Function F Lib \"k\" _",
-                              "    (ByVal h As Long) As Long",
-                              "Private Declare Function G Lib \"k\" _",
-                              "    (ByVal h As Long) As Long",
-                              "Private Type T1",
-                              "    h As Long",
-                              "End Type",
-                              "Private Type T2",
-                              "    h As Long",
-                              "End Type",
-                              "#If VBA7 Then",
-                              "Private Const K = 1",
-                              "#Else",
-                              "Private Const K = 1",
-                              "#End If",
-                              "Private Sub Form_Load()",
-                              // The bound is read before the deletions, so the
-                              // lines that move up into it are looked at too.
-                              "End Sub",
-                          }));
+  MoveDeclarationBlocks(s, "Main");
+  EXPECT_EQ(CodeOf(*main), (Lines{
+                               "Option Explicit",
+                               "",
+                               "Dim a As Integer",
+                               "",
+                               "dim a as integer",
+                               "Private Declare Function F Lib \"k\" _",
+                               "    (ByVal h As Long) As Long",
+                               "Private Declare Function G Lib \"k\" _",
+                               "    (ByVal h As Long) As Long",
+                               "Private Type T1",
+                               "    h As Long",
+                               "End Type",
+                               "Private Type T2",
+                               "    h As Long",
+                               "End Type",
+                               "#If VBA7 Then",
+                               "Private Const K = 1",
+                               "#Else",
+                               "Private Const K = 1",
+                               "#End If",
+                               "Private Sub Form_Load()",
+                               // The bound is read before the deletions, so the
+                               // lines that move up into it are looked at too.
+                               "End Sub",
+                           }));
 }
 
 }  // namespace

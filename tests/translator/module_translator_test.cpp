@@ -1,5 +1,5 @@
-// The module translator's main loop: output files and names, the designer
-// gate, the counters of tblStats, form code marks, and the worked example of a
+// The module translator's main loop: the designer gate, the counters of
+// tblStats, form code marks, and the worked example of a
 // form's open event.
 #include "translator/module_translator.h"
 
@@ -17,58 +17,6 @@ namespace {
 using test::FormDesigner;
 using test::Translation;
 using Lines = std::vector<std::string>;
-
-TEST(TranslateCode, NamesTheOutputAfterTheInputLessPrefixAndExtension) {
-  struct FileCase {
-    int mode;
-    const char* input;
-    const char* name;
-    const char* output;
-  };
-  const FileCase cases[] = {
-      {kModeForm, "form_Main.frm", "Main", "Main.frm"},
-      {kModeModule, "MODU_Order Details.TXT", "Order Details", "Order Details.bas"},
-      {kModeReport, "REPT_rptSales.txt", "rptSales", "rptSales.dsr"},
-      {kModeModule, "Modu_MacroCode.txt", "MacroCode", "MacroCode.bas"},
-  };
-  for (const auto& c : cases) {
-    Translation t;
-    t.Run({"Option Explicit"}, c.mode, c.input);
-    EXPECT_EQ(t.name, c.name);
-    EXPECT_TRUE(std::filesystem::exists(t.Dir() / c.output)) << c.output;
-    EXPECT_EQ(t.Stats().ModuleName, c.name);
-  }
-}
-
-TEST(TranslateCode, WritesCrLfLinesAndLeavesTheInputAlone) {
-  Translation t;
-  const std::string input = "Option Explicit\nDoCmd.Beep\n";  // LF only, as after git
-  test::WriteFile(t.Dir() / "MODU_basA.txt", input);
-  std::string path = (t.Dir() / "MODU_basA.txt").string();
-  TranslateCode(t.s, path, kModeModule);
-  EXPECT_EQ(test::ReadFile(t.Dir() / "basA.bas"), "Option Explicit\r\nBeep\r\n");
-  EXPECT_EQ(test::ReadFile(t.Dir() / "MODU_basA.txt"), input);
-}
-
-TEST(TranslateCode, DeletesTheOutputOfAnEarlierRunFirst) {
-  Translation t;
-  test::WriteFile(t.Dir() / "basA.txt", "left over");
-  test::WriteFile(t.Dir() / "basA.bas", "stale\r\nstale\r\nstale\r\n");
-  test::WriteFile(t.Dir() / "MODU_basA.txt", "Option Explicit\r\n");
-  std::string path = (t.Dir() / "MODU_basA.txt").string();
-  TranslateCode(t.s, path, kModeModule);
-  EXPECT_FALSE(std::filesystem::exists(t.Dir() / "basA.txt"));
-  EXPECT_EQ(test::ReadFile(t.Dir() / "basA.bas"), "Option Explicit\r\n");
-}
-
-TEST(TranslateCode, AMissingInputWritesNothing) {
-  Translation t;
-  std::string path = (t.Dir() / "MODU_basGone.txt").string();
-  TranslateCode(t.s, path, kModeModule);
-  EXPECT_EQ(path, "basGone");
-  EXPECT_FALSE(std::filesystem::exists(t.Dir() / "basGone.bas"));
-  EXPECT_TRUE(t.Db().Stats().empty());
-}
 
 TEST(TranslateCode, WorksWithoutASupportDatabase) {
   Translation t;
@@ -137,13 +85,15 @@ TEST(TranslateCode, CallAddItemLinesAreNotTranslated) {
   EXPECT_EQ(t.Stats().CommentLines, 0);
 }
 
-TEST(TranslateCode, CountersStopAtTheSixteenBitLimit) {
+TEST(TranslateCode, CountersGoPastTheSixteenBitLimit) {
   Translation t;
-  t.Run(Lines(33000, ""));
+  Lines lines(40000, "");
+  lines.insert(lines.end(), 30000, "x = 1");
+  t.Run(lines);
   StatsRow stats = t.Stats();
-  EXPECT_EQ(stats.TotalLines, 32767);
-  EXPECT_EQ(stats.BlankLines, 32767);
-  EXPECT_EQ(stats.CodeLines, 32767);
+  EXPECT_EQ(stats.TotalLines, 70000);
+  EXPECT_EQ(stats.BlankLines, 40000);
+  EXPECT_EQ(stats.CodeLines, 69998);
 }
 
 TEST(DesignerGate, CopiesTheDesignerBlockOfAForm) {
@@ -163,7 +113,7 @@ TEST(DesignerGate, CopiesTheDesignerBlockOfAForm) {
           "Attribute VB_Name = \"Main\"",
           "DoCmd.Beep",
       },
-      kModeForm, "form_Main.frm");
+      kModeForm, "Main");
   EXPECT_EQ(out, (Lines{
                      "VERSION 5.00",
                      "Begin VB.Form Main",
@@ -186,7 +136,7 @@ TEST(DesignerGate, CopiesTheDesignerBlockOfAForm) {
 
 TEST(DesignerGate, AFormWithoutDesignerBlockIsCopiedWhole) {
   Translation t;
-  EXPECT_EQ(t.Run({"DoCmd.Beep", "Application.Quit"}, kModeForm, "form_Main.frm"),
+  EXPECT_EQ(t.Run({"DoCmd.Beep", "Application.Quit"}, kModeForm, "Main"),
             (Lines{"DoCmd.Beep", "Application.Quit"}));
   EXPECT_EQ(t.Stats().CodeLines, -2);
 }
@@ -212,7 +162,7 @@ TEST(FormCodeMarks, NameTheDataControlOfTheCodeBetweenThem) {
                                 "'MORVANE End Form Code for Sub 1",
                                 "Me.REQUERY",
                             });
-  auto out = t.Run(input, kModeForm, "form_Main.frm");
+  auto out = t.Run(input, kModeForm, "Main");
   EXPECT_EQ(Lines(out.begin() + 5, out.end()), (Lines{
                                                    "'MORVANE Form Code for Sub 1",
                                                    "Me.datSub_1.Recordset.Requery",
@@ -234,7 +184,7 @@ TEST(WorkedExample, AFormsOpenEvent) {
                                 "    If Me!Total > 0 Then Cancel = True",
                                 "End Sub",
                             });
-  auto out = t.Run(input, kModeForm, "form_Main.frm");
+  auto out = t.Run(input, kModeForm, "Main");
   ASSERT_EQ(out.size(), 9u);
   EXPECT_EQ(Lines(out.begin() + 5, out.end()),
             (Lines{
@@ -266,7 +216,7 @@ TEST(WorkedExample, CloseOfTheFormItself) {
     if (!listed) t.s.FormList = {""};
     auto input = FormDesigner("Order_Details");
     input.push_back("DoCmd.Close acForm, Me.Name");
-    auto out = t.Run(input, kModeForm, "form_Order_Details.frm");
+    auto out = t.Run(input, kModeForm, "Order_Details");
     EXPECT_EQ(out.back(), std::string(listed ? "Unload Order_Details"
                                              : "Unload GetFormFromName(Order_Details)") +
                               "\t'MORVANE DoCmd.Close acForm, Me.Name");

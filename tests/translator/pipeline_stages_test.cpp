@@ -36,7 +36,7 @@ void CheckModule(const Case& c, Translation& t) {
 std::vector<std::string> RunForm(Translation& t, const std::vector<std::string>& code,
                                  std::vector<std::string> designer = FormDesigner("Orders")) {
   designer.insert(designer.end(), code.begin(), code.end());
-  auto out = t.Run(designer, kModeForm, "form_Orders.frm");
+  auto out = t.Run(designer, kModeForm, "Orders");
   size_t skip = 0;
   while (skip < out.size() && out[skip].rfind("Attribute VB_Name", 0) != 0) ++skip;
   return std::vector<std::string>(out.begin() + static_cast<long>(std::min(out.size(), skip + 1)),
@@ -96,10 +96,10 @@ TEST(MeRules, FormReferencesReachTheDataControl) {
 TEST(MeRules, FormPropertiesAskForTheirPropertyCode) {
   Translation t;
   RunForm(t, {"Me.Filter = \"x > 1\"", "Orders.OrderBy = \"x\"", "y = Me.OpenArgs"});
-  EXPECT_TRUE(t.s.UsesFilter);
-  EXPECT_TRUE(t.s.UsesOrderBy);
-  EXPECT_TRUE(t.s.UsesOpenArgs);
-  EXPECT_FALSE(t.s.UsesFilterOn);
+  EXPECT_TRUE(t.s.Form().UsesFilter);
+  EXPECT_TRUE(t.s.Form().UsesOrderBy);
+  EXPECT_TRUE(t.s.Form().UsesOpenArgs);
+  EXPECT_FALSE(t.s.Form().UsesFilterOn);
 }
 
 TEST(GlobalSubstitutions, DatabaseNamesFormsAndRuntimeRequests) {
@@ -130,7 +130,7 @@ TEST(GlobalSubstitutions, DatabaseNamesFormsAndRuntimeRequests) {
 
 TEST(GlobalSubstitutions, RequestsSetTheirTemplateFlags) {
   Translation t;
-  t.s.IsMdi = false;
+  t.s.Options.IsMdi = false;
   auto out = t.Run({"x = MyDCount(1) + DLookup(\"a\", \"b\")",
                     "x = SysCmd(acSysCmdInitMeter, \"Working\", 10)"});
   EXPECT_EQ(out[1], "x = SysCmdVB(1, \"Working\", 10)");
@@ -140,7 +140,7 @@ TEST(GlobalSubstitutions, RequestsSetTheirTemplateFlags) {
   EXPECT_EQ(set, (std::vector<int>{7, 10, 20}));
 
   Translation mdi;
-  mdi.s.IsMdi = true;
+  mdi.s.Options.IsMdi = true;
   mdi.Run({"SysCmd acSysCmdSetStatus, \"x\""});
   EXPECT_FALSE(mdi.s.ListControlsUsed[6]);  // a statement call has no "SysCmd("
   mdi.Run({"v = SysCmd(SYSCMD_SETSTATUS, \"x\")"});
@@ -154,15 +154,15 @@ TEST(FormInjection, NewProceduresOnlyForWhatTheHintsAskFor) {
   }
   {
     Translation t;
-    t.s.InitCalls[2] = true;
+    t.s.Form().InitCalls[2] = true;
     EXPECT_EQ(RunForm(t, {}), (std::vector<std::string>{
                                   "Private Sub Form_Activate()", "Dim vReturnValue as variant",
                                   "vReturnValue=InitialDataCtlCaptions()", "End Sub"}));
   }
   {
     Translation t;
-    t.s.InitCalls[1] = true;
-    t.s.InitCalls[2] = true;
+    t.s.Form().InitCalls[1] = true;
+    t.s.Form().InitCalls[2] = true;
     EXPECT_EQ(RunForm(t, {}), (std::vector<std::string>{
                                   "Private Sub Form_Load()", "Call InitializeComboBoxes()",
                                   "Call InitialDataCtlCaptions()", "End Sub",
@@ -176,9 +176,9 @@ TEST(FormInjection, BehindTheHeaderOnly) {
   // A comment naming Form_Load, or a longer name, takes no injected code:
   // it would stand outside any procedure or in another one.
   Translation t;
-  t.s.InitCalls[0] = true;
-  t.s.FormPictureStretched = true;
-  t.s.FormLoadCode = "\r\ndatOrders.Refresh";
+  t.s.Form().InitCalls[0] = true;
+  t.s.Form().FormPictureStretched = true;
+  t.s.Form().FormLoadCode = "\r\ndatOrders.Refresh";
   auto code = RunForm(t, {"' Sub Form_Load is below", "Private Sub Form_LoadData()", "End Sub",
                           "Private Sub Form_Load()", "End Sub"});
   EXPECT_EQ(code, (std::vector<std::string>{
@@ -288,7 +288,7 @@ TEST(PipelineStages, AModuleUsingEveryFamilyKeepsVb6Structure) {
       "    DoCmd.OpenForm \"frmOrders\"",
       "End Function",
   };
-  auto out = t.Run(input, kModeModule, "MODU_basAll.txt");
+  auto out = t.Run(input, kModeModule, "basAll");
   auto problems = CheckVb6Structure("basAll.bas", t.output_bytes);
   EXPECT_TRUE(problems.empty()) << problems.front();
   EXPECT_EQ(out[4], "dim  rs As Recordset");

@@ -1,5 +1,5 @@
-// Runs TranslateCode on a small text in a temporary output directory with a
-// real support database, and hands back the written lines and the analysis.
+// Runs TranslateCode on a small text with a real support database, and hands
+// back the translated lines and the analysis.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -34,16 +34,12 @@ class Translation {
     s.FormList = {"", "Orders", "Order Details"};
   }
 
-  // Writes `input` as `fileName` (CR LF), translates it, and returns the
-  // lines of the output file (name less prefix and extension + `extension`).
+  // Translates `input` as the module `moduleName` and returns the lines of
+  // the output.
   std::vector<std::string> Run(const std::vector<std::string>& input, int mode = kModeModule,
-                               const std::string& fileName = "MODU_basTest.txt") {
-    std::string path = (dir_ / fileName).string();
-    WriteFile(path, JoinCrLf(input));
-    TranslateCode(s, path, mode);
-    name = path;
-    const char* extension = mode == kModeForm ? ".frm" : mode == kModeReport ? ".dsr" : ".bas";
-    output_bytes = ReadFile(dir_ / (name + extension));
+                               const std::string& moduleName = "basTest") {
+    name = moduleName;
+    output_bytes = TranslateCode(s, TextDocument::FromBytes(JoinCrLf(input)), name, mode).Bytes();
     return SplitLines(output_bytes);
   }
 
@@ -58,8 +54,8 @@ class Translation {
   SupportDatabase& Db() { return *db_; }
 
   ConversionSession s;
-  std::string name;          // what TranslateCode left in `path`
-  std::string output_bytes;  // the output file as written
+  std::string name;          // the module's name
+  std::string output_bytes;  // the output as it would be written
 
  private:
   TempDir dir_;

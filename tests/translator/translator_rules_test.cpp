@@ -273,7 +273,7 @@ TEST(RequeryRule, UnboundListsAreFilledAnew) {
 }
 
 TEST(RequeryRule, BoundListsRefreshTheirDataControl) {
-  const SessionSetup bound = [](ConversionSession& s) { s.ListboxBound = true; };
+  const SessionSetup bound = [](ConversionSession& s) { s.Options.ListboxBound = true; };
   const LineCase cases[] = {
       Kept("Me!lstX.REQUERY", "Me!datlstX.Refresh", 7),
       Kept("Me.lstX.REQUERY", "Me.datlstX.Refresh", 7),
@@ -295,7 +295,7 @@ TEST(RequeryRule, TheFormItselfRefreshesItsDataControl) {
   Translation t;
   auto input = test::FormDesigner("Orders");
   input.push_back("Me.REQUERY");
-  auto out = t.Run(input, kModeForm, "form_Orders.frm");
+  auto out = t.Run(input, kModeForm, "Orders");
   ASSERT_GE(out.size(), 2u);
   EXPECT_EQ(out[out.size() - 2], "Me.datOrders.Recordset.Requery");
   EXPECT_EQ(out.back(), "Me.datOrders.Refresh");
@@ -355,7 +355,7 @@ TEST(ProcedureRules, EventHeadersWithCancelBecomeFunctions) {
     EXPECT_EQ(RunModule({c.header}), std::vector<std::string>{c.expected}) << c.header;
 
   auto withDao = RunModule({"Private Sub Form_Error(DataErr As Integer, Response As Integer)"},
-                           [](ConversionSession& s) { s.UseAdo = false; });
+                           [](ConversionSession& s) { s.Options.UseAdo = false; });
   EXPECT_EQ(withDao,
             std::vector<std::string>{"Private Function Form_Error(DataErr As Integer) as Integer"});
 }
@@ -436,7 +436,7 @@ TEST(ReportRules, ReportEventsBecomeDataReportEvents) {
       "Exit Sub ' Sub (early)",
       "End Sub",
   };
-  auto out = t.Run(input, kModeReport, "REPT_rptSales.txt");
+  auto out = t.Run(input, kModeReport, "rptSales");
   EXPECT_EQ(t.name, "rptSales");
   EXPECT_EQ(out, (std::vector<std::string>{
                      "VERSION 5.00",
@@ -475,7 +475,7 @@ TEST(ReportRules, OnlyReportsGetThem) {
   Translation t;
   auto input = test::FormDesigner("Orders");
   input.push_back("Private Sub Report_Open(Cancel As Integer)");
-  auto out = t.Run(input, kModeForm, "form_Orders.frm");
+  auto out = t.Run(input, kModeForm, "Orders");
   EXPECT_EQ(out.back(), "Private Function Report_Open() as Integer");
   EXPECT_TRUE(t.Log().empty());
 }

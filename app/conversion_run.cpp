@@ -1,0 +1,108 @@
+// Putting a run together: options, source, design store, converters, driver.
+#include "app/conversion_run.h"
+
+#include "design/design_store.h"
+#include "events/event_writer.h"
+#include "forms/form_converter.h"
+#include "macros/macro_converter.h"
+#include "reports/report_converter.h"
+#include "session/naming.h"
+#include "session/strings.h"
+#include "session/user_interface.h"
+#include "translator/code_converter.h"
+
+namespace morvane {
+
+namespace {
+
+// Each requested name must be in the catalog; the selection keeps the
+// catalog's spelling.
+bool Select(const std::vector<std::string>& requested, const std::vector<std::string>& offered,
+            const char* kind, std::vector<std::string>* selected, std::string* err) {
+  for (const auto& name : requested) {
+    const std::string* hit = nullptr;
+    for (const auto& o : offered)
+      if (EqualsNoCase(o, name)) hit = &o;
+    if (!hit) {
+      *err = FormatText(kMsgNoSuchObject, {kind, name});
+      return false;
+    }
+    selected->push_back(*hit);
+  }
+  return true;
+}
+
+}  // namespace
+
+ConversionRun::ConversionRun(RunOptions options) : options_(std::move(options)) {}
+
+ConversionRun::~ConversionRun() = default;
+
+bool ConversionRun::Open(const SourceChoice& source, std::string* err) {
+  if (!link_.ChooseDatabase(s_, source, err)) return false;
+  // The source gives the connection string unless the user named one.
+  const std::string connect = s_.Options.AdoConnect;
+  s_.Options = options_;
+  if (s_.Options.AdoConnect.empty()) s_.Options.AdoConnect = connect;
+  if (!link_.Tree()) return true;
+  store_ = std::make_unique<DesignStore>(*link_.Tree());
+  code_ = std::make_unique<TranslatorCodeConverter>();
+  macros_ = std::make_unique<MacroConverterImpl>(store_.get());
+  hints_ = std::make_unique<EventHintActions>(*store_);
+  forms_ = std::make_unique<DesignFormConverter>(*store_, *hints_);
+  reports_ = std::make_unique<DesignReportConverter>(*store_);
+  converters_.Code = code_.get();
+  converters_.Macros = macros_.get();
+  converters_.Forms = forms_.get();
+  converters_.Reports = reports_.get();
+  return true;
+}
+
+std::vector<std::string> ConversionRun::Warnings() {
+  std::vector<std::string> warnings;
+  if (!link_.Tree()) return warnings;
+  warnings = link_.Tree()->Warnings();
+  for (auto kind : {AccessObjectKind::Form, AccessObjectKind::Report}) {
+    for (const auto& name : link_.Tree()->Names(kind)) {
+      std::string err;
+      if (!store_->Open(kind, name, &err)) warnings.push_back(err);
+    }
+  }
+  return warnings;
+}
+
+bool ConversionRun::MakeRequest(const std::string& outputDir, const Selection& selection,
+                                RunRequest* request, std::string* err) const {
+  const CatalogListing offered = Listing();
+  request->OutputDir = outputDir;
+  const bool all = selection.All || (selection.Forms.empty() && selection.Modules.empty() &&
+                                     selection.Reports.empty());
+  if (all) {
+    request->Forms = offered.Forms;
+    request->Modules = offered.Modules;
+    request->Reports = offered.Reports;
+    return true;
+  }
+  return Select(selection.Forms, offered.Forms, "form", &request->Forms, err) &&
+         Select(selection.Modules, offered.Modules, "module", &request->Modules, err) &&
+         Select(selection.Reports, offered.Reports, "report", &request->Reports, err);
+}
+
+bool ConversionRun::Check(const RunRequest& request, UserInterface& ui) {
+  s_.Ui = &ui;
+  return CheckRequest(s_, link_, request);
+}
+
+RunSummary ConversionRun::Run(const RunRequest& request, UserInterface& ui) {
+  s_.Ui = &ui;
+  RunSummary summary = RunTranslation(s_, link_, converters_, request);
+  s_.Ui = nullptr;
+  return summary;
+}
+
+RunStatus StatusOf(const RunSummary& summary) {
+  if (!summary.Started) return kRunNotStarted;
+  return summary.Failures.empty() ? kRunConverted : kRunIncomplete;
+}
+
+}  // namespace morvane

@@ -1,0 +1,45 @@
+// The output directory of a run: every file the run makes is written here
+// whole and once, checked, and never left half-written in place of a good
+// one. A file that is already there is replaced by a temporary file beside
+// it, renamed over it only when every byte has reached it; a new file that
+// cannot be written whole is removed.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace morvane {
+
+class OutputDirectory {
+ public:
+  explicit OutputDirectory(std::filesystem::path dir) : dir_(std::move(dir)) {}
+
+  const std::filesystem::path& Path() const { return dir_; }
+
+  // Writes `bytes` as the file `name` of the directory, or at `name` when it
+  // holds a directory part. False with a message naming the file when any part of the
+  // write fails (a full disk, no permission, a file size limit); the old file
+  // of that name, if any, is then left as it was.
+  bool Write(const std::filesystem::path& name, std::string_view bytes, std::string* err);
+  // Copies a file into the directory the same way.
+  bool Copy(const std::filesystem::path& from, const std::filesystem::path& name, std::string* err);
+
+  // Every failed write of the run, one message each.
+  const std::vector<std::string>& Failures() const { return failures_; }
+  // Files written so far.
+  int WrittenCount() const { return written_; }
+
+ private:
+  std::filesystem::path Target(const std::filesystem::path& name) const;
+
+  std::filesystem::path dir_;
+  std::vector<std::string> failures_;
+  int written_ = 0;
+};
+
+// Writes a file whole, as OutputDirectory::Write does, outside any run.
+bool WriteFileWhole(const std::filesystem::path& path, std::string_view bytes, std::string* err);
+
+}  // namespace morvane

@@ -1,0 +1,84 @@
+// The in-memory text file.
+#include "platform/text_document.h"
+
+namespace morvane {
+
+TextDocument TextDocument::FromBytes(std::string_view bytes) {
+  TextDocument d;
+  d.Append(bytes);
+  return d;
+}
+
+void TextDocument::SetLines(std::vector<std::string> lines) {
+  lines_ = std::move(lines);
+  open_ = false;
+  pendingCr_ = false;
+  SplitBreaks(0, lines_.size());
+}
+
+void TextDocument::Append(std::string_view bytes) {
+  size_t i = 0;
+  if (pendingCr_ && !bytes.empty() && bytes[0] == '\n') ++i;
+  if (i < bytes.size()) pendingCr_ = false;
+  if (!open_ && i < bytes.size()) {
+    lines_.emplace_back();
+    open_ = true;
+  }
+  while (i < bytes.size()) {
+    const size_t end = bytes.find_first_of("\r\n", i);
+    if (end == std::string_view::npos) {
+      lines_.back().append(bytes.substr(i));
+      return;
+    }
+    lines_.back().append(bytes.substr(i, end - i));
+    open_ = false;
+    i = end + 1;
+    if (bytes[end] == '\r') {
+      if (i < bytes.size() && bytes[i] == '\n')
+        ++i;
+      else if (i == bytes.size())
+        pendingCr_ = true;
+    }
+    if (i < bytes.size()) {
+      lines_.emplace_back();
+      open_ = true;
+    }
+  }
+}
+
+void TextDocument::AppendLines(const std::vector<std::string>& lines) {
+  for (const auto& l : lines) {
+    Append(l);
+    Append("\r\n");
+  }
+}
+
+void TextDocument::SplitBreaks(size_t from, size_t to) {
+  for (size_t i = from; i < to && i < lines_.size(); ++i) {
+    if (lines_[i].find_first_of("\r\n") == std::string::npos) continue;
+    std::vector<std::string> parts;
+    TextDocument piece;
+    piece.Append(lines_[i]);
+    piece.Append("\r\n");
+    parts = std::move(piece.lines_);
+    lines_.erase(lines_.begin() + static_cast<long>(i));
+    lines_.insert(lines_.begin() + static_cast<long>(i), parts.begin(), parts.end());
+    to += parts.size() - 1;
+    i += parts.size() - 1;
+  }
+}
+
+std::string TextDocument::Bytes() const {
+  std::string out;
+  size_t size = 0;
+  for (const auto& l : lines_) size += l.size() + 2;
+  out.reserve(size);
+  for (const auto& l : lines_) {
+    out += l;
+    out += "\r\n";
+  }
+  if (open_ && !out.empty()) out.resize(out.size() - 2);
+  return out;
+}
+
+}  // namespace morvane
