@@ -12,7 +12,7 @@
 
 #include "app/command_line_ui.h"
 #include "app/conversion_run.h"
-#include "app/text_output.h"
+#include "platform/encoding.h"
 #include "platform/catalog.h"
 #include "session/naming.h"
 #include "session/project_check.h"

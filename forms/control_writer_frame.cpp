@@ -66,7 +66,7 @@ const FormDesign* CurrentFormOf(const FormWriter& w) { return w.Text().CurrentFo
 
 std::string DataControlName(const FormWriter& w) {
   const FormDesign* form = CurrentFormOf(w);
-  return "dat" + SafeName(form ? form->Name() : w.Text().OwnerFormName);
+  return w.Session().Names.DataControl(form ? form->Name() : w.Text().OwnerFormName);
 }
 
 bool ParentIsCurrentForm(const FormWriter& w, const ControlDesign& c) {
@@ -154,7 +154,8 @@ std::optional<std::string> PictureLine(FormWriter& w, const std::string& holder,
                                        const ControlDesign& c) {
   const std::string offset = ExtractPicture(w, holder, c.Name(), false);
   if (offset.empty()) return std::nullopt;
-  return "Picture = \"" + SafeName(w.Text().OwnerFormName) + ".frx\":" + offset;
+  return "Picture = \"" + w.Session().Names.Name(ComponentRole::Form, w.Text().OwnerFormName).File +
+         ".frx\":" + offset;
 }
 
 std::string PictureHolder(const ControlDesign& c) {

@@ -35,7 +35,7 @@ void CountControl(FormWriter& w, int partial = 0);
 void FinishControl(FormWriter& w, const ControlDesign& c, std::string text,
                    ControlEventKind eventRecord);
 
-// "dat" + SafeName(CurrentForm.Name), the name of the form's data control.
+// The name of the data control of the form being walked.
 std::string DataControlName(const FormWriter& w);
 const FormDesign* CurrentFormOf(const FormWriter& w);
 // Whether the control's holder is the form the walker stands in.

@@ -114,7 +114,7 @@ void WriteFormDataControl(FormWriter& w) {
   const std::string recordSource = form->Text("RecordSource").value_or("");
   if (recordSource.empty()) return;
   const std::string formName = form->Name();
-  const std::string name = SafeName(formName);
+  const std::string name = s.Names.Name(ComponentRole::Form, formName).VbName;
   const int type = form->Number("RecordsetType") == 2 ? 2 : 1;
   const std::string source = EscapeQuotes(JoinLines(recordSource));
   // On a page-broken form the client area is the first page's height.
@@ -136,8 +136,8 @@ void WriteFormDataControl(FormWriter& w) {
 
   // The parent's data control moves and refreshes the subform's, and its
   // current row restricts what the subform shows.
-  const std::string parent = "dat" + SafeName(t.OwnerFormName);
-  const std::string d = "dat" + name;
+  const std::string parent = s.Names.DataControl(t.OwnerFormName);
+  const std::string d = DataControlName(name);
   AddHint(s, DataControlEntryHint{parent, d + ".Recordset.MoveFirst"});
   AddHint(s, DataControlEntryHint{parent, d + ".Recordset.Movelast"});
   AddHint(s, DataControlEntryHint{parent, d + ".refresh"});
@@ -151,7 +151,7 @@ std::string WriteDataControl(FormWriter& w, const std::string& name, long left, 
                              const std::optional<std::string>& formName) {
   ConversionSession& s = w.Session();
   w.LocatePage();
-  const std::string dat = "dat" + name;
+  const std::string dat = DataControlName(name);
   std::string text;
   AddLine(text, "Begin VB.Data " + dat);
   AddLine(text, "Caption = \"" + dat + "\"");
@@ -187,7 +187,7 @@ std::string WriteAdoDataControl(FormWriter& w, const std::string& name, long lef
   ConversionSession& s = w.Session();
   w.LocatePage();
   w.AddComponent(kAdoDataControlGuid, kAdoDataControlFile);
-  const std::string dat = "dat" + name;
+  const std::string dat = DataControlName(name);
   std::string text;
   AddLine(text, "Begin MSAdodcLib.Adodc " + dat);
   AddLine(text, "Height = 300");

@@ -226,11 +226,8 @@ void FormWriter::WriteFormHeader(const FormDesign& form) {
   WriteComponentLines(false);
   std::string& b = t_.BodyText;
   const std::string name = form.Name();
-  const std::string safe = SafeName(name);
-  if (!StartsWithLetter(name))
-    b += "Begin VB.Form a" + safe.substr(0, 39);
-  else
-    b += "Begin VB.Form " + safe.substr(0, 40);
+  const ComponentName& names = s_.Names.Name(ComponentRole::Form, name);
+  b += "Begin VB.Form " + names.VbName;
   auto line = [&b](std::string_view head, const std::optional<std::string>& v,
                    std::string_view tail = "") {
     if (v) b += "\r\n" + std::string(head) + *v + std::string(tail);
@@ -271,7 +268,7 @@ void FormWriter::WriteFormHeader(const FormDesign& form) {
   if (auto picture = form.Bytes("PictureData"); picture && !picture->empty()) {
     std::string offset = ExtractPicture(*this, name, "", false);
     if (!offset.empty()) {
-      b += "\r\nPicture = \"" + safe + ".frx\":" + offset + "\r\nAutoRedraw = -1";
+      b += "\r\nPicture = \"" + names.File + ".frx\":" + offset + "\r\nAutoRedraw = -1";
       AddHint(s_, FormImageHint{ValueText(form, "PictureSizeMode").value_or(""),
                                 ValueText(form, "PictureTiling").value_or("")});
     }

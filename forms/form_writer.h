@@ -94,7 +94,7 @@ class FormWriter {
   // One walk over a form; calls itself for embedded subforms.
   void WriteForm(const std::string& formName, bool isSubform, int pass, bool headerOnly);
 
-  ConversionSession& Session() { return s_; }
+  ConversionSession& Session() const { return s_; }
   DesignStore& Store() { return store_; }
   FormTextSet& Text() { return t_; }
   const FormTextSet& Text() const { return t_; }

@@ -65,8 +65,8 @@ std::string SubformLinkSql(FormWriter& w, const std::string& source,
                            const ControlDesign& subformControl) {
   ConversionSession& s = w.Session();
   Catalog* db = s.SourceDb;
-  const std::string d = SafeName(w.Text().OwnerFormName);
-  const std::string joinName = "qrydat" + d;
+  const std::string parentData = s.Names.DataControl(w.Text().OwnerFormName);
+  const std::string joinName = "qry" + parentData;
 
   // Child side: a SELECT statement is saved as a query the join can name.
   std::string child = source;
@@ -111,7 +111,7 @@ std::string SubformLinkSql(FormWriter& w, const std::string& source,
     const std::string q = NeedsQuotes(masterFields, field) ? "\"\"" : "";
     result += i == 0 ? " Where [" : " & \" AND [";
     result +=
-        master + "].[" + field + "]=" + q + "\" & dat" + d + ".Recordset.Fields(\"" + field + "\")";
+        master + "].[" + field + "]=" + q + "\" & " + parentData + ".Recordset.Fields(\"" + field + "\")";
     if (!q.empty()) result += " & " + q + q;
   }
   return result;

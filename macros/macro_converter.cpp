@@ -274,7 +274,7 @@ bool MacroWriter::ConvertMacroText(const std::string& macroName, std::string sub
   }
   if (!grouped) {
     const size_t dot = macroName.find('.');
-    procName_ = SafeName(dot == std::string::npos ? macroName : macroName.substr(0, dot));
+    procName_ = MacroIdentifier(dot == std::string::npos ? macroName : macroName.substr(0, dot));
   } else {
     procName_.clear();
   }

@@ -48,6 +48,8 @@ std::string UniqueMacroName(std::vector<std::string>& used, const std::string& n
   return c;
 }
 
+std::string MacroIdentifier(std::string_view name) { return VbIdentifier(name, "Proc", 255); }
+
 std::string MacroProcName(ConversionSession& s, const std::string& macro, const std::string& sub) {
   std::string n;
   if (!sub.empty()) {
@@ -56,11 +58,7 @@ std::string MacroProcName(ConversionSession& s, const std::string& macro, const 
   } else {
     n = CleanMacroName(macro, "Proc", 29);
   }
-  std::string name = SafeName(UniqueMacroName(s.MacroProcNames, n));
-  // A Visual Basic name begins with a letter: "002_Import" becomes
-  // "Proc002_Import", as a name beginning with "_" gets "Proc" in front.
-  if (!name.empty() && name[0] >= '0' && name[0] <= '9') name = "Proc" + name;
-  return name;
+  return MacroIdentifier(UniqueMacroName(s.MacroProcNames, n));
 }
 
 }  // namespace morvane

@@ -17,6 +17,9 @@ bool IsValidObjectName(std::string_view name);
 std::string CleanMacroName(std::string_view text, std::string_view prefix, int limit);
 // Adds `name` to `used`, numbered when it is already there.
 std::string UniqueMacroName(std::vector<std::string>& used, const std::string& name);
+// A macro's name as a procedure name: a Visual Basic identifier, "Proc" ahead
+// of one that would not start with a letter.
+std::string MacroIdentifier(std::string_view name);
 // The procedure name of macro `macro`, or of macro `sub` of group `macro`.
 std::string MacroProcName(ConversionSession& s, const std::string& macro, const std::string& sub);
 

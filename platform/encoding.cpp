@@ -8,6 +8,7 @@
 #include <iconv.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstring>
 
 #include "platform/text_file.h"
@@ -237,6 +238,78 @@ bool ReadExportLines(const std::filesystem::path& file, std::vector<std::string>
   }
   if (err) *err = file.string() + ": " + why;
   return false;
+}
+
+namespace {
+
+// Code points of the bytes 0x80 to 0x9F; the other bytes are Latin-1.
+// Unassigned bytes map to themselves.
+constexpr char32_t kHigh[32] = {
+    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178,
+};
+
+void AppendUtf8(std::string& out, char32_t cp) {
+  if (cp < 0x80) {
+    out += static_cast<char>(cp);
+  } else if (cp < 0x800) {
+    out += static_cast<char>(0xC0 | (cp >> 6));
+    out += static_cast<char>(0x80 | (cp & 0x3F));
+  } else {
+    out += static_cast<char>(0xE0 | (cp >> 12));
+    out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
+    out += static_cast<char>(0x80 | (cp & 0x3F));
+  }
+}
+
+// The base letters of Latin Extended-A (U+0100 to U+017F), in order: the
+// letters of Central European and Baltic names without their marks.
+constexpr std::string_view kLatinExtendedA =
+    "AaAaAaCcCcCcCcDd"
+    "DdEeEeEeEeEeGgGg"
+    "GgGgHhHhIiIiIiIi"
+    "IiIiJjKkkLlLlLlL"
+    "lLlNnNnNnnNnOoOo"
+    "OoOoRrRrRrSsSsSs"
+    "SsTtTtTtUuUuUuUu"
+    "UuUuWwYyYZzZzZzs";
+static_assert(kLatinExtendedA.size() == 0x80);
+
+}  // namespace
+
+std::string Windows1252ToUtf8(std::string_view text) {
+  std::string out;
+  out.reserve(text.size());
+  for (unsigned char c : text) AppendUtf8(out, (c >= 0x80 && c < 0xA0) ? kHigh[c - 0x80] : c);
+  return out;
+}
+
+std::string Utf8ToWindows1252(std::string_view text) {
+  DecodedText decoded;
+  std::string err;
+  if (DecodeToWindows1252(text, &decoded, &err) != DecodeStatus::Ok) return std::string(text);
+  return decoded.Text;
+}
+
+std::string Utf8NameToWindows1252(std::string_view text) {
+  std::u32string cps;
+  std::string why;
+  if (!ToCodePoints(text, "UTF-8", &cps, &why)) return Utf8ToWindows1252(text);
+  std::string out;
+  for (char32_t cp : cps) {
+    if (cp == 0xFEFF) continue;
+    if (const unsigned char b = Windows1252FromCodePoint(cp); b != 0 || cp == 0) {
+      out += static_cast<char>(b);
+    } else if (cp >= 0x100 && cp < 0x180) {
+      out += kLatinExtendedA[cp - 0x100];
+    } else {
+      char buf[16];
+      std::snprintf(buf, sizeof buf, "u%04X", static_cast<unsigned>(cp));
+      out += buf;
+    }
+  }
+  return out;
 }
 
 }  // namespace morvane

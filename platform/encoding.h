@@ -37,6 +37,16 @@ bool LooksBinary(std::string_view head);
 // The Windows-1252 byte for a Unicode code point, or 0 when it has none.
 unsigned char Windows1252FromCodePoint(char32_t cp);
 
+// Windows-1252 text as UTF-8, for file names on disk and the terminal.
+std::string Windows1252ToUtf8(std::string_view text);
+// Valid UTF-8 is converted (characters without a Windows-1252 form become
+// "?"); anything else is taken to be Windows-1252 already.
+std::string Utf8ToWindows1252(std::string_view text);
+// The same for a name: a letter without a Windows-1252 form becomes its
+// base letter (a macron or caron dropped), anything else a readable stand-in
+// such as "u4E2D", so that two such names stay apart.
+std::string Utf8NameToWindows1252(std::string_view text);
+
 // Reads and decodes an export file and splits it into lines (CR LF, LF or CR).
 // False with a message naming the file when it cannot be read, is binary or is
 // not valid text.

@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <span>
 
+#include "platform/encoding.h"
 #include "platform/output_directory.h"
 #include "platform/text_file.h"
 #include "platform/text_fold.h"
@@ -317,7 +318,8 @@ std::string ProjectModel::VbpText(const std::filesystem::path& baseDir) const {
   }
   for (const auto& o : objects) out.push_back("Object=" + o);
   for (const auto& c : components_) {
-    std::string rel = RelativeTo(c.File, baseDir);
+    // File names are UTF-8 on disk; the project file holds Windows-1252.
+    std::string rel = Utf8ToWindows1252(RelativeTo(c.File, baseDir));
     switch (c.Kind) {
       case ComponentKind::Module:
         out.push_back("Module=" + c.Name + "; " + rel);

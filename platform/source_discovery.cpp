@@ -167,10 +167,7 @@ std::string NameFromFileName(const std::filesystem::path& file) {
       decoded += name[i];
     }
   }
-  DecodedText text;
-  std::string err;
-  if (DecodeToWindows1252(decoded, &text, &err) == DecodeStatus::Ok) return text.Text;
-  return decoded;
+  return Utf8NameToWindows1252(decoded);
 }
 
 std::string StripKindPrefix(const std::string& name, AccessObjectKind kind) {

@@ -29,6 +29,7 @@ CREATE TABLE IF NOT EXISTS tblLog (
   ErrorID INTEGER, Report TEXT, Location TEXT, ControlDeleted INTEGER DEFAULT 0);
 CREATE TABLE IF NOT EXISTS tblRunNotes (
   ID INTEGER PRIMARY KEY AUTOINCREMENT, Object TEXT, Note TEXT);
+CREATE TABLE IF NOT EXISTS tblNames (Object TEXT, VbName TEXT, File TEXT, Why TEXT);
 CREATE TABLE IF NOT EXISTS tblFields (FieldName TEXT, Type INTEGER, Form TEXT);
 CREATE TABLE IF NOT EXISTS tblPict (ID INTEGER PRIMARY KEY, PictureData BLOB);
 CREATE TABLE IF NOT EXISTS CustomControlMapping (
@@ -228,7 +229,10 @@ int SupportDatabase::CountRows(const std::string& table) const {
   return st.Next() ? static_cast<int>(st.Int(0)) : -1;
 }
 
-void SupportDatabase::ClearRunNotes() { Execute("DELETE FROM tblRunNotes"); }
+void SupportDatabase::ClearRunNotes() {
+  Execute("DELETE FROM tblRunNotes");
+  Execute("DELETE FROM tblNames");
+}
 
 bool SupportDatabase::AddRunNote(const std::string& object, const std::string& note) {
   Statement st(db_, "INSERT INTO tblRunNotes (Object, Note) VALUES (?,?)");
@@ -259,6 +263,18 @@ std::optional<FieldRow> SupportDatabase::FindField(const std::string& fieldName)
   st.Bind(1, fieldName);
   if (!st.Next()) return std::nullopt;
   return FieldRow{st.Text(0), static_cast<int>(st.Int(1)), st.Text(2)};
+}
+
+bool SupportDatabase::AddRenaming(const RenamingRow& row) {
+  Statement st(db_, "INSERT INTO tblNames (Object, VbName, File, Why) VALUES (?,?,?,?)");
+  return st.Bind(1, row.Object).Bind(2, row.VbName).Bind(3, row.File).Bind(4, row.Why).Run();
+}
+
+std::vector<RenamingRow> SupportDatabase::Renamings() const {
+  std::vector<RenamingRow> rows;
+  Statement st(db_, "SELECT Object, VbName, File, Why FROM tblNames ORDER BY rowid");
+  while (st.Next()) rows.push_back({st.Text(0), st.Text(1), st.Text(2), st.Text(3)});
+  return rows;
 }
 
 bool SupportDatabase::ClearLogOf(const std::vector<std::string>& reports) {

@@ -72,6 +72,15 @@ struct MacroLookupRow {
   std::string Value;
 };
 
+// An object whose Visual Basic name or file name had to differ from its
+// Access name beyond the usual mapping.
+struct RenamingRow {
+  std::string Object;
+  std::string VbName;
+  std::string File;
+  std::string Why;
+};
+
 struct FieldRow {
   std::string FieldName;
   int Type = 0;
@@ -133,6 +142,9 @@ class SupportDatabase {
   std::vector<MacroActionRow> MacroActions() const;
   std::vector<MacroActionArgRow> MacroActionArgs() const;
   std::vector<MacroLookupRow> MacroLookups() const;
+
+  bool AddRenaming(const RenamingRow& row);
+  std::vector<RenamingRow> Renamings() const;
 
   // Notes of the run: what it could not do (an object without an export, a
   // converter or stage this build does not have), one row each.

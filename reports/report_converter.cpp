@@ -42,18 +42,20 @@ std::string DesignReportConverter::ConvertReport(ConversionSession& s, const std
     Note(s, name, err.empty() ? "the report was not written" : err);
     return std::string();
   }
-  ConvertedReport report = ConvertReportDesign(*design, s.SourceDb, environment_);
+  const ComponentName& names = s.Names.Name(ComponentRole::Report, name);
+  ConvertedReport report =
+      ConvertReportDesign(*design, s.SourceDb, environment_, names.VbName, names.File);
   FormState& state = s.Form();
   state.Text = TextDocument::FromBytes(report.Dsr);
   state.Binary = std::move(report.Dsx);
   if (s.SupportDb) {
     // The log keeps the rows of other reports from earlier runs; this
     // report's rows are those of its latest conversion.
-    s.SupportDb->ClearLogOf({name, SafeName(name)});
+    s.SupportDb->ClearLogOf({name, names.VbName});
     for (const LogRow& row : report.Log) s.SupportDb->AddLog(row);
     for (const ReportOutputRow& row : report.Review) s.SupportDb->AddReportOutput(row);
     s.SupportDb->MergeStats(
-        {SafeName(name), 0, 0, 0, 0, 0, 0, 0, report.Items, report.ItemsToReview, 0});
+        {names.VbName, 0, 0, 0, 0, 0, 0, 0, report.Items, report.ItemsToReview, 0});
   }
   return report.InitCode;
 }

@@ -67,7 +67,7 @@ void WriteHead(std::string& t, const FormDesign& report, const ConvertedReport& 
                const std::optional<ReportCommand>& command) {
   AddLine(t, "VERSION 5.00");
   AddLine(t, "Begin {78E93846-85FD-11D0-8487-00A0C90DC8A9} " + out.Name);
-  AddLine(t, "Bindings = \"" + out.Name + ".dsx\":0000");
+  AddLine(t, "Bindings = \"" + out.File + ".dsx\":0000");
   AddLine(t,
           "Caption = " + Quoted(ReplaceAllText(report.Text("Caption").value_or(""), "\r\n", " ")));
   AddLine(t, "ClientHeight = 4290");
@@ -128,9 +128,11 @@ std::string ReportBindingsRecord() {
 }
 
 ConvertedReport ConvertReportDesign(const FormDesign& report, const Catalog* db,
-                                    DataEnvironment& environment) {
+                                    DataEnvironment& environment, const std::string& vbName,
+                                    const std::string& file) {
   ConvertedReport out;
-  out.Name = SafeName(report.Name());
+  out.Name = vbName;
+  out.File = file;
   out.Dsx = ReportBindingsRecord();
   ReportState st;
   st.Report = &report;

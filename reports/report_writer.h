@@ -26,7 +26,8 @@ enum ReportProblem : int {
 };
 
 struct ConvertedReport {
-  std::string Name;                     // SafeName of the report: the designer and file name
+  std::string Name;                     // the report's Visual Basic name
+  std::string File;                     // its file name stem, for the Bindings line
   std::string Dsr;                      // the designer text, each line ended by CR LF
   std::string Dsx;                      // the companion's bytes: the binding, then the pictures
   std::string InitCode;                 // lines of DataReport_Initialize, joined by CR LF
@@ -43,7 +44,10 @@ std::string ReportBindingsRecord();
 // Converts the report. Its command goes into `environment`, which names the
 // member the report binds to. The .dsx starts with the binding record; the
 // pictures follow it.
+// `vbName` and `file` are the names the run gives the report's designer and
+// its files.
 ConvertedReport ConvertReportDesign(const FormDesign& report, const Catalog* db,
-                                    DataEnvironment& environment);
+                                    DataEnvironment& environment, const std::string& vbName,
+                                    const std::string& file);
 
 }  // namespace morvane

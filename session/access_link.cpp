@@ -128,7 +128,8 @@ bool AccessLink::OpenSupportDatabase(ConversionSession& s, std::string* err) {
 
 ProjectModel& AccessLink::NewProject(ConversionSession& s) {
   project_ = std::make_unique<ProjectModel>(0);
-  project_->Name = s.ProjectName;
+  // The project's name is a Visual Basic name; its files keep the source's.
+  project_->Name = VbIdentifier(s.ProjectName);
   s.ActiveProject = project_.get();
   return *project_;
 }

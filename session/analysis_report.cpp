@@ -119,6 +119,16 @@ std::string WriteAnalysisReport(ConversionSession& s, const RunSummary& summary)
     out.push_back("</ul>");
   }
 
+  auto names = s.SupportDb->Renamings();
+  if (!names.empty()) {
+    out.push_back(
+        "<h2>Names</h2><table><tr><th>Access name</th><th>Visual Basic name</th><th>File</th>"
+        "<th>Why</th></tr>");
+    for (const auto& r : names)
+      out.push_back("<tr>" + Cell(r.Object) + Cell(r.VbName) + Cell(r.File) + Cell(r.Why) + "</tr>");
+    out.push_back("</table>");
+  }
+
   auto notes = s.SupportDb->RunNotes();
   if (!notes.empty()) {
     out.push_back("<h2>Not done in this run</h2><ul>");

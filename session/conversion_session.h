@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "session/form_state.h"
+#include "session/name_registry.h"
 #include "session/run_options.h"
 
 namespace morvane {
@@ -52,7 +53,8 @@ struct ConversionSession {
   OneBasedList FormList{""};
   OneBasedList ModuleList{""};
   OneBasedList ReportList{""};
-  std::vector<std::string> ConvertedNames;
+  // The Visual Basic and file names of everything the run writes.
+  NameRegistry Names;
   bool IsAdp = false;
 
   // Per-run state.

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 
+#include "platform/encoding.h"
 #include "platform/line_editor.h"
 #include "platform/output_directory.h"
 #include "platform/project_model.h"
@@ -39,6 +40,22 @@ void Note(ConversionSession& s, RunSummary& summary, const std::string& object,
           const std::string& text) {
   summary.Notes.push_back(object.empty() ? text : object + ": " + text);
   if (s.SupportDb) s.SupportDb->AddRunNote(object, text);
+}
+
+// Why an object of the run has nothing written for it: the catalog lists it
+// but the tree has no export of it, or its export could not be read.
+std::string NotReadWhy(const ConversionSession& s, AccessObjectKind kind, const std::string& name) {
+  if (s.AccessApp && s.AccessApp->Find(kind, name)) return Text(kMsgObjectNotRead);
+  const char* word = kind == AccessObjectKind::Form     ? "form"
+                     : kind == AccessObjectKind::Report ? "report"
+                                                        : "module";
+  return FormatText(kMsgObjectNotInSource, {word, name});
+}
+
+// The path of a file of the output directory: the name is the system's
+// Windows-1252 text, the file name on disk UTF-8.
+std::string OutputFile(const ConversionSession& s, const std::string& name) {
+  return s.OutputPath + Windows1252ToUtf8(name);
 }
 
 bool WriteOutput(ConversionSession& s, RunSummary& summary, const std::string& object,
@@ -145,7 +162,7 @@ void ConvertMacrosStep(ConversionSession& s, Converters& c, RunSummary& summary)
   TextDocument text = c.Code->TranslateCode(s, macros, "MacroCode", kModeModule);  // C3
   SilentIndent(text);                                                              // C4
   const ProjectComponent* component =
-      s.ActiveProject->Add(s.OutputPath + "MacroCode.bas", std::move(text));
+      s.ActiveProject->Add(OutputFile(s, "MacroCode.bas"), std::move(text));
   WriteComponent(s, summary, "MacroCode", component->Name);
   summary.Macros = static_cast<int>(s.SourceDb->ContainerDocuments("Scripts").size());
 }
@@ -159,25 +176,24 @@ void ConvertFormsStep(ConversionSession& s, Converters& c, RunSummary& summary) 
     }
     FormScope scope(s, name);  // F1
     FormState& form = scope.State();
-    if (i == 1)
-      s.ConvertedNames.assign(1, SafeName(name));  // F2
-    else
-      s.ConvertedNames.push_back(SafeName(name));
-    c.Forms->ConvertForm(s, name);  // F3
+    const ComponentName& names = s.Names.Name(ComponentRole::Form, name);  // F2
+    c.Forms->ConvertForm(s, name);                                         // F3
     // A form that could not be read has no text: the later steps find
     // nothing to work on, and the form stays out of the project.
-    if (!form.Text.Empty()) {
-      const std::string file = s.OutputPath + SafeName(name) + ".frm";  // F4
-      c.Code->ExportModuleText(s, name, kModeForm, form.Text);          // F5
-      c.Forms->ProcessHints(s, name);                                   // F6
-      if (s.SupportDb)                                                  // F8
-        s.SupportDb->MergeStats(
-            {SafeName(name), 0, 0, 0, 0, 0, 0, 0, form.ControlCount, form.PartialControlCount, 0});
-      TextDocument text = c.Code->TranslateCode(s, form.Text, SafeName(name), kModeForm);  // F11
+    if (form.Text.Empty()) {
+      summary.Failures.push_back(name + ": " + NotReadWhy(s, AccessObjectKind::Form, name));
+    } else {
+      const std::string file = OutputFile(s, names.File + ".frm");  // F4
+      c.Code->ExportModuleText(s, name, kModeForm, form.Text);       // F5
+      c.Forms->ProcessHints(s, name);                                // F6
+      if (s.SupportDb)                                               // F8
+        s.SupportDb->MergeStats({names.VbName, 0, 0, 0, 0, 0, 0, 0, form.ControlCount,
+                                 form.PartialControlCount, 0});
+      TextDocument text = c.Code->TranslateCode(s, form.Text, names.VbName, kModeForm);  // F11
       form.Text = TextDocument();
       SilentIndent(text);  // F12
       if (!form.Binary.empty())
-        WriteOutput(s, summary, name, s.OutputPath + SafeName(name) + ".frx", form.Binary);
+        WriteOutput(s, summary, name, OutputFile(s, names.File + ".frx"), form.Binary);
       if (!form.FormFailed) {  // F13
         const ProjectComponent* component = s.ActiveProject->Add(file, std::move(text));
         const std::string vbName = component->Name;
@@ -188,6 +204,7 @@ void ConvertFormsStep(ConversionSession& s, Converters& c, RunSummary& summary) 
       } else {
         // Kept out of the project; its text stays in the output directory.
         WriteOutput(s, summary, name, file, text.Bytes());
+        summary.Failures.push_back(name + ": " + Text(kMsgObjectKeptOut));
       }
     }
     if (s.Ui) s.Ui->ProgressStep(3, name);  // F17
@@ -203,15 +220,18 @@ void ConvertReportsStep(ConversionSession& s, Converters& c, RunSummary& summary
     }
     FormScope scope(s, name);
     FormState& report = scope.State();
+    const ComponentName& names = s.Names.Name(ComponentRole::Report, name);
     report.ReportInitCode = c.Reports->ConvertReport(s, name);  // R1, R2
-    if (!report.Text.Empty()) {
-      const std::string file = s.OutputPath + SafeName(name) + ".dsr";                         // R3
-      c.Code->ExportModuleText(s, name, kModeReport, report.Text);                             // R5
-      TextDocument text = c.Code->TranslateCode(s, report.Text, SafeName(name), kModeReport);  // R8
+    if (report.Text.Empty()) {
+      summary.Failures.push_back(name + ": " + NotReadWhy(s, AccessObjectKind::Report, name));
+    } else {
+      const std::string file = OutputFile(s, names.File + ".dsr");  // R3
+      c.Code->ExportModuleText(s, name, kModeReport, report.Text);   // R5
+      TextDocument text = c.Code->TranslateCode(s, report.Text, names.VbName, kModeReport);  // R8
       report.Text = TextDocument();
       SilentIndent(text);  // R9
       if (!report.Binary.empty())
-        WriteOutput(s, summary, name, s.OutputPath + SafeName(name) + ".dsx", report.Binary);
+        WriteOutput(s, summary, name, OutputFile(s, names.File + ".dsx"), report.Binary);
       const ProjectComponent* component = s.ActiveProject->Add(file, std::move(text));
       if (WriteComponent(s, summary, name, component->Name)) ++summary.Reports;
     }
@@ -221,7 +241,7 @@ void ConvertReportsStep(ConversionSession& s, Converters& c, RunSummary& summary
     TextDocument environment = c.Reports->WriteDataEnvironment(s);
     if (!environment.Empty()) {
       const ProjectComponent* component =
-          s.ActiveProject->Add(s.OutputPath + "rptEnvironment.dsr", std::move(environment));
+          s.ActiveProject->Add(OutputFile(s, "rptEnvironment.dsr"), std::move(environment));
       WriteComponent(s, summary, "rptEnvironment", component->Name);
     }
   }
@@ -231,21 +251,38 @@ void ConvertModulesStep(ConversionSession& s, Converters& c, RunSummary& summary
   for (size_t i = 1; i < s.ModuleList.size(); ++i) {
     const std::string& name = s.ModuleList[i];
     if (!s.AccessApp || !s.AccessApp->Find(AccessObjectKind::Module, name)) {
-      Note(s, summary, name, FormatText(kMsgObjectNotInSource, {"module", name}));
+      summary.Failures.push_back(name + ": " + NotReadWhy(s, AccessObjectKind::Module, name));
       if (s.Ui) s.Ui->ProgressStep(1, name);
       continue;
     }
     TextDocument source;
     if (c.Code->ExportModuleText(s, name, kModeModule, source)) {  // M2
-      const std::string file = SafeFileName(name);
+      const std::string& file = s.Names.Name(ComponentRole::Module, name).File;
       TextDocument text = c.Code->TranslateCode(s, source, file, kModeModule);  // M4
-      SilentIndent(text);                                                       // M6
+      SilentIndent(text);                                                        // M6
       const ProjectComponent* component =
-          s.ActiveProject->Add(s.OutputPath + file + ".bas", std::move(text));
+          s.ActiveProject->Add(OutputFile(s, file + ".bas"), std::move(text));
       if (WriteComponent(s, summary, name, component->Name)) ++summary.Modules;
+    } else {
+      summary.Failures.push_back(name + ": " + Text(kMsgObjectNotRead));
     }
     if (s.Ui) s.Ui->ProgressStep(1, name);  // M7
   }
+}
+
+// Every object of the run is named before any is converted, in list order,
+// so that a name never depends on which objects a run converts first; a
+// name that had to change is said in the analysis.
+void RegisterNames(ConversionSession& s) {
+  s.Names = NameRegistry();
+  for (size_t i = 1; i < s.FormList.size(); ++i) s.Names.Name(ComponentRole::Form, s.FormList[i]);
+  for (size_t i = 1; i < s.ReportList.size(); ++i)
+    s.Names.Name(ComponentRole::Report, s.ReportList[i]);
+  for (size_t i = 1; i < s.ModuleList.size(); ++i)
+    s.Names.Name(ComponentRole::Module, s.ModuleList[i]);
+  if (!s.SupportDb) return;
+  for (const Renaming& r : s.Names.Renamings())
+    s.SupportDb->AddRenaming({r.Object, r.Name.VbName, r.Name.File, r.Why});
 }
 
 void CountLines(ConversionSession& s, RunSummary& summary) {
@@ -348,6 +385,7 @@ void RunConversion(ConversionSession& s, AccessLink& link, Converters& c, RunSum
     summary.Started = false;
     return;
   }
+  RegisterNames(s);
   if (!s.IsAdp && s.SourceDb) {  // S4
     std::string startup = s.SourceDb->Property("StartupForm").value_or("");
     if (!startup.empty()) {

@@ -124,7 +124,7 @@ struct Act {
     form.LabelCaptionCode += "\r\nMe." + h.ControlName + ".Caption = \"" + h.Caption + "\"";
   }
   void operator()(const RenameControlClassHint& h) {
-    const std::string prefix = "Name = \"" + SafeName(s.ProjectName) + "_CF.";
+    const std::string prefix = "Name = \"" + VbIdentifier(s.ProjectName) + "_CF.";
     ChangeLine2(form.Text, prefix + h.OldName + "\"", prefix + h.NewName + "\"");
   }
 };

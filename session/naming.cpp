@@ -1,6 +1,8 @@
 // Naming helpers and the case-insensitive text primitives they rest on.
 #include "session/naming.h"
 
+#include <algorithm>
+
 #include "platform/text_fold.h"
 
 namespace morvane {
@@ -55,6 +57,76 @@ bool StartsWithLetter(std::string_view text) {
   if (text.empty()) return false;
   unsigned char c = text[0];
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
+bool IsNameLetter(unsigned char c) {
+  if ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z')) return true;
+  // Š Œ Ž š œ ž Ÿ ª µ º and the Latin-1 letters but × and ÷.
+  switch (c) {
+    case 0x8A:
+    case 0x8C:
+    case 0x8E:
+    case 0x9A:
+    case 0x9C:
+    case 0x9E:
+    case 0x9F:
+    case 0xAA:
+    case 0xB5:
+    case 0xBA:
+      return true;
+    default:
+      return c >= 0xC0 && c != 0xD7 && c != 0xF7;
+  }
+}
+
+bool IsNameCharacter(unsigned char c) {
+  return IsNameLetter(c) || (c >= '0' && c <= '9') || c == '_';
+}
+
+std::string VbIdentifier(std::string_view name, std::string_view prefix, size_t maxLength) {
+  std::string out;
+  out.reserve(name.size());
+  for (unsigned char c : name) out += IsNameCharacter(c) ? static_cast<char>(c) : '_';
+  out.erase(0, std::min(out.find_first_not_of('_'), out.size()));
+  if (out.empty() || !IsNameLetter(static_cast<unsigned char>(out[0])))
+    out.insert(0, prefix.empty() ? std::string_view("a") : prefix);
+  if (out.size() > maxLength) out.resize(maxLength);
+  return out;
+}
+
+std::string DataControlName(std::string_view formVbName) {
+  std::string name = "dat" + std::string(formVbName);
+  if (name.size() > 40) name.resize(40);
+  return name;
+}
+
+bool IsReservedWord(std::string_view name) {
+  static constexpr std::string_view kWords[] = {
+      "And",      "As",      "Boolean", "ByRef",    "Byte",    "ByVal",   "Call",    "Case",
+      "Const",    "Currency", "Date",   "Declare",  "Dim",     "Do",      "Double",  "Each",
+      "Else",     "ElseIf",  "Empty",   "End",      "Enum",    "Eqv",     "Erase",   "Event",
+      "Exit",     "False",   "For",     "Friend",   "Function", "Get",    "Global",  "GoSub",
+      "GoTo",     "If",      "Imp",     "Implements", "In",    "Integer", "Is",      "Let",
+      "Like",     "Long",    "Loop",    "LSet",     "Me",      "Mod",     "New",     "Next",
+      "Not",      "Nothing", "Null",    "Object",   "On",      "Option",  "Optional", "Or",
+      "ParamArray", "Preserve", "Private", "Property", "Public", "RaiseEvent", "ReDim", "Resume",
+      "Return",   "RSet",    "Select",  "Set",      "Single",  "Static",  "Step",    "Stop",
+      "String",   "Sub",     "Then",    "To",       "True",    "Type",    "TypeOf",  "Until",
+      "Variant",  "Wend",    "While",   "With",     "WithEvents", "Xor",  "Form",    "Forms",
+      "App",      "Screen",  "Printer", "Clipboard", "Debug", "Err",     "VB",      "VBA",
+  };
+  for (std::string_view w : kWords)
+    if (text::IEquals(w, name)) return true;
+  return false;
+}
+
+bool IsDeviceName(std::string_view stem) {
+  static constexpr std::string_view kDevices[] = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$"};
+  for (std::string_view d : kDevices)
+    if (text::IEquals(d, stem)) return true;
+  if (stem.size() == 4 && (text::IStartsWith(stem, "COM") || text::IStartsWith(stem, "LPT")))
+    return stem[3] >= '0' && stem[3] <= '9';
+  return false;
 }
 
 bool EqualsNoCase(std::string_view a, std::string_view b) { return text::IEquals(a, b); }

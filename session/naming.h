@@ -19,6 +19,25 @@ std::string FileNameOf(std::string_view path);
 std::string ReplaceAllText(std::string_view text, std::string_view find, std::string_view with);
 bool StartsWithLetter(std::string_view text);
 
+// Whether a Windows-1252 character may stand in a Visual Basic name: ASCII
+// letters, digits and "_", and the accented letters of the code page.
+bool IsNameCharacter(unsigned char c);
+bool IsNameLetter(unsigned char c);
+// A Visual Basic name for `name`: each character that cannot stand in a name
+// becomes "_", leading "_" go, a name that does not start with a letter gets
+// `prefix` ahead of it, and the whole is cut to `maxLength` characters.
+// Never empty.
+std::string VbIdentifier(std::string_view name, std::string_view prefix = "a",
+                         size_t maxLength = 40);
+// The data control of a form: "dat" and the form's Visual Basic name, cut
+// to 40 characters.
+std::string DataControlName(std::string_view formVbName);
+// Whether Visual Basic keeps the word for itself (a component cannot take
+// it as its name).
+bool IsReservedWord(std::string_view name);
+// Whether Windows keeps the file name stem for a device (CON, NUL, COM1 ...).
+bool IsDeviceName(std::string_view stem);
+
 // Case-insensitive comparisons over Windows-1252 text (ASCII letters fold).
 bool EqualsNoCase(std::string_view a, std::string_view b);
 bool StartsWithNoCase(std::string_view text, std::string_view prefix);

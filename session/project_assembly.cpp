@@ -52,7 +52,7 @@ std::vector<std::string> SubMainLines(ConversionSession& s) {
     }
   }
   if (!s.IsAdp && !s.StartupFormName.empty() && s.StartupFormName != "(none)") {  // P5.3
-    lines.push_back("    " + SafeName(s.StartupFormName) + ".Show");
+    lines.push_back("    " + s.Names.Name(ComponentRole::Form, s.StartupFormName).VbName + ".Show");
     if (s.SourceDb) s.SourceDb->SetProperty("StartupForm", s.StartupFormName);
   }
   lines.push_back("End Sub");  // P5.4

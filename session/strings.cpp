@@ -70,6 +70,8 @@ constexpr Entry kEnglish[] = {
     {kMsgConversionCodeMissing,
      "The conversion code base text %1 is missing; "
      "MorvaneConversionCode.bas was not written."},
+    {kMsgObjectNotRead, "it could not be read; nothing was written for it"},
+    {kMsgObjectKeptOut, "it was kept out of the project"},
     {kCapStartTranslation, "Start &Translation"},
     {kCapProject, "&Project"},
     {kCapListControls, "List &Controls"},

@@ -38,6 +38,8 @@ enum StringId : int {
   kMsgObjectNotInSource = 144,
   kMsgConversionCodeMissing = 145,
   kMsgTooManyControls = 146,
+  kMsgObjectNotRead = 147,
+  kMsgObjectKeptOut = 148,
   // Captions of the main window.
   kCapStartTranslation = 201,
   kCapProject = 202,

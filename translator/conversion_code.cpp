@@ -162,9 +162,7 @@ void WriteFormLookup(ConversionSession& s, TextDocument& conversionCode) {
   };
   for (const auto& form : s.FormList) {
     if (form.empty()) continue;
-    const std::string safe = SafeName(form);
-    const std::string object =
-        StartsWithLetter(form) ? safe.substr(0, 40) : "a" + safe.substr(0, 39);
+    const std::string object = s.Names.Name(ComponentRole::Form, form).VbName;
     lines.push_back("        Case \"" + form + "\": Set GetFormFromName = " + object);
   }
   lines.push_back("        Case Else");

@@ -173,11 +173,8 @@ void RunMacroRule(ModuleTranslation& t, std::string& line) {
   if (!name) return;
   // The macro's procedure begins with a letter, as the macro converter
   // names it.
-  std::string procedure = SafeName(*name);
-  if (!procedure.empty() && procedure[0] >= '0' && procedure[0] <= '9') {
-    procedure = "Proc" + procedure;
-    ++t.PassedHits;
-  }
+  const std::string procedure = VbIdentifier(*name, "Proc", 255);
+  if (procedure != SafeName(*name)) ++t.PassedHits;
   const std::string call = "Call " + procedure;
   if (comma == 0 || EqualsNoCase(Mid(line, comma + 1), " , \"\"")) {
     line = call;

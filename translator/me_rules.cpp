@@ -68,7 +68,7 @@ bool GoToPage(ModuleTranslation& t, std::string& line, const std::string& owner,
 void RulesFor(ModuleTranslation& t, std::string& line, const std::string& owner) {
   ConversionSession& s = t.Session;
   const std::string key = owner + ".";
-  const std::string dat = "dat" + t.DataSuffix;
+  const std::string& dat = t.DataControl;
   // The owner stands as a word of its own, in code or a comment: "datOrders."
   // is no reference to the form "Orders", nor is a word in a string literal.
   // And the search goes on behind what a rule put in.

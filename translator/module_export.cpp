@@ -42,16 +42,6 @@ std::string NameAttribute(const std::string& name) {
   return "Attribute VB_Name = \"" + name + "\"";
 }
 
-// The name of a module made unique against the names in use. Each entry is
-// tested once, in order, so what an "A" added earlier collides with later
-// counts too.
-std::string UniqueModuleName(const ConversionSession& s, const std::string& name) {
-  std::string unique = SafeName(name);
-  for (const auto& used : s.ConvertedNames)
-    if (EqualsNoCase(unique, used)) unique += "A";
-  return unique;
-}
-
 void AddCodeLines(const ModuleCode& code, int start, int count, std::vector<std::string>* out) {
   for (int i = std::max(start, 1); i < start + count && i <= code.CountOfLines(); ++i)
     out->push_back(code.Code[static_cast<size_t>(i - 1)]);
@@ -78,13 +68,10 @@ bool ExportModuleText(ConversionSession& s, const std::string& name, int mode, T
 
   std::vector<std::string> out;
   if (mode == kModeForm || mode == kModeReport) {
-    if (mode == kModeReport)
-      out.push_back(NameAttribute(SafeName(name)));
-    else if (!s.ConvertedNames.empty())
-      out.push_back(NameAttribute(s.ConvertedNames.back()));
+    const ComponentRole role = mode == kModeReport ? ComponentRole::Report : ComponentRole::Form;
+    out.push_back(NameAttribute(s.Names.Name(role, name).VbName));
   } else {
-    const std::string unique = UniqueModuleName(s, name);
-    s.ConvertedNames.push_back(unique);
+    const std::string unique = s.Names.Name(ComponentRole::Module, name).VbName;
     if (code.Type == 1) {
       out.assign(std::begin(kClassHeadStart), std::end(kClassHeadStart));
       if (!s.Options.IsVb5)

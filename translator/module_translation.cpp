@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "session/converters.h"
+#include "session/naming.h"
 
 namespace morvane {
 
@@ -18,7 +19,7 @@ ModuleTranslation::ModuleTranslation(ConversionSession& session, int mode, std::
     : Session(session), Mode(mode), ModuleName(std::move(moduleName)) {
   // A form's code refers to its own data control until a form code mark
   // names another one.
-  if (Mode == kModeForm) DataSuffix = ModuleName;
+  if (Mode == kModeForm) DataControl = DataControlName(ModuleName);
 }
 
 bool ModuleTranslation::InDesignerBlock() const {

@@ -42,7 +42,7 @@ struct ModuleTranslation {
 
   std::string CurrentRoutine;
   std::string EventFunction;
-  std::string DataSuffix;  // generated data control names are "dat" + this
+  std::string DataControl;  // the data control of the form whose code this is
   bool FormLoadSeen = false;
   bool FormActivateSeen = false;
 

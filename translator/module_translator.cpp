@@ -48,9 +48,9 @@ std::string TranslateStatement(ModuleTranslation& t, std::string line, bool newL
   }
 
   if (StartsWithNoCase(line, kFormCodeMark))
-    t.DataSuffix = SafeName(std::string_view(line).substr(kFormCodeMark.size()));
+    t.DataControl = t.Session.Names.DataControl(line.substr(kFormCodeMark.size()));
   else if (StartsWithNoCase(line, kEndFormCodeMark))
-    t.DataSuffix = t.ModuleName;
+    t.DataControl = DataControlName(t.ModuleName);
   else if (StartsWithNoCase(line, "Call AddItem"))
     return line;
 

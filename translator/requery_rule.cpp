@@ -42,7 +42,7 @@ void RequeryRule(ModuleTranslation& t, std::string& line) {
     size_t open = head.find('[');
     if (open == std::string::npos) return;
     std::string inner = WithoutBrackets(head.substr(open + 1));
-    Kept(t, line, head.substr(0, open) + "dat" + SafeName(inner) + ".Refresh", kReasonReview,
+    Kept(t, line, head.substr(0, open) + t.Session.Names.DataControl(inner) + ".Refresh", kReasonReview,
          head + "dat" + name + "Refresh");
     return;
   }
@@ -58,8 +58,8 @@ void RequeryRule(ModuleTranslation& t, std::string& line) {
   // Nothing stands before the name: the form itself, or a bare control name.
   const std::string g = line.substr(0, static_cast<size_t>(pos));
   if (g.size() == 3 && StartsWithNoCase(g, "Me")) {
-    t.Write("Me.dat" + t.DataSuffix + ".Recordset.Requery");
-    line = "Me.dat" + t.DataSuffix + ".Refresh";
+    t.Write("Me." + t.DataControl + ".Recordset.Requery");
+    line = "Me." + t.DataControl + ".Refresh";
   } else if (bound) {
     Kept(t, line, "dat" + WithoutBrackets(g) + "Refresh", kReasonReview, "dat" + g + "Refresh");
   } else {

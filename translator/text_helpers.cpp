@@ -85,12 +85,21 @@ std::string ExpressionToken(std::string_view text) {
 
 namespace {
 
-bool IsSelectedForm(const ConversionSession& s, std::string_view name, bool compareSafeNames) {
+// The Visual Basic name of a form of the run that `name` names (its Access
+// name, or the name it has in code when `compareSafeNames`); empty when no
+// selected form has that name.
+std::string SelectedForm(const ConversionSession& s, std::string_view name,
+                         bool compareSafeNames) {
   for (size_t i = 1; i < s.FormList.size(); ++i) {
     const std::string& entry = s.FormList[i];
-    if (EqualsNoCase(name, compareSafeNames ? SafeName(entry) : entry)) return true;
+    if (!EqualsNoCase(name, compareSafeNames ? SafeName(entry) : entry)) continue;
+    // The code keeps its own spelling where it names the form as the run
+    // does, case aside.
+    const ComponentName* named = s.Names.Find(ComponentRole::Form, entry);
+    const std::string written = SafeName(name);
+    return named && !EqualsNoCase(named->VbName, written) ? named->VbName : written;
   }
-  return false;
+  return std::string();
 }
 
 // A name that stands between an opening character and its closing one.
@@ -98,7 +107,7 @@ std::string DelimitedFormReference(const ConversionSession& s, std::string_view 
   size_t end = text.find(close, 1);
   std::string name(
       text.substr(1, end == std::string_view::npos ? std::string_view::npos : end - 1));
-  if (IsSelectedForm(s, name, false)) return SafeName(name);
+  if (std::string vb = SelectedForm(s, name, false); !vb.empty()) return vb;
   return "GetFormFromName(\"" + name + "\")";
 }
 
@@ -109,7 +118,7 @@ std::string FormReference(const ConversionSession& s, std::string_view text) {
   if (text[0] == '"') return DelimitedFormReference(s, text, '"');
   if (text[0] == '[') return DelimitedFormReference(s, text, ']');
   std::string name = LeadingIdentifier(text);
-  if (IsSelectedForm(s, name, true)) return SafeName(name);
+  if (std::string vb = SelectedForm(s, name, true); !vb.empty()) return vb;
   // A name followed by "!" or "." is an object reference that stays as it is;
   // anything else is a variable holding the form's name.
   char behind = name.size() < text.size() ? text[name.size()] : '\0';

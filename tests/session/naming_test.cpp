@@ -1,4 +1,6 @@
 // The naming helpers and the option word.
+#include "platform/encoding.h"
+#include "session/name_registry.h"
 #include "session/naming.h"
 
 #include <gtest/gtest.h>
@@ -80,6 +82,53 @@ TEST(OptionWord, PacksElevenDigitsInTheirPositions) {
   UnpackOptionWord(s, "/out/", "0504111010");
   EXPECT_EQ(s.OutputPath, "/out/");
   EXPECT_EQ(s.OptionWordLength, 10);
+}
+
+TEST(NameRegistry, NamesAreIdentifiersUniqueAndTheSameEverywhere) {
+  NameRegistry names;
+  auto vb = [&](ComponentRole role, const std::string& name) {
+    return names.Name(role, name).VbName;
+  };
+  auto file = [&](ComponentRole role, const std::string& name) {
+    return names.Name(role, name).File;
+  };
+  EXPECT_EQ(vb(ComponentRole::Form, "Orders"), "Orders");
+  EXPECT_EQ(vb(ComponentRole::Module, "orders"), "ordersA");  // without regard to case
+  EXPECT_EQ(file(ComponentRole::Module, "orders"), "orders_");
+  EXPECT_EQ(vb(ComponentRole::Form, "frm A"), "frm_A");
+  EXPECT_EQ(vb(ComponentRole::Form, "frm-A"), "frm_AA");
+  EXPECT_EQ(file(ComponentRole::Form, "frm-A"), "frm_AA");
+  EXPECT_EQ(vb(ComponentRole::Form, "frm A"), "frm_A");  // asked again, the same name
+  // The generated components keep theirs.
+  EXPECT_EQ(vb(ComponentRole::Form, "MDIParent"), "MDIParentA");
+  EXPECT_EQ(vb(ComponentRole::Module, "MacroCode"), "MacroCodeA");
+  // What Visual Basic does not take in a name.
+  EXPECT_EQ(vb(ComponentRole::Form, "00_Home"), "a00_Home");
+  EXPECT_EQ(file(ComponentRole::Form, "00_Home"), "a00_Home");
+  EXPECT_EQ(vb(ComponentRole::Form, "Temp\xB0" "C"), "Temp_C");
+  EXPECT_EQ(vb(ComponentRole::Form, "Kategorien\xFC"), "Kategorien\xFC");
+  EXPECT_EQ(vb(ComponentRole::Form, "Select"), "aSelect");
+  EXPECT_EQ(vb(ComponentRole::Form, "??"), "a");
+  EXPECT_EQ(vb(ComponentRole::Form, "?"), "aA");
+  const std::string longName(45, 'x');
+  EXPECT_EQ(vb(ComponentRole::Form, longName), std::string(40, 'x'));
+  EXPECT_EQ(vb(ComponentRole::Form, longName + "y"), std::string(39, 'x') + "A");
+  EXPECT_EQ(names.DataControl(longName), "dat" + std::string(37, 'x'));
+  // File names: no device names, no characters a file system refuses;
+  // a module keeps its blanks.
+  EXPECT_EQ(file(ComponentRole::Module, "CON"), "CON_");
+  EXPECT_EQ(file(ComponentRole::Module, "a:b*c"), "a_b_c");
+  EXPECT_EQ(file(ComponentRole::Module, "Date Helpers"), "Date Helpers");
+  // Each renaming beyond the usual mapping is said once.
+  int said = 0;
+  for (const auto& r : names.Renamings()) said += r.Object == "frm-A";
+  EXPECT_EQ(said, 1);
+}
+
+TEST(NameRegistry, NamesWithoutAWindows1252FormStayApart) {
+  EXPECT_EQ(Utf8NameToWindows1252("l\xC4\xABgumi"), "ligumi");
+  EXPECT_EQ(Utf8NameToWindows1252("\xE4\xB8\xAD\xE6\x96\x87"), "u4E2Du6587");
+  EXPECT_EQ(Utf8NameToWindows1252("Caf\xC3\xA9"), "Caf\xE9");
 }
 
 }  // namespace

@@ -83,14 +83,12 @@ TEST_F(ModuleExport, AStandardModuleGetsItsOwnFileUnderItsSafeName) {
                        "Option Explicit\n"
                        "Public Sub A()\n"
                        "End Sub\n"));
-  EXPECT_EQ(s.ConvertedNames, (Lines{"Order_Details"}));
 }
 
 TEST_F(ModuleExport, AClassModuleGetsTheClassHeader) {
   tree.Add(AccessObjectKind::Module, "clsA", 1, {"Option Explicit"}, 1);
   for (bool vb5 : {false, true}) {
     s.Options.IsVb5 = vb5;
-    s.ConvertedNames.clear();
     const std::string text = Export("clsA", kModeModule);
     std::string expected = "VERSION 1.0 CLASS\nBEGIN\nMultiUse = -1  'True\n";
     if (!vb5)
@@ -120,32 +118,10 @@ TEST_F(ModuleExport, TheClassHeaderPassesTheTranslatorAsCode) {
   EXPECT_EQ(out.back(), "Beep");
 }
 
-TEST_F(ModuleExport, AModuleNameInUseGetsAnAForEachCollision) {
-  struct NameCase {
-    Lines inUse;
-    const char* module;
-    const char* unique;
-  };
-  const NameCase cases[] = {
-      {{}, "x", "x"},
-      {{"Orders"}, "x", "x"},
-      {{"x"}, "x", "xA"},
-      {{"X"}, "x", "xA"},  // compared without regard to case
-      {{"x", "xA"}, "x", "xAA"},
-      {{"xA", "x"}, "x", "xA"},  // each entry is tested once, in order
-      {{"Order_Details"}, "Order Details", "Order_DetailsA"},
-  };
-  for (const auto& c : cases) {
-    tree.Add(AccessObjectKind::Module, c.module, 0, {"Option Explicit"}, 1);
-    s.ConvertedNames = c.inUse;
-    const std::string text = Export(c.module, kModeModule);
-    Lines expectedNames = c.inUse;
-    expectedNames.push_back(c.unique);
-    EXPECT_EQ(s.ConvertedNames, expectedNames) << c.module;
-    Lines lines = SplitLines(text);
-    ASSERT_FALSE(lines.empty());
-    EXPECT_EQ(lines[0], std::string("Attribute VB_Name = \"") + c.unique + "\"");
-  }
+TEST_F(ModuleExport, TheNameAttributeIsTheNameTheRunGaveTheObject) {
+  s.Names.Name(ComponentRole::Form, "x");
+  tree.Add(AccessObjectKind::Module, "x", 0, {"Option Explicit"}, 1);
+  EXPECT_EQ(SplitLines(Export("x", kModeModule))[0], "Attribute VB_Name = \"xA\"");
 }
 
 TEST_F(ModuleExport, AFormsCodeIsAppendedBehindAnEmptyLine) {
@@ -166,12 +142,10 @@ TEST_F(ModuleExport, AFormsCodeIsAppendedBehindAnEmptyLine) {
   };
   for (const auto& c : cases) {
     tree.Add(AccessObjectKind::Form, "Order Details", 1, c.code, c.declarations);
-    s.ConvertedNames = {"Orders", "Order_Details"};
     EXPECT_EQ(
         Export("Order Details", kModeForm,
                "VERSION 5.00\r\nBegin VB.Form Order_Details\r\nEnd\r\n"),
         test::Crlf(std::string("VERSION 5.00\nBegin VB.Form Order_Details\nEnd\n") + c.appended));
-    EXPECT_EQ(s.ConvertedNames.size(), 2u) << "forms are named by the driver";
   }
 }
 
@@ -187,7 +161,6 @@ TEST_F(ModuleExport, AMissingModuleGivesNothing) {
   TextDocument text;
   EXPECT_FALSE(ExportModuleText(s, "basNone", kModeModule, text));
   EXPECT_TRUE(text.Empty());
-  EXPECT_TRUE(s.ConvertedNames.empty());
   s.AccessApp = nullptr;
   EXPECT_FALSE(ExportModuleText(s, "basNone", kModeModule, text));
 }
