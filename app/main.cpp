@@ -1,5 +1,6 @@
-// The morvane command: `morvane list SOURCE` and `morvane convert SOURCE -o
-// OUTDIR`, with the options of the main window as flags.
+// The morvane command: `morvane list SOURCE`, `morvane convert SOURCE -o
+// OUTDIR`, with the options of the main window as flags, and `morvane check
+// OUTDIR`.
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
@@ -14,6 +15,7 @@
 #include "platform/catalog.h"
 #include "platform/encoding.h"
 #include "session/naming.h"
+#include "session/project_check.h"
 #include "session/strings.h"
 
 namespace fs = std::filesystem;
@@ -193,6 +195,21 @@ int RunConvert(const Options& o, const char* argv0) {
   return StatusOf(summary);
 }
 
+// `morvane check OUTDIR`: each finding as file:line, and a non-zero status
+// when something would keep Visual Basic 6 from loading the project.
+int RunCheck(const std::string& dir) {
+  std::vector<ProjectFinding> findings;
+  std::string err;
+  if (!CheckProject(dir, &findings, &err)) return Fail(err);
+  int blocking = 0;
+  for (const auto& f : findings) {
+    std::printf("%s\n", Windows1252ToUtf8(FormatFinding(f)).c_str());
+    if (!f.Loads) ++blocking;
+  }
+  std::printf("%d problem(s), %zu warning(s)\n", blocking, findings.size() - blocking);
+  return blocking > 0 ? 1 : 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -253,6 +270,11 @@ int main(int argc, char** argv) {
   auto* yes = convert->add_flag("--yes", o.yes, "Answer Yes to the run's questions");
   convert->add_flag("--no", o.no, "Answer No to the run's questions")->excludes(yes);
 
+  std::string checkDir;
+  CLI::App* check = app.add_subcommand(
+      "check", "Check a generated project for what Visual Basic 6 would not load or compile");
+  check->add_option("OUTDIR", checkDir, "The output directory of a conversion")->required();
+
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& e) {
@@ -260,6 +282,7 @@ int main(int argc, char** argv) {
   }
   try {
     if (list->parsed()) return RunList(o);
+    if (check->parsed()) return RunCheck(checkDir);
     return RunConvert(o, argv[0]);
   } catch (const std::exception& e) {
     return Fail(e.what());

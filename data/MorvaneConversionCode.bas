@@ -45,6 +45,16 @@ Public Function GetToken(ByVal strText As String, ByVal lngIndex As Long, ByVal 
     GetToken = Mid$(strText, lngStart, lngEnd - lngStart)
 End Function
 
+' Stands in for an expression of a block line (If, ElseIf, Select Case,
+' Case, With, For, Do, Loop, While) that could not be translated, so that the
+' block around it still compiles. It raises an error whenever it runs: the
+' line is named in the conversion analysis under the module's name and
+' its line number, with the Access code kept as a comment beside it.
+Public Function NotTranslated(ByVal strModule As String, ByVal lngLine As Long) As Variant
+    Err.Raise vbObjectError + 31006, strModule, _
+        "Line " & lngLine & " of " & strModule & " was not translated; see the conversion analysis."
+End Function
+
 ' The first value that an SQL statement returns, read over the ADO
 ' connection; Null when it returns no row. The domain aggregate functions use
 ' it when no DAO database is open.

@@ -74,7 +74,9 @@ class MacroWriter {
   void BuildProcWrapper();
   void ReportAction(const std::string& why);
   void Reset();
-  void Walk(std::vector<std::string> lines, const std::string& macroName, std::string subName);
+  void Walk(std::vector<std::string> lines, const std::string& macroName, std::string subName,
+            bool grouped);
+  void ReportKeptChoice(const std::string& code, const std::string& why);
 
   ConversionSession& s_;
   const MacroTables& tables_;
@@ -88,6 +90,9 @@ class MacroWriter {
   // Where the body's last "End If" of a conditional action starts, so that
   // an action whose condition is "..." can join that block.
   std::optional<size_t> lastEndIf_;
+  // An empty row of a macro of its own was passed over; the next action
+  // says so in the analysis.
+  bool passedGap_ = false;
 };
 
 void MacroWriter::AddMacroLine(std::string text) {
@@ -102,6 +107,11 @@ void MacroWriter::ReportAction(const std::string& why) {
   for (size_t i = 1; i <= record_.Count; ++i) line += (i == 1 ? " " : ", ") + record_.Args[i];
   if (!record_.Condition.empty()) line = "If " + record_.Condition + ": " + line;
   s_.SupportDb->AddReportOutput({"MacroCode", kReasonNoCounterpart, line, 0, why, procName_});
+}
+
+void MacroWriter::ReportKeptChoice(const std::string& code, const std::string& why) {
+  if (!s_.SupportDb || contextProbe_ > 0) return;
+  s_.SupportDb->AddReportOutput({"MacroCode", kReasonKeptChoice, code, 0, why, procName_});
 }
 
 void MacroWriter::ConvertActionArgument(long actionId, int index, std::string& value) {
@@ -162,6 +172,13 @@ void MacroWriter::EmitAction() {
   if (action->ActionID == kStopMacroAction) s += " Function";
   if (action->ActionID == kRunCodeAction && s.size() >= 2 && s.ends_with("()"))
     s = s.size() > 7 ? s.substr(5, s.size() - 7) : std::string();
+  // A template whose argument is empty can leave half a statement ("x =",
+  // "Call"): that is kept as a comment.
+  const std::string statement = TrimBlanks(s);
+  if (!statement.empty() && (statement.back() == '=' || statement == "Call")) {
+    ReportAction("an argument the statement needs is empty; kept as a comment");
+    s = "'MORVANE " + statement;
+  }
   if (!s.empty())
     AddMacroLine(s);
   else
@@ -200,6 +217,18 @@ void MacroWriter::BuildProcWrapper() {
 
 void MacroWriter::FinishProcedure() {
   BuildProcWrapper();
+  // Actions of a group that follow an empty row and no macro name belong to
+  // no macro: Access never runs them. Written as they are, they would stand
+  // outside any procedure; they are kept as comments.
+  if (procName_.empty() && !macroBody_.empty()) {
+    std::string commented;
+    for (const auto& line : SplitLines(macroBody_))
+      if (!line.empty()) commented += "'MORVANE " + line + "\r\n";
+    ReportKeptChoice(TrimBlanks(SplitLines(macroBody_).front()),
+                     "actions behind an empty row of a macro group, outside any macro; kept as "
+                     "comments");
+    macroBody_ = commented;
+  }
   if (!macroHead_.empty() || !macroBody_.empty() || !macroTail_.empty())
     out_ += macroHead_ + "\r\n" + macroBody_ + "\r\n" + macroTail_ + "\r\n";
   macroHead_.clear();
@@ -227,6 +256,7 @@ void MacroWriter::Reset() {
   macroBody_.clear();
   macroTail_.clear();
   lastEndIf_.reset();
+  passedGap_ = false;
 }
 
 bool MacroWriter::ConvertMacroText(const std::string& macroName, std::string subName,
@@ -248,7 +278,7 @@ bool MacroWriter::ConvertMacroText(const std::string& macroName, std::string sub
   } else {
     procName_.clear();
   }
-  Walk(std::move(lines), macroName, std::move(subName));
+  Walk(std::move(lines), macroName, std::move(subName), grouped);
   return true;
 }
 
@@ -258,15 +288,32 @@ void MacroWriter::ConvertEmbeddedMacro(const std::vector<std::string>& text,
   std::vector<std::string> lines = text;
   for (auto& line : lines) line = TrimBlanks(line);
   procName_ = procName;
-  Walk(std::move(lines), procName, std::string());
+  Walk(std::move(lines), procName, std::string(), false);
   // The probe looks at the one procedure the text holds.
   if (contextProbe_ == 1) BuildProcWrapper();
 }
 
+// A long value goes on in the next line as another quoted piece; the pieces
+// are one value.
+std::vector<std::string> JoinValuePieces(std::vector<std::string> lines) {
+  std::vector<std::string> out;
+  for (auto& line : lines) {
+    if (!out.empty() && line.size() >= 2 && line.front() == '"' && line.back() == '"' &&
+        out.back().find('=') != std::string::npos && out.back().size() >= 2 &&
+        out.back().back() == '"') {
+      out.back().pop_back();
+      out.back() += line.substr(1);
+      continue;
+    }
+    out.push_back(std::move(line));
+  }
+  return out;
+}
+
 void MacroWriter::Walk(std::vector<std::string> lines, const std::string& macroName,
-                       std::string subName) {
+                       std::string subName, bool grouped) {
   std::string previous;
-  for (const auto& line : lines) {
+  for (const auto& line : JoinValuePieces(std::move(lines))) {
     const size_t eq = line.find('=');
     if (eq != std::string::npos) {
       const std::string key = TrimBlanks(std::string_view(line).substr(0, eq));
@@ -284,18 +331,40 @@ void MacroWriter::Walk(std::vector<std::string> lines, const std::string& macroN
         procName_ = MacroProcName(s_, macroName, subName);
       } else if (key == "Condition") {
         inIfBlock_ = true;
-        std::string text = raw;
-        record_.Condition = RemoveChar(ConvertMacroExpression(text, &needsContext_), '\\');
+        // The condition is read from the export's quoting, as arguments
+        // are: with the backslashes of its escapes dropped afterwards, a
+        // string literal in it would change ("*" read as " * ").
+        std::string text = DecodedValue(line, eq);
+        bool joined = false;
+        record_.Condition = ConvertMacroExpression(text, &needsContext_, &joined);
+        std::string plain = raw;
+        bool ignored = false;
+        if (joined ||
+            RemoveChar(ConvertMacroExpression(plain, &ignored), '\\') != record_.Condition)
+          ReportKeptChoice(raw, record_.Condition);
       } else if (key == "Action") {
         record_.Action = raw;
       } else if (key == "Argument") {
         if (record_.Count < kMaxArgs) record_.Args[++record_.Count] = DecodedValue(line, eq);
       }
     } else if (previous == "Begin" && line == "End") {
-      FinishProcedure();  // an empty block ends a macro of the group
-      procName_.clear();
+      // An empty row ends a macro of a group; in a macro of its own, as
+      // Access runs it, it is only a gap between actions.
+      if (grouped) {
+        FinishProcedure();
+        procName_.clear();
+      } else {
+        passedGap_ = true;
+      }
     } else if (line == "End") {
-      if (!record_.Action.empty()) EmitAction();
+      if (!record_.Action.empty()) {
+        if (passedGap_)
+          ReportKeptChoice(record_.Action,
+                           "an empty row before this action does not end the macro; the "
+                           "action stays in its procedure");
+        passedGap_ = false;
+        EmitAction();
+      }
       inIfBlock_ = false;
       record_ = MacroActionRecord{};
     }

@@ -2,6 +2,8 @@
 // text and the rules that turn each token into Visual Basic.
 #include "macros/macro_expression.h"
 
+#include <cctype>
+
 namespace morvane {
 
 namespace {
@@ -12,6 +14,16 @@ constexpr size_t kStripLimit = 2048;
 
 bool IsDelimiter(char c) { return kDelimiters.find(c) != std::string_view::npos; }
 bool IsSpace(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
+
+// Letters, digits and "_", beginning with no digit.
+bool IsPlainName(std::string_view name) {
+  if (name.empty() || (name[0] >= '0' && name[0] <= '9')) return false;
+  for (char c : name) {
+    const auto u = static_cast<unsigned char>(c);
+    if (!(std::isalnum(u) || c == '_' || u > 128)) return false;
+  }
+  return true;
+}
 
 }  // namespace
 
@@ -33,9 +45,22 @@ bool IsQuotedToken(std::string_view token) {
 std::string StripBrackets(std::string_view token) {
   std::string out;
   bool quoted = false;
-  for (char c : token.substr(0, kStripLimit)) {
+  const std::string_view text = token.substr(0, kStripLimit);
+  for (size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i];
     if (c == '\0') break;
     if (c == '"' || c == '\'') quoted = !quoted;
+    if (!quoted && c == '[') {
+      // A name that is no Visual Basic name ("[Order ID]") keeps its
+      // brackets, which Visual Basic reads too; the others lose them.
+      const size_t close = text.find(']', i + 1);
+      if (close != std::string_view::npos && !IsPlainName(text.substr(i + 1, close - i - 1)) &&
+          text.substr(i + 1, close - i - 1).find_first_of("\"'[\0") == std::string_view::npos) {
+        out.append(text.substr(i, close - i + 1));
+        i = close;
+        continue;
+      }
+    }
     if (!quoted && (c == '[' || c == ']')) continue;
     out += c;
   }
@@ -74,7 +99,9 @@ std::string NextExprToken(std::string_view text, long& position) {
   return token;
 }
 
-std::string ConvertMacroExpression(std::string& text, bool* needsContext) {
+std::string ConvertMacroExpression(std::string& text, bool* needsContext, bool* joined) {
+  // `joined`: the text differs from the plain rules' where those would not
+  // compile.
   for (char& c : text)
     if (c == '\t' || c == '\n' || c == '\r') c = ' ';
   const size_t last = text.find_last_not_of(' ');
@@ -84,9 +111,18 @@ std::string ConvertMacroExpression(std::string& text, bool* needsContext) {
     if (text.find(global) != std::string::npos) return "Eval(\"" + DoubleQuotes(text) + "\")";
 
   std::string result;
+  std::string previous;
   long position = 0;
   for (std::string token = NextExprToken(text, position); !token.empty();
-       token = NextExprToken(text, position)) {
+       previous = token, token = NextExprToken(text, position)) {
+    // "<" and ">" of "<>" are two tokens; a blank between them reads as two
+    // operators.
+    if (((previous == "<" && (token == ">" || token == "=")) ||
+         (previous == ">" && token == "=")) &&
+        !result.empty() && result.back() == ' ') {
+      result.pop_back();
+      if (joined) *joined = true;
+    }
     bool dot = false;
     if (token[0] == '[') {
       const size_t close = token.find(']');
@@ -100,8 +136,10 @@ std::string ConvertMacroExpression(std::string& text, bool* needsContext) {
       }
     }
     if (!IsQuotedToken(token) && token.find('[') != std::string::npos &&
-        token.find(']') != std::string::npos)
+        token.find(']') != std::string::npos) {
       token = StripBrackets(token);
+      if (joined && token.find('[') != std::string::npos) *joined = true;
+    }
     if (token == "No")
       token = "False";
     else if (token == "Yes")

@@ -76,6 +76,18 @@ size_t CodeStart(const std::vector<std::string>& lines) {
   return std::min(i, lines.size());
 }
 
+// The project's name as Visual Basic takes it: an identifier of at most 40
+// characters that begins with a letter. Other characters become "_".
+std::string ProjectIdentifier(const std::string& name) {
+  std::string out;
+  for (char c : name) {
+    const unsigned char u = static_cast<unsigned char>(c);
+    out += (u < 128 && std::isalnum(u)) ? c : '_';
+  }
+  if (out.empty() || !std::isalpha(static_cast<unsigned char>(out[0]))) out = "P" + out;
+  return out.substr(0, 40);
+}
+
 // The libraries the header's Object lines name, each once.
 std::vector<std::string> ObjectLines(const std::vector<std::string>& lines) {
   std::vector<std::string> objects;
@@ -332,7 +344,7 @@ std::string ProjectModel::VbpText(const std::filesystem::path& baseDir) const {
   out.push_back("Title=\"" + name + "\"");
   out.push_back(std::string("ExeName32=\"") + name + (type_ == 3 ? ".ocx\"" : ".exe\""));
   out.push_back("Command32=\"\"");
-  out.push_back("Name=\"" + name + "\"");
+  out.push_back("Name=\"" + ProjectIdentifier(name) + "\"");
   out.push_back("HelpContextID=\"0\"");
   out.push_back("CompatibleMode=\"0\"");
   for (const char* line : {"MajorVer=1",

@@ -33,6 +33,14 @@ constexpr Reason kReasons[] = {
     {11, "Generated event code; review"},
     {12, "Event property assignment; line commented out"},
     {13, "Control type that cannot be converted"},
+    {14,
+     "Block line not translated: a stand-in keeps the block and raises an error when it runs; "
+     "the old line is kept as a comment"},
+    {15, "64-bit VBA declaration written for 32-bit Visual Basic 6; review"},
+    {16,
+     "Rule not applied where it would corrupt the code (text in a string literal or comment, "
+     "or part of a longer name); kept as written"},
+    {17, "Generated file would not load or compile in Visual Basic 6"},
 };
 
 // What each tblLog error of a report says.

@@ -13,6 +13,7 @@
 #include "session/analysis_report.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
+#include "session/project_check.h"
 #include "session/strings.h"
 #include "session/user_interface.h"
 
@@ -417,6 +418,7 @@ void RunConversion(ConversionSession& s, AccessLink& link, Converters& c, RunSum
   WriteOutput(s, summary, s.ProjectName, vbp, s.ActiveProject->VbpText(vbp.parent_path()));
   if (s.Ui) s.Ui->ProgressEnd();  // E2
   CountLines(s, summary);
+  CheckConversionOutput(s);
   s.SupportDb->EndBatch();
   summary.AnalysisPath = WriteAnalysisReport(s, summary);  // E3, E4
 }

@@ -21,6 +21,9 @@ enum ReasonId : int {
   kReasonListCallback = 8,     // list callback constants
   kReasonReportReference = 9,  // references to reports
   kReasonEventProperty = 12,   // event property assignment
+  kReasonBlockKept = 14,       // block line not translated; a stand-in keeps the block
+  kReason64Bit = 15,           // 64-bit declaration written for Visual Basic 6
+  kReasonKeptChoice = 16,      // a rule left code alone that its plain text would corrupt
 };
 
 void ReportLine(ConversionSession& s, const std::string& moduleName, int reasonId,

@@ -4,13 +4,14 @@
 #include "session/naming.h"
 #include "translator/analysis_writers.h"
 #include "translator/rule_outcomes.h"
+#include "translator/vb_code.h"
 #include "translator/vb_text.h"
 
 namespace morvane {
 
 void ApplicationRules(ModuleTranslation& t, std::string& line) {
-  if (Contains(line, "Application.hWndAccessApp"))
-    line = ReplaceAllText(line, "Application.hWndAccessApp", "App.hInstance");
+  if (ContainsWord(line, "Application.hWndAccessApp", kInCode))
+    Replace(t, line, "Application.hWndAccessApp", "App.hInstance");
   else if (EqualsNoCase(line, "Application.Quit"))
     line = "End";
   else

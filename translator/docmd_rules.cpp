@@ -54,6 +54,7 @@ void MoveSizeRule(ModuleTranslation& t, std::string& line) {
   Bump(t.LinesNotTranslated);
   line = "'me.move new left,new top,width,height " + std::string(kCommentMark) +
          std::string(kCommentMark) + line;
+  t.StatementMarked = true;
 }
 
 void CloseRule(ModuleTranslation& t, std::string& line) {
@@ -84,6 +85,13 @@ void DoCmdRequeryRule(ModuleTranslation& t, std::string& line) {
     text = *name + ".requery";
   } else {
     text = Mid(line, 14) + ".requery";
+  }
+  // Without a control's name the requery is of the active object, which
+  // has no counterpart here; ".requery" alone would not compile.
+  if (TrimBlanks(text) == ".requery") {
+    Marked(t, line, kReasonNoEquivalent);
+    ++t.PassedHits;
+    return;
   }
   Kept(t, line, text, kReasonReview, text);
 }
@@ -163,7 +171,11 @@ void RunMacroRule(ModuleTranslation& t, std::string& line) {
   const int comma = InStr(line, ",");
   auto name = comma > 0 ? Mid(line, 17, comma - 18) : Mid(line, 17, Len(line) - 17);
   if (!name) return;
-  const std::string call = "Call " + SafeName(*name);
+  // The macro's procedure begins with a letter, as the macro converter
+  // names it.
+  const std::string procedure = VbIdentifier(*name, "Proc", 255);
+  if (procedure != SafeName(*name)) ++t.PassedHits;
+  const std::string call = "Call " + procedure;
   if (comma == 0 || EqualsNoCase(Mid(line, comma + 1), " , \"\"")) {
     line = call;
     return;

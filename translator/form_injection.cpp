@@ -7,6 +7,7 @@
 #include "session/conversion_session.h"
 #include "session/converters.h"
 #include "session/naming.h"
+#include "translator/text_helpers.h"
 
 namespace morvane {
 
@@ -43,18 +44,37 @@ void LoadCodeAndCaptions(ModuleTranslation& t) {
   if (!s.Form().LabelCaptionCode.empty()) t.Write(s.Form().LabelCaptionCode);
 }
 
+// The written line is the header of the Sub `name`. The plain rule looks for
+// "Sub <name>" anywhere, which also fires on a comment or a string holding
+// it, and on a longer name: the injected code would then land outside any
+// procedure or in another one. Such a hit is passed over.
+bool IsSubHeader(ModuleTranslation& t, const std::string& written, std::string_view name) {
+  const std::string text = "Sub " + std::string(name);
+  if (FindNoCase(written, text) == std::string::npos) return false;
+  for (std::string_view start : {"Sub ", "Private Sub ", "Public Sub "}) {
+    if (!StartsWithNoCase(written, start)) continue;
+    const std::string_view rest = std::string_view(written).substr(start.size());
+    if (StartsWithNoCase(rest, name) &&
+        (rest.size() == name.size() ||
+         !IsIdentifierChar(static_cast<unsigned char>(rest[name.size()]))))
+      return true;
+  }
+  ++t.PassedHits;
+  return false;
+}
+
 }  // namespace
 
 void InjectAfterLine(ModuleTranslation& t, const std::string& written) {
   const ConversionSession& s = t.Session;
-  if (FindNoCase(written, "Sub Form_Load") != std::string::npos) {
+  if (IsSubHeader(t, written, "Form_Load")) {
     t.FormLoadSeen = true;
     if (s.Form().InitCalls[0] || s.Form().InitCalls[1]) Counted(t, "Dim vReturnValue as variant");
     if (s.Form().InitCalls[0]) Counted(t, "vReturnValue=InitializeListBoxes()");
     if (s.Form().InitCalls[1]) Counted(t, "vReturnValue=InitializeComboBoxes()");
     LoadCodeAndCaptions(t);
   }
-  if (FindNoCase(written, "Sub Form_Activate") != std::string::npos) {
+  if (IsSubHeader(t, written, "Form_Activate")) {
     t.FormActivateSeen = true;
     if (s.Form().InitCalls[2]) {
       Counted(t, "Dim vReturnValue as variant");

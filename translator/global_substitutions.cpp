@@ -8,7 +8,9 @@
 
 #include "session/conversion_session.h"
 #include "session/naming.h"
+#include "translator/module_translation.h"
 #include "translator/text_helpers.h"
+#include "translator/vb_code.h"
 #include "translator/vb_text.h"
 
 namespace morvane {
@@ -94,9 +96,12 @@ static_assert(NoEmptyFind(kDatabaseNames) && NoEmptyFind(kDatabaseVariable) &&
 
 // The line with its lower-case copy, so that the many tests of a line that
 // no rule changes cost one scan each; the copy is renewed after a change.
+// Replacements act on whole words outside string literals; hits passed over
+// are counted in `passed`.
 class FoldedLine {
  public:
-  explicit FoldedLine(std::string& line) : line_(line), lower_(ToLower(line)) {}
+  FoldedLine(std::string& line, int* passed)
+      : line_(line), lower_(ToLower(line)), passed_(passed) {}
   bool Contains(std::string_view find) const {
     char buf[64];
     if (find.size() > sizeof buf) return FindNoCase(line_, find) != std::string::npos;
@@ -106,24 +111,22 @@ class FoldedLine {
   }
   void Replace(std::string_view find, std::string_view with) {
     if (!Contains(find)) return;
-    line_ = ReplaceAllText(line_, find, with);
+    line_ = ReplaceWords(line_, find, with, kInCodeOrComment, passed_);
     Changed();
   }
+  // A hit that the rule must leave: counted as passed over.
+  void Pass() { ++*passed_; }
   void Changed() { lower_ = ToLower(line_); }
 
  private:
   std::string& line_;
   std::string lower_;
+  int* passed_;
 };
 
 template <size_t N>
 void ReplaceAll(FoldedLine& folded, const Replacement (&table)[N]) {
   for (const auto& r : table) folded.Replace(r.find, r.with);
-}
-
-bool IsNameCharacter(char c) {
-  unsigned char u = static_cast<unsigned char>(c);
-  return (u >= 'a' && u <= 'z') || (u >= 'A' && u <= 'Z') || (u >= '0' && u <= '9') || u > 128;
 }
 
 constexpr std::string_view kLookup = "GetFormFromName(";
@@ -145,18 +148,51 @@ int ReferenceLength(const std::string& behind, int* nameEnd) {
   return *nameEnd;
 }
 
-// "forms(...)" and "forms!..." become the form's Visual Basic expression.
-// Returns false when neither form is left to act on.
-bool FormReferenceStep(const ConversionSession& s, std::string& line) {
-  int p = InStr(line, "forms(");
-  if (p > 0 && !(p > 1 && IsNameCharacter(line[static_cast<size_t>(p - 2)]))) {
-    const std::string r = FormReference(s, Mid(line, p + 6));
-    const int length = Len(r) - (r.find(kLookup) != std::string::npos ? 19 : 0);
-    line = Mid(line, 1, p - 1).value_or("") + r + Mid(line, p + 9 + length);
-    return true;
+// The position of the ")" that closes the "(" just before `open`, outside
+// string literals (in a comment, any); npos when the line ends first.
+size_t ClosingParenthesis(const std::string& line, size_t open) {
+  const std::string kinds = CharKinds(line);
+  const char kind = open > 0 ? kinds[open - 1] : 'c';
+  int depth = 1;
+  for (size_t i = open; i < line.size(); ++i) {
+    if (kinds[i] != kind) continue;
+    if (line[i] == '(') ++depth;
+    if (line[i] == ')' && --depth == 0) return i;
   }
-  p = InStr(line, "forms!");
-  if (p == 0 || (p > 1 && IsNameCharacter(line[static_cast<size_t>(p - 2)]))) return false;
+  return std::string::npos;
+}
+
+bool IsQuotedName(std::string_view arg) {
+  return arg.size() >= 2 && arg.front() == '"' && arg.back() == '"' &&
+         arg.substr(1, arg.size() - 2).find('"') == std::string_view::npos;
+}
+
+// "forms(...)" and "forms!..." in the code become the form's Visual Basic
+// expression. Returns false when neither is left to act on. `passed` counts
+// references the plain rule would have garbled: an argument of Forms() that
+// is an expression ("Forms(Me.CallingForm)") is handed to GetFormFromName
+// whole, where the plain rule cut it at the first dot.
+bool FormReferenceStep(const ConversionSession& s, std::string& line, int* passed) {
+  size_t at = FindWord(line, "forms(", 0, kInCodeOrComment);
+  if (at != std::string::npos) {
+    const size_t open = at + 6;
+    const size_t close = ClosingParenthesis(line, open);
+    if (close != std::string::npos) {
+      const std::string arg = TrimBlanks(std::string_view(line).substr(open, close - open));
+      std::string r;
+      if (IsQuotedName(arg) || (!arg.empty() && LeadingIdentifier(arg) == arg)) {
+        r = FormReference(s, arg);
+      } else {
+        r = std::string(kLookup) + arg + ")";
+        ++*passed;
+      }
+      line = line.substr(0, at) + r + line.substr(close + 1);
+      return true;
+    }
+  }
+  at = FindWord(line, "forms!", 0, kInCodeOrComment);
+  if (at == std::string::npos) return false;
+  const int p = static_cast<int>(at) + 1;
   const std::string behind = Mid(line, p + 6);
   const std::string r = FormReference(s, behind);
   int nameEnd = 0;
@@ -176,16 +212,79 @@ bool FormReferenceStep(const ConversionSession& s, std::string& line) {
   return true;
 }
 
+// "Forms." becomes "Forms!", except for the collection's own members, which
+// Visual Basic's Forms collection has too.
+void FormsDotRule(FoldedLine& folded, std::string& line) {
+  if (!folded.Contains("Forms.")) return;
+  std::string out;
+  size_t copied = 0;
+  int passed = 0;
+  for (size_t at = FindWord(line, "Forms.", 0, kInCodeOrComment, &passed); at != std::string::npos;
+       at = FindWord(line, "Forms.", at + 1, kInCodeOrComment, &passed)) {
+    const std::string member = LeadingIdentifier(std::string_view(line).substr(at + 6));
+    if (EqualsNoCase(member, "Count") || EqualsNoCase(member, "Item")) {
+      ++passed;
+      continue;
+    }
+    out += line.substr(copied, at - copied) + line.substr(at, 5) + "!";
+    copied = at + 6;
+  }
+  for (int i = 0; i < passed; ++i) folded.Pass();
+  if (copied == 0) return;
+  line = out + line.substr(copied);
+  folded.Changed();
+}
+
+// " Form," becomes " Me,", the form object Access code passes as "Form";
+// not in a declaration, where "As Form," names the type.
+void FormArgumentRule(FoldedLine& folded, std::string& line) {
+  if (!folded.Contains(" Form,") || StartsWithNoCase(line, "Dim")) return;
+  std::string out;
+  size_t copied = 0;
+  int passed = 0;
+  for (size_t at = FindWord(line, " Form,", 0, kInCodeOrComment, &passed); at != std::string::npos;
+       at = FindWord(line, " Form,", at + 1, kInCodeOrComment, &passed)) {
+    const std::string before = ToLower(TrimBlanks(std::string_view(line).substr(0, at)));
+    if (before.size() >= 3 && before.ends_with(" as")) {
+      ++passed;
+      continue;
+    }
+    out += line.substr(copied, at - copied) + " Me,";
+    copied = at + 6;
+  }
+  for (int i = 0; i < passed; ++i) folded.Pass();
+  if (copied == 0) return;
+  line = out + line.substr(copied);
+  folded.Changed();
+}
+
+// Declarations where "()" marks an array, not an empty argument list: the
+// plain rule spares only those that begin with Public, Private or Dim.
+constexpr std::string_view kArrayDeclarations[] = {"Static ",  "ReDim ", "Global ", "Friend ",
+                                                   "Declare ", "Event ", "Const ",  "Erase "};
+
+bool DeclaresArrays(const ModuleTranslation& t, const std::string& line) {
+  if (t.InTypeBlock) return true;
+  for (std::string_view start : kArrayDeclarations)
+    if (StartsWithNoCase(line, start)) return true;
+  return false;
+}
+
 }  // namespace
 
 void GlobalSubstitutions(ModuleTranslation& t, std::string& line) {
   ConversionSession& s = t.Session;
-  FoldedLine folded(line);
+  FoldedLine folded(line, &t.PassedHits);
   ReplaceAll(folded, kDatabaseNames);
   if (!s.IsAdp) ReplaceAll(folded, kDatabaseVariable);
   for (const auto& r : kProperties) {
-    if (r.find == " Form," && StartsWithNoCase(line, "Dim")) continue;
-    folded.Replace(r.find, r.with);
+    if (r.find == " Form,") {
+      FormArgumentRule(folded, line);
+    } else if (r.find == "Forms.") {
+      FormsDotRule(folded, line);
+    } else {
+      folded.Replace(r.find, r.with);
+    }
   }
 
   for (const auto& request : kRequests)
@@ -195,15 +294,19 @@ void GlobalSubstitutions(ModuleTranslation& t, std::string& line) {
   // Each step removes one reference; the bound only guards against a text
   // that would not shrink.
   if (folded.Contains("forms(") || folded.Contains("forms!")) {
-    for (int guard = 0; guard < 1000 && FormReferenceStep(s, line); ++guard) {
+    for (int guard = 0; guard < 1000 && FormReferenceStep(s, line, &t.PassedHits); ++guard) {
     }
     folded.Changed();
   }
 
   folded.Replace(".Object", "");
   if (!StartsWithNoCase(line, "Public ") && !StartsWithNoCase(line, "Private ") &&
-      !StartsWithNoCase(line, "Dim "))
-    folded.Replace("()", "");
+      !StartsWithNoCase(line, "Dim ") && folded.Contains("()")) {
+    if (DeclaresArrays(t, line))
+      folded.Pass();
+    else
+      folded.Replace("()", "");
+  }
   folded.Replace(".Attributes", "!Attributes");
   folded.Replace(".SourceTableName", "!SourceTableName");
   if (EqualsNoCase(line, "Quit")) {
@@ -211,7 +314,7 @@ void GlobalSubstitutions(ModuleTranslation& t, std::string& line) {
     folded.Changed();
   }
 
-  if (folded.Contains("SysCmd(")) {
+  if (folded.Contains("SysCmd(") && ContainsWord(line, "SysCmd(", kInCodeOrComment)) {
     folded.Replace("SysCmd(", "SysCmdVB(");
     s.ListControlsUsed[s.Options.IsMdi ? 6 : 7] = true;
   }

@@ -5,7 +5,6 @@
 #include "translator/me_rules.h"
 
 #include <algorithm>
-#include <cctype>
 #include <string_view>
 
 #include "platform/support_db.h"
@@ -13,6 +12,7 @@
 #include "session/naming.h"
 #include "translator/rule_outcomes.h"
 #include "translator/text_helpers.h"
+#include "translator/vb_code.h"
 #include "translator/vb_text.h"
 
 namespace morvane {
@@ -38,11 +38,6 @@ constexpr MemberRule kMembers[] = {
     {"OrderBy", Member::Flag, &FormState::UsesOrderBy},
     {"OrderByOn", Member::Flag, &FormState::UsesOrderByOn},
 };
-
-bool IsIdentifierCharacter(char c) {
-  const unsigned char u = static_cast<unsigned char>(c);
-  return std::isalnum(u) || u == '_' || u > 128;
-}
 
 const MemberRule* FindMember(const std::string& m) {
   for (const auto& r : kMembers)
@@ -74,13 +69,15 @@ void RulesFor(ModuleTranslation& t, std::string& line, const std::string& owner)
   ConversionSession& s = t.Session;
   const std::string key = owner + ".";
   const std::string& dat = t.DataControl;
-  // The owner stands as a word of its own: "datOrders." is no reference to
-  // the form "Orders". And the search goes on behind what a rule put in.
-  for (int p = InStrExact(line, key); p != 0;) {
-    if (p > 1 && IsIdentifierCharacter(line[static_cast<size_t>(p - 2)])) {
-      p = InStrExact(line, key, p + 1);
-      continue;
-    }
+  // The owner stands as a word of its own, in code or a comment: "datOrders."
+  // is no reference to the form "Orders", nor is a word in a string literal.
+  // And the search goes on behind what a rule put in.
+  constexpr WordMatch kOwner{false, true};
+  auto next = [&](int from) {
+    const size_t at = FindWord(line, key, static_cast<size_t>(from - 1), kOwner);
+    return at == std::string::npos ? 0 : static_cast<int>(at) + 1;
+  };
+  for (int p = next(1); p != 0;) {
     const int behind = p + Len(key);  // first character behind the "."
     const std::string head = Mid(line, 1, behind - 1).value_or(line);
     const std::string rest = Mid(line, behind);
@@ -115,7 +112,7 @@ void RulesFor(ModuleTranslation& t, std::string& line, const std::string& owner)
         }
         break;
     }
-    p = InStrExact(line, key, std::max(p + 1, Len(head) + Len(inserted) + 1));
+    p = next(std::max(p + 1, Len(head) + Len(inserted) + 1));
   }
 }
 
@@ -123,7 +120,7 @@ void RulesFor(ModuleTranslation& t, std::string& line, const std::string& owner)
 
 void MeRules(ModuleTranslation& t, std::string& line) {
   if (StartsWithNoCase(line, "Me!")) line = "Me." + line.substr(3);
-  line = ReplaceAllText(line, " Me!", " Me.");
+  Replace(t, line, " Me!", " Me.");
   RulesFor(t, line, "Me");
   RulesFor(t, line, t.ModuleName);
 }

@@ -11,6 +11,7 @@
 #include "session/conversion_session.h"
 #include "session/converters.h"
 #include "session/naming.h"
+#include "translator/declaration_section.h"
 
 namespace morvane {
 
@@ -121,11 +122,9 @@ void MoveDeclarationBlocks(ConversionSession& s, const std::string& name) {
   const int declarations = code.CountOfDeclarationLines();
   lines = ReadCode(code, code.CountOfLines());
   for (int i = 1; i <= declarations && i <= static_cast<int>(lines.size());) {
-    const std::string& text = lines[static_cast<size_t>(i - 1)];
-    auto earlier_end = lines.begin() + (i - 1);
-    if (!text.empty() && std::find(lines.begin(), earlier_end, text) != earlier_end) {
+    if (RepeatsDeclaration(lines, static_cast<size_t>(i - 1))) {
       code.DeleteLines(i, 1);
-      lines.erase(earlier_end);
+      lines.erase(lines.begin() + (i - 1));
     } else {
       ++i;
     }

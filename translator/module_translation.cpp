@@ -22,4 +22,9 @@ ModuleTranslation::ModuleTranslation(ConversionSession& session, int mode, std::
   if (Mode == kModeForm) DataControl = DataControlName(ModuleName);
 }
 
+bool ModuleTranslation::InDesignerBlock() const {
+  if (Mode != kModeModule && (EndCount == 0 || BeginCount == 0)) return true;
+  return EndCount < BeginCount;
+}
+
 }  // namespace morvane

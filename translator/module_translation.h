@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace morvane {
@@ -44,6 +45,37 @@ struct ModuleTranslation {
   std::string DataControl;  // the data control of the form whose code this is
   bool FormLoadSeen = false;
   bool FormActivateSeen = false;
+
+  // The statement in hand: a rule commented it out; hits of a rule's text
+  // that the rules passed over where the plain text rule would have acted
+  // (inside a string literal or comment, or part of a longer name).
+  bool StatementMarked = false;
+  int PassedHits = 0;
+  // Inside a Type ... End Type block of the declarations.
+  bool InTypeBlock = false;
+
+  // An #If ... #End If block, as Visual Basic 6 compiles it (VBA7 and Win64
+  // are not defined there).
+  struct Conditional {
+    bool ParentActive = true;  // the code around the block is compiled
+    bool BranchActive = false;
+    bool Taken = false;  // a branch before this one was compiled
+    bool HadElse = false;
+    bool VbaSevenOnly = false;    // "#If VBA7 Then"
+    bool Unknown = false;         // a condition that cannot be read: all compiled
+    size_t FirstBranchBegin = 0;  // output lines of the first branch
+    size_t FirstBranchEnd = 0;
+  };
+  std::vector<Conditional> Conditionals;
+  // Constants of #Const lines, by lower-case name.
+  std::vector<std::pair<std::string, std::string>> CompilerConstants;
+  // The statement in hand is compiled by Visual Basic 6.
+  bool Compiled() const {
+    return Conditionals.empty() ||
+           (Conditionals.back().ParentActive && Conditionals.back().BranchActive);
+  }
+  // The designer block of a form or report is still being copied.
+  bool InDesignerBlock() const;
 
   std::vector<std::string> Output;
   // Adds a line to the output. Lines a rule writes ahead of the current line

@@ -3,7 +3,6 @@
 // second pass.
 #include "translator/module_translator.h"
 
-#include <exception>
 #include <string_view>
 #include <vector>
 
@@ -20,8 +19,11 @@
 #include "translator/procedure_rules.h"
 #include "translator/recordset_pass.h"
 #include "translator/requery_rule.h"
+#include "translator/rule_outcomes.h"
+#include "translator/statements.h"
 #include "translator/unsupported_features.h"
 #include "translator/vb_text.h"
+#include "translator/vba64_rules.h"
 
 namespace morvane {
 
@@ -32,49 +34,46 @@ namespace {
 constexpr std::string_view kFormCodeMark = "'MORVANE Form Code for ";
 constexpr std::string_view kEndFormCodeMark = "'MORVANE End Form Code for ";
 
-// Step 15: the line goes out, and the injection sees every line written.
-void Emit(ModuleTranslation& t, const std::string& line) {
-  t.Write(line);
-  InjectAfterLine(t, line);
-}
+}  // namespace
 
-bool InDesignerBlock(const ModuleTranslation& t) {
-  if (t.Mode != kModeModule && (t.EndCount == 0 || t.BeginCount == 0)) return true;
-  return t.EndCount < t.BeginCount;
-}
-
-void TranslateLine(ModuleTranslation& t, std::string line) {
+std::string TranslateStatement(ModuleTranslation& t, std::string line, bool newLine) {
   // Only blanks go: a leading tab stays.
   line = TrimBlanks(line);
-  Bump(t.TotalLines);
-
-  if (StartsWithNoCase(line, "Begin ")) Bump(t.BeginCount);
-  if (EqualsNoCase(line, "End") && t.EndCount < t.BeginCount) Bump(t.EndCount);
-  if (InDesignerBlock(t)) return Emit(t, line);
-  if (t.EndCount == t.BeginCount) Bump(t.CodeLines);
+  if (newLine) {
+    Bump(t.TotalLines);
+    if (StartsWithNoCase(line, "Begin ")) Bump(t.BeginCount);
+    if (EqualsNoCase(line, "End") && t.EndCount < t.BeginCount) Bump(t.EndCount);
+    if (t.InDesignerBlock()) return line;
+    if (t.EndCount == t.BeginCount) Bump(t.CodeLines);
+  }
 
   if (StartsWithNoCase(line, kFormCodeMark))
     t.DataControl = t.Session.Names.DataControl(line.substr(kFormCodeMark.size()));
   else if (StartsWithNoCase(line, kEndFormCodeMark))
     t.DataControl = DataControlName(t.ModuleName);
   else if (StartsWithNoCase(line, "Call AddItem"))
-    return Emit(t, line);
+    return line;
 
   if (!line.empty() && line[0] == '\'') {
     Bump(t.CommentLines);
-    return Emit(t, line);
+    return line;
   }
   if (line.empty()) {
     Bump(t.BlankLines);
-    return Emit(t, line);
+    return line;
   }
+  // Conditional compilation is Visual Basic's own; the code of a branch that
+  // Visual Basic 6 does not compile (the 64-bit branch of "#If VBA7") stays
+  // as it was written.
+  if (line[0] == '#' || !t.Compiled()) return line;
 
   if (ProcedureHeaderRules(t, line)) {
     if (t.Mode == kModeReport) ReportRules(t, line);
-    return Emit(t, line);
+    Vba64Rules(t, line);
+    return line;
   }
   EventBodyRules(t, line);
-  if (Contains(line, "Application.")) ApplicationRules(t, line);
+  if (Fires(t, line, "Application.")) ApplicationRules(t, line);
 
   if (StartsWithNoCase(line, "DoCmd.")) {
     DoCmdRules(t, line);
@@ -83,47 +82,33 @@ void TranslateLine(ModuleTranslation& t, std::string line) {
   } else if (StartsWithNoCase(line, "Set db =")) {
     // The generated code has one database variable of its own.
     Bump(t.BlankLines);
-    return Emit(t, std::string());
-  } else if (line.find(".REQUERY") != std::string::npos) {
+    return std::string();
+  } else if (Fires(t, line, ".REQUERY", kInCodeExact)) {
     RequeryRule(t, line);
   }
 
-  if (UnsupportedFeatures(t, line)) return Emit(t, line);
+  if (UnsupportedFeatures(t, line)) return line;
   if (t.Mode == kModeForm)
     MeRules(t, line);
   else if (t.Mode == kModeReport)
     ReportRules(t, line);
+  Vba64Rules(t, line);
   GlobalSubstitutions(t, line);
-  Emit(t, line);
+  return line;
 }
-
-// The rules build their text before they change a line, so a rule that
-// cannot build it leaves the line alone. Should anything still fail, the line
-// goes out as it was read and the run goes on.
-void TranslateLineSafely(ModuleTranslation& t, const std::string& line) {
-  const size_t written = t.Output.size();
-  try {
-    TranslateLine(t, line);
-  } catch (const std::exception&) {
-    t.Output.resize(written);
-    t.Output.push_back(TrimBlanks(line));
-  }
-}
-
-}  // namespace
 
 TextDocument TranslateCode(ConversionSession& s, const TextDocument& input,
                            const std::string& moduleName, int mode) {
   ModuleTranslation t(s, mode, moduleName);
   t.Output.reserve(input.Lines().size() + 16);
-  for (const auto& line : input.Lines()) TranslateLineSafely(t, line);
+  TranslateLines(t, input.Lines());
   InjectAtEnd(t);
 
   ModuleStats(
       s, {moduleName, t.TotalLines, t.CommentLines, t.LinesNotTranslated,
           t.LinesPotentiallyConverted, t.BlankLines, t.SubCount, t.ProcCount, 0, 0, t.CodeLines});
   TextDocument output(std::move(t.Output));
-  RecordsetPass(s, output);
+  RecordsetPass(s, output, moduleName);
   return output;
 }
 

@@ -6,6 +6,7 @@
 #include "session/conversion_session.h"
 #include "session/naming.h"
 #include "translator/analysis_writers.h"
+#include "translator/rule_outcomes.h"
 #include "translator/text_helpers.h"
 #include "translator/vb_text.h"
 
@@ -88,9 +89,9 @@ bool ProcedureHeaderRules(ModuleTranslation& t, std::string& line) {
 void EventBodyRules(ModuleTranslation& t, std::string& line) {
   const std::string& e = t.EventFunction;
   if (e.empty()) return;
-  line = ReplaceAllText(line, "Exit Sub", "Exit Function");
-  line = ReplaceAllText(line, "Cancel = True", e + " = True");
-  if (EndsWithNoCase(e, "Form_Error")) line = ReplaceAllText(line, "Response = ", "Form_Error = ");
+  Replace(t, line, "Exit Sub", "Exit Function");
+  Replace(t, line, "Cancel = True", e + " = True");
+  if (EndsWithNoCase(e, "Form_Error")) Replace(t, line, "Response = ", "Form_Error = ");
   // EventFunction stays set: only the next Sub header changes it.
   if (StartsWithNoCase(line, "End Sub ") || EqualsNoCase(line, "End Sub"))
     line = "End Function" + Mid(line, 8);
@@ -107,9 +108,9 @@ void ReportRules(ModuleTranslation& t, std::string& line) {
       LogEntry(t.Session, kReportProcedureLogId, t.ModuleName, *location);
   }
   if (StartsWithNoCase(line, "Report_"))
-    line = ReplaceAllText(line, "Report_", "DataReport_");
+    Replace(t, line, "Report_", "DataReport_");
   else if (Contains(line, " Report_"))
-    line = ReplaceAllText(line, " Report_", " DataReport_");
+    Replace(t, line, " Report_", " DataReport_");
 }
 
 }  // namespace morvane

@@ -4,14 +4,15 @@
 #include "translator/recordset_pass.h"
 
 #include <array>
-#include <filesystem>
 #include <string_view>
 #include <vector>
 
 #include "platform/text_file.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
+#include "translator/analysis_writers.h"
 #include "translator/text_helpers.h"
+#include "translator/vb_code.h"
 #include "translator/vb_text.h"
 
 namespace morvane {
@@ -81,8 +82,45 @@ constexpr std::string_view kRecordsetMembers[] = {
 };
 static_assert(std::size(kRecordsetMembers) == 58);
 
+// Members of an ADO recordset that a DAO one lacks: code that opens an
+// ADODB.Recordset into a variable declared "As Recordset" calls them, and
+// "rst!Open" would not compile.
+constexpr std::string_view kAdoRecordsetMembers[] = {
+    "Open",
+    "Save",
+    "Supports",
+    "Find",
+    "Resync",
+    "Source",
+    "State",
+    "Status",
+    "ActiveConnection",
+    "CursorType",
+    "LockType",
+    "CursorLocation",
+    "MaxRecords",
+    "PageSize",
+    "PageCount",
+    "AbsolutePage",
+    "CancelBatch",
+    "UpdateBatch",
+    "MarshalOptions",
+    "ActiveCommand",
+    "DataMember",
+    "DataSource",
+    "StayInSync",
+    "Collect",
+    "CompareBookmarks",
+};
+
 bool IsRecordsetMember(const std::string& name) {
   for (auto m : kRecordsetMembers)
+    if (EqualsNoCase(m, name)) return true;
+  return false;
+}
+
+bool IsAdoRecordsetMember(const std::string& name) {
+  for (auto m : kAdoRecordsetMembers)
     if (EqualsNoCase(m, name)) return true;
   return false;
 }
@@ -95,14 +133,23 @@ void AddName(std::vector<std::string>& list, const std::string& name) {
     list.push_back(name);
 }
 
-void RecordsetRule(std::string& line, const std::vector<std::string>& variables) {
+// `kept` counts the uses the plain rule would have turned into field access
+// where this one does not: the variable's name ending a longer name
+// ("Orders.Caption" for "rs"), a string literal, an ADO member.
+void RecordsetRule(std::string& line, const std::vector<std::string>& variables, int* kept) {
   for (const auto& v : variables) {
     if (v.empty()) break;
     const std::string key = v + ".";
-    for (int p = InStr(line, key); p != 0; p = InStr(line, key, p + 1)) {
-      const int dot = p + Len(v);
-      if (!IsRecordsetMember(LeadingIdentifier(Mid(line, dot + 1))))
-        line[static_cast<size_t>(dot - 1)] = '!';
+    for (size_t p = FindNoCase(line, key); p != std::string::npos;
+         p = FindNoCase(line, key, p + 1)) {
+      const size_t dot = p + v.size();
+      const std::string member = LeadingIdentifier(std::string_view(line).substr(dot + 1));
+      if (IsRecordsetMember(member)) continue;
+      if (FindWord(line, key, p, kInCodeOrComment) != p || IsAdoRecordsetMember(member)) {
+        ++*kept;
+        continue;
+      }
+      line[dot] = '!';
     }
   }
 }
@@ -125,11 +172,16 @@ std::string Assignment(const std::string& line, int p, const std::string& value,
 }
 
 void OptionGroupRule(ConversionSession& s, std::string& line,
-                     const std::vector<std::string>& groups) {
+                     const std::vector<std::string>& groups, int* kept) {
   for (size_t gi = 1; gi < groups.size(); ++gi) {
     const std::string& g = groups[gi];
     const std::string n = SafeName(g);
     for (int p = InStr(line, g); p != 0; p = InStr(line, g, p + 1)) {
+      // A group's name inside a string literal is text.
+      if (CharKinds(line)[static_cast<size_t>(p - 1)] == 's') {
+        ++*kept;
+        continue;
+      }
       const std::string after = Mid(line, p + Len(g));
       const std::string before = Mid(line, 1, p - 1).value_or("");
       auto starts = [&](std::string_view prefix) { return StartsWithNoCase(after, prefix); };
@@ -159,6 +211,12 @@ void OptionGroupRule(ConversionSession& s, std::string& line,
         // so this is a test, not an assignment.
         if (value.find(' ', 1) != std::string::npos) {
           const std::string token = ExpressionToken(value);
+          // A value that is no plain expression ("" Or ...) is left alone:
+          // "grp()" would not compile.
+          if (token.empty()) {
+            ++*kept;
+            continue;
+          }
           line = before + n + "(" + token + ")" + value.substr(token.size());
         } else {
           line = Assignment(line, p, value, before, n);
@@ -186,12 +244,14 @@ bool IsIndexLine(std::string_view trimmed) {
 
 }  // namespace
 
-void RecordsetPass(ConversionSession& s, TextDocument& text) {
+void RecordsetPass(ConversionSession& s, TextDocument& text, const std::string& moduleName) {
   std::vector<std::string>& lines = text.Lines();
+  size_t number = 0;
   std::vector<std::string> members{""}, locals{""}, groups{""};
   bool inDeclarations = true;
   std::string pendingOption;  // the option button whose block is open
   for (auto& line : lines) {
+    ++number;
     const std::string trimmed = TrimBlanks(line);
     if (line.empty() || line[0] == '\'') continue;
     if (StartsWithNoCase(line, "Dim")) {
@@ -240,9 +300,15 @@ void RecordsetPass(ConversionSession& s, TextDocument& text) {
         pendingOption.clear();
       }
     }
-    RecordsetRule(line, members);
-    RecordsetRule(line, locals);
-    if (groups.size() > 1 && !inDeclarations) OptionGroupRule(s, line, groups);
+    const std::string before = line;
+    int kept = 0;
+    RecordsetRule(line, members, &kept);
+    RecordsetRule(line, locals, &kept);
+    if (groups.size() > 1 && !inDeclarations) OptionGroupRule(s, line, groups, &kept);
+    // The row's line number is the line's place in the written file.
+    if (kept > 0)
+      ReportLine(s, moduleName, kReasonKeptChoice, TrimBlanks(before), static_cast<int>(number),
+                 TrimBlanks(line), "");
   }
   text.SplitBreaks(0, lines.size());
 }

@@ -11,7 +11,8 @@ namespace morvane {
 
 struct ConversionSession;
 
-// Rewrites the text in place.
-void RecordsetPass(ConversionSession& s, TextDocument& text);
+// Rewrites the text in place. A use the plain rules would have garbled is
+// left as it is, with an analysis row under `moduleName`.
+void RecordsetPass(ConversionSession& s, TextDocument& text, const std::string& moduleName = "");
 
 }  // namespace morvane

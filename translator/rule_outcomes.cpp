@@ -22,6 +22,20 @@ void Marked(ModuleTranslation& t, std::string& line, int reason) {
   ReportRule(t, reason, line, std::string());
   Bump(t.LinesNotTranslated);
   line = std::string(kCommentMark) + line;
+  t.StatementMarked = true;
+}
+
+bool Fires(ModuleTranslation& t, const std::string& line, std::string_view text,
+           const WordMatch& m) {
+  int passed = 0;
+  if (ContainsWord(line, text, m, &passed)) return true;
+  t.PassedHits += passed;
+  return false;
+}
+
+void Replace(ModuleTranslation& t, std::string& line, std::string_view find, std::string_view with,
+             const WordMatch& m) {
+  line = ReplaceWords(line, find, with, m, &t.PassedHits);
 }
 
 }  // namespace morvane

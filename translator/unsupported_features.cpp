@@ -8,6 +8,7 @@
 
 #include "session/naming.h"
 #include "translator/rule_outcomes.h"
+#include "translator/vb_code.h"
 
 namespace morvane {
 
@@ -107,39 +108,76 @@ constexpr bool FeaturesAreWellFormed() {
 }
 static_assert(FeaturesAreWellFormed(), "no empty or repeated entry");
 
-// `lower` is the line in lower case, for the tests that ignore case.
-bool Holds(const std::string& line, const std::string& lower, std::string_view text, bool exact) {
+// `lower` is the line in lower case: a plain search that fails there rules
+// the entry out at once, which is the case for nearly every line.
+bool Holds(const std::string& line, const std::string& lower, std::string_view text, bool exact,
+           int* passed) {
   if (text.empty()) return false;
-  if (exact) return line.find(text) != std::string::npos;
-  return lower.find(ToLower(text)) != std::string::npos;
+  if (exact ? line.find(text) == std::string::npos : lower.find(ToLower(text)) == std::string::npos)
+    return false;
+  // Only a whole word of the code counts: a word inside a string literal or
+  // a comment, or a part of a longer name (".Format" for ".form"), is no use
+  // of the feature and must not comment out the statement.
+  int here = 0;
+  if (ContainsWord(line, text, exact ? kInCodeExact : kInCode, &here)) return true;
+  *passed += here;
+  return false;
 }
 
-}  // namespace
-
-bool UnsupportedFeatures(ModuleTranslation& t, std::string& line) {
+// The first entry that fires, or nothing; `attribute` is set when the list
+// stops at an "Attribute " line.
+const Feature* FirstFeature(const std::string& line, bool* attribute, int* passed) {
   const std::string lower = ToLower(line);
   for (const auto& f : kFeatures) {
     bool fires = false;
     switch (f.match) {
       case Match::Exact:
-        fires = Holds(line, lower, f.text, true) || Holds(line, lower, f.alternative, true);
+        fires = Holds(line, lower, f.text, true, passed) ||
+                Holds(line, lower, f.alternative, true, passed);
         break;
       case Match::Any:
-        fires = Holds(line, lower, f.text, false) || Holds(line, lower, f.alternative, false);
+        fires = Holds(line, lower, f.text, false, passed) ||
+                Holds(line, lower, f.alternative, false, passed);
         break;
       case Match::AttributeLine:
-        if (StartsWithNoCase(line, f.text)) return true;
+        if (StartsWithNoCase(line, f.text)) {
+          *attribute = true;
+          return nullptr;
+        }
         break;
       case Match::FormReference:
-        fires = Holds(line, lower, f.text, false) && !Holds(line, lower, "vb.form", false);
+        fires = Holds(line, lower, f.text, false, passed) &&
+                !Holds(line, lower, "vb.form", false, passed);
         break;
     }
-    if (fires) {
-      Marked(t, line, f.reason);
-      return false;
-    }
+    if (fires) return &f;
   }
+  return nullptr;
+}
+
+}  // namespace
+
+bool UnsupportedFeatures(ModuleTranslation& t, std::string& line) {
+  bool attribute = false;
+  int passed = 0;
+  const Feature* f = FirstFeature(line, &attribute, &passed);
+  if (attribute) {
+    t.PassedHits += passed;
+    return true;
+  }
+  if (f) {
+    Marked(t, line, f->reason);
+    return false;
+  }
+  t.PassedHits += passed;
   return false;
+}
+
+bool UsesUnsupportedFeature(const std::string& text) {
+  bool attribute = false;
+  int passed = 0;
+  return FirstFeature(text, &attribute, &passed) != nullptr ||
+         ContainsWord(text, "Application.", kInCode);
 }
 
 }  // namespace morvane

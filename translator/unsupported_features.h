@@ -13,4 +13,8 @@ namespace morvane {
 // later stages ("Attribute " lines).
 bool UnsupportedFeatures(ModuleTranslation& t, std::string& line);
 
+// The text uses a feature of the list, or a member of the Access
+// application: a statement holding it would be commented out.
+bool UsesUnsupportedFeature(const std::string& text);
+
 }  // namespace morvane

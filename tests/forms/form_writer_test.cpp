@@ -11,9 +11,9 @@
 #include "session/conversion_session.h"
 #include "session/naming.h"
 #include "session/user_interface.h"
+#include "session/vb6_check.h"
 #include "support/hint_text.h"
 #include "support/temp_dir.h"
-#include "support/vb6_checker.h"
 
 namespace morvane {
 namespace {
@@ -165,8 +165,7 @@ TEST_F(FormWriterTest, SectionsStackAndGetTheirFrames) {
   // The frames form one control; two frames, one count.
   EXPECT_NE(hints_.find("CtlCounts\r\n4\r\n"), std::string::npos) << hints_;
   // The code side, with its name attribute, comes later from the translator.
-  auto problems =
-      test::CheckVb6Structure("Sections.frm", frm + "Attribute VB_Name = \"Sections\"\r\n");
+  auto problems = CheckVb6Structure("Sections.frm", frm + "Attribute VB_Name = \"Sections\"\r\n");
   EXPECT_TRUE(problems.empty()) << problems.front();
   EXPECT_TRUE(frm.ends_with("\r\nEnd\r\nEnd\r\n"));
 }

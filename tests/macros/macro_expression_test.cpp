@@ -30,7 +30,9 @@ TEST(MacroExpression, RewritesFormReferencesAndHandsTheRestToEval) {
       {"\"Yes\"", "\"Yes\" ", false},
       {"   ", "", false},
       {"", "", false},
-      {"[Order ID]", ".Order ID ", true},
+      // A name that is no Visual Basic name keeps its brackets.
+      {"[Order ID]", ".[Order ID] ", true},
+      {"[a]<>1 And [b]>=2", ".a <> 1 And .b >= 2 ", true},
       {"[sub]![x]", ".sub!x ", true},
       {"[Screen].[ActiveForm]", "Screen.ActiveForm ", false},
       {"\"a\"\"b\"", "\"a\"\" b\" ", false},
@@ -67,6 +69,8 @@ TEST(MacroNames, CleanedNumberedAndCut) {
   EXPECT_EQ(MacroProcName(s, "Nav", "Go"), "Nav_Go");
   EXPECT_EQ(MacroProcName(s, "Nav", "Go"), "Nav_Go1");
   EXPECT_EQ(MacroProcName(s, " x", ""), "Proc_x");
+  // A Visual Basic name begins with a letter; DoCmd.RunMacro calls it so.
+  EXPECT_EQ(MacroProcName(s, "002_Import", ""), "Proc002_Import");
   EXPECT_EQ(MacroProcName(s, "Close All", ""), "Close_All");
   // Group and name are cut to 14 characters each when together they pass 30.
   EXPECT_EQ(MacroProcName(s, "OrderManagement", "RecalculateTotals"),

@@ -110,6 +110,23 @@ TEST(ProjectModel, SavesTheProjectFileWithCrLf) {
   EXPECT_FALSE(p.SaveAs(dir / "no" / "such" / "dir.vbp", &err));
 }
 
+TEST(ProjectModel, TheProjectNameIsAnIdentifier) {
+  TempDir dir;
+  for (const auto& [name, written] : std::vector<std::pair<std::string, std::string>>{
+           {"Orders", "Orders"},
+           {"2024 B\xFCro-Daten", "P2024_B_ro_Daten"},
+           {std::string(45, 'x'), std::string(40, 'x')}}) {
+    ProjectModel p;
+    p.Name = name;
+    std::string err;
+    ASSERT_TRUE(p.SaveAs(dir / "p.vbp", &err)) << err;
+    const std::string text = ReadFile(dir / "p.vbp");
+    EXPECT_NE(text.find("\r\nName=\"" + written + "\"\r\n"), std::string::npos) << name;
+    // The title keeps the name as it was.
+    EXPECT_NE(text.find("\r\nTitle=\"" + name + "\"\r\n"), std::string::npos) << name;
+  }
+}
+
 }  // namespace
 }  // namespace morvane
 

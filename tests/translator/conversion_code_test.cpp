@@ -13,8 +13,8 @@
 #include "platform/project_model.h"
 #include "platform/text_file.h"
 #include "session/conversion_session.h"
+#include "session/vb6_check.h"
 #include "support/temp_dir.h"
-#include "support/vb6_checker.h"
 
 namespace morvane::test {
 namespace {

@@ -212,21 +212,33 @@ TEST_F(ModuleExport, DeclarationBlocksMoveIntoTheDeclarationsSection) {
 
 TEST_F(ModuleExport, DuplicateDeclarationsGoButEmptyLinesStay) {
   ProjectModel project;
-  const ProjectComponent* main = project.Add(
-      dir / "Main.frm", TextDocument::FromBytes(test::Crlf("VERSION 5.00\n"
-                                                           "Begin VB.Form Main\n"
-                                                           "End\n"
-                                                           "Attribute VB_Name = \"Main\"\n"
-                                                           "Option Explicit\n"
-                                                           "\n"
-                                                           "Dim a As Integer\n"
-                                                           "\n"
-                                                           "Dim a As Integer\n"
-                                                           "dim a as integer\n"  // compared exactly
-                                                           "Dim a As Integer\n"
-                                                           "Private Sub Form_Load()\n"
-                                                           "Dim a As Integer\n"
-                                                           "End Sub\n")));
+  const ProjectComponent* main =
+      project.Add(dir / "Main.frm",
+                  TextDocument::FromBytes(test::Crlf("VERSION 5.00\n"
+                                                     "Begin VB.Form Main\n"
+                                                     "End\n"
+                                                     "Attribute VB_Name = \"Main\"\n"
+                                                     "Option Explicit\n"
+                                                     "\n"
+                                                     "Dim a As Integer\n"
+                                                     "\n"
+                                                     "Dim a As Integer\n"
+                                                     "dim a as integer\n"  // compared exactly
+                                                     "Dim a As Integer\n"
+                                                     // Parts of continued statements
+                                                     // and ends of blocks repeat no
+                                                     // declaration.
+                                                     "Private Declare Function F Lib \"k\" _\n"
+                                                     "    (ByVal h As Long) As Long\n"
+                                                     "Private Declare Function G Lib \"k\" _\n"
+                                                     "    (ByVal h As Long) As Long\n"
+                                                     "Private Type T1\n    h As Long\nEnd Type\n"
+                                                     "Private Type T2\n    h As Long\nEnd Type\n"
+                                                     "#If VBA7 Then\nPrivate Const K = 1\n#Else\n"
+                                                     "Private Const K = 1\n#End If\n"
+                                                     "Private Sub Form_Load()\n"
+                                                     "Dim a As Integer\n"
+                                                     "End Sub\n")));
   s.ActiveProject = &project;
   MoveDeclarationBlocks(s, "Main");
   EXPECT_EQ(CodeOf(*main), (Lines{
@@ -235,6 +247,21 @@ TEST_F(ModuleExport, DuplicateDeclarationsGoButEmptyLinesStay) {
                                "Dim a As Integer",
                                "",
                                "dim a as integer",
+                               "Private Declare Function F Lib \"k\" _",
+                               "    (ByVal h As Long) As Long",
+                               "Private Declare Function G Lib \"k\" _",
+                               "    (ByVal h As Long) As Long",
+                               "Private Type T1",
+                               "    h As Long",
+                               "End Type",
+                               "Private Type T2",
+                               "    h As Long",
+                               "End Type",
+                               "#If VBA7 Then",
+                               "Private Const K = 1",
+                               "#Else",
+                               "Private Const K = 1",
+                               "#End If",
                                "Private Sub Form_Load()",
                                // The bound is read before the deletions, so the
                                // lines that move up into it are looked at too.

@@ -3,7 +3,7 @@
 // injection, and the recordset and option group pass.
 #include <gtest/gtest.h>
 
-#include "support/vb6_checker.h"
+#include "session/vb6_check.h"
 #include "translator/translator_harness.h"
 
 namespace morvane {
@@ -51,13 +51,16 @@ TEST(UnsupportedFeatures, FirstEntryThatFitsMarksTheLine) {
       {"x.OnClick = \"=f()\"", "'MORVANE x.OnClick = \"=f\"", 12},
       {"x.onclick = 1", "x.onclick = 1", 0},
       {"DoIt.runcommand 5", "'MORVANE DoIt.runcommand 5", 1},
-      {"If code = acLBGetRowCount Then", "'MORVANE If code = acLBGetRowCount Then", 8},
+      {"n = acLBGetRowCount", "'MORVANE n = acLBGetRowCount", 8},
       {"x = Reports!rptA.Caption", "'MORVANE x = Reports!rptA.Caption", 9},
       {"Set f = Me.Form", "'MORVANE Set f = Me.Form", 1},
       {"Dim f As vb.Form", "Dim f As vb.Form", 0},
       {"Attribute VB_Name = \"basTest\"", "Attribute VB_Name = \"basTest\"", 0},
+      // A feature's text in a string literal is no use of it: the line stays,
+      // with a row saying the rule was not applied.
       {"Attribute VB_Description = \"CurrentUser()\"",
-       "'MORVANE Attribute VB_Description = \"CurrentUser\"", 1},
+       "Attribute VB_Description = \"CurrentUser()\"", 16},
+      {"x = Me.txtDate.Format", "x = Me.txtDate.Format", 16},
   };
   for (const auto& c : cases) {
     Translation t;
@@ -169,20 +172,26 @@ TEST(FormInjection, NewProceduresOnlyForWhatTheHintsAskFor) {
   }
 }
 
-TEST(FormInjection, BehindAnExistingHeaderOrAComment) {
+TEST(FormInjection, BehindTheHeaderOnly) {
+  // A comment naming Form_Load, or a longer name, takes no injected code:
+  // it would stand outside any procedure or in another one.
   Translation t;
   t.s.Form().InitCalls[0] = true;
   t.s.Form().FormPictureStretched = true;
   t.s.Form().FormLoadCode = "\r\ndatOrders.Refresh";
-  auto code = RunForm(t, {"' Sub Form_Load is below", "Private Sub Form_Load()", "End Sub"});
+  auto code = RunForm(t, {"' Sub Form_Load is below", "Private Sub Form_LoadData()", "End Sub",
+                          "Private Sub Form_Load()", "End Sub"});
   EXPECT_EQ(code, (std::vector<std::string>{
-                      "' Sub Form_Load is below", "Dim vReturnValue as variant",
-                      "vReturnValue=InitializeListBoxes()",
-                      "Me.PaintPicture Me.Picture, 0, 0, Me.Width, Me.Height", "",
-                      "datOrders.Refresh", "Private Sub Form_Load()", "Dim vReturnValue as variant",
+                      "' Sub Form_Load is below", "Private Sub Form_LoadData()", "End Sub",
+                      "Private Sub Form_Load()", "Dim vReturnValue as variant",
                       "vReturnValue=InitializeListBoxes()",
                       "Me.PaintPicture Me.Picture, 0, 0, Me.Width, Me.Height", "",
                       "datOrders.Refresh", "End Sub"}));
+  auto rows = t.Rows();
+  ASSERT_EQ(rows.size(), 2u);
+  EXPECT_EQ(rows[0].ReasonID, 16);
+  EXPECT_EQ(rows[0].CodeLine, "' Sub Form_Load is below");
+  EXPECT_EQ(rows[1].CodeLine, "Private Sub Form_LoadData()");
 }
 
 TEST(RecordsetPass, FieldsOfRecordsetVariablesTakeTheBang) {
@@ -280,7 +289,7 @@ TEST(PipelineStages, AModuleUsingEveryFamilyKeepsVb6Structure) {
       "End Function",
   };
   auto out = t.Run(input, kModeModule, "basAll");
-  auto problems = test::CheckVb6Structure("basAll.bas", t.output_bytes);
+  auto problems = CheckVb6Structure("basAll.bas", t.output_bytes);
   EXPECT_TRUE(problems.empty()) << problems.front();
   EXPECT_EQ(out[4], "dim  rs As Recordset");
   EXPECT_EQ(out[8], "Totals = Totals + rs!Amount");

@@ -9,7 +9,7 @@ Public Sub Rules()
     Set rs = db.OpenRecordset("x", DBOPENDYNASET)
     x = Orders!Total
     x = GetFormFromName("Customers")!Total
-    Orders!Caption = "Orders"
+    Orders.Caption = "Orders"
     x = MyForms!Total
     y = Val(Text1.Text)
     Me.Timer1.Interval = 0

@@ -1,22 +1,28 @@
-// The VB6 structural checker: reads a file's header by its kind, then walks
-// the code as VB6 reads it (logical lines, statements) and keeps a stack of
-// open blocks.
-#include "support/vb6_checker.h"
+// The check of one file: reads the header by the file's kind, then walks the
+// code as VB6 reads it (logical lines, statements) with a stack of open
+// blocks.
+#include "session/vb6_check.h"
 
 #include <algorithm>
 #include <cctype>
-#include <set>
 #include <map>
 #include <optional>
+#include <set>
 #include <string_view>
 #include <utility>
 
 #include "platform/text_file.h"
+#include "session/compiler_conditions.h"
 #include "session/naming.h"
 
-namespace morvane::test {
+namespace morvane {
 
 namespace {
+
+constexpr size_t kMaxLineBytes = 1023;
+constexpr size_t kMaxContinuations = 24;
+constexpr size_t kMaxNameLength = 40;
+constexpr std::string_view kCommentMark = "'MORVANE ";
 
 enum class FileKind { Module, Class, Form, UserControl, Designer };
 
@@ -71,8 +77,18 @@ bool StartsDateLiteral(std::string_view line, size_t pos) {
 MaskedLine Mask(std::string_view line) {
   MaskedLine m;
   size_t i = 0;
+  bool statementStart = true;
   while (i < line.size()) {
     const char c = line[i];
+    // "Rem" opens a comment where a statement begins, followed by anything
+    // but a name's character ("Rem//" too).
+    if (statementStart && line.size() >= i + 3 && EqualsNoCase(line.substr(i, 3), "rem") &&
+        (line.size() == i + 3 || !IsNameChar(line[i + 3]))) {
+      m.hasComment = true;
+      m.comment = line.substr(i);
+      return m;
+    }
+    if (!IsBlank(c)) statementStart = c == ':';
     if (c == '"') {
       size_t j = i + 1;
       bool closed = false;
@@ -142,6 +158,25 @@ std::optional<size_t> FindThen(std::string_view code) {
   return std::nullopt;
 }
 
+// The letters of Windows-1252 above the ASCII range.
+bool IsHighLetter(unsigned char u) {
+  switch (u) {
+    case 0x8A:
+    case 0x8C:
+    case 0x8E:
+    case 0x9A:
+    case 0x9C:
+    case 0x9E:
+    case 0x9F:
+    case 0xAA:
+    case 0xB5:
+    case 0xBA:
+      return true;
+    default:
+      return u >= 0xC0 && u != 0xD7 && u != 0xF7;
+  }
+}
+
 bool IsVbNameLine(std::string_view line) {
   line = Trim(line);
   constexpr std::string_view kStart = "Attribute VB_Name = \"";
@@ -188,9 +223,9 @@ const std::vector<Library>& Libraries() {
 
 // The intrinsic controls of Visual Basic 6.
 constexpr std::string_view kIntrinsicControls[] = {
-    "Label",    "TextBox",    "CommandButton", "CheckBox",     "OptionButton", "Frame",
-    "ListBox",  "ComboBox",   "PictureBox",    "Image",        "Line",         "Shape",
-    "Timer",    "Data",       "OLE",           "HScrollBar",   "VScrollBar",   "DriveListBox",
+    "Label",      "TextBox",     "CommandButton", "CheckBox",   "OptionButton", "Frame",
+    "ListBox",    "ComboBox",    "PictureBox",    "Image",      "Line",         "Shape",
+    "Timer",      "Data",        "OLE",           "HScrollBar", "VScrollBar",   "DriveListBox",
     "DirListBox", "FileListBox", "Menu"};
 
 // "Object = "{guid}#1.0#0"; "FILE.OCX"": the file, upper case; empty when the
@@ -229,6 +264,79 @@ bool IsPropertyLine(std::string_view line) {
   if (i == 0) return false;
   while (i < line.size() && IsBlank(line[i])) ++i;
   return i < line.size() && line[i] == '=';
+}
+
+// Operators spelled as words, which may follow ")" directly.
+constexpr std::string_view kWordOperators[] = {"and",  "or", "xor",  "eqv",  "imp", "mod", "is",
+                                               "like", "to", "then", "step", "as",  "else"};
+
+// What no Visual Basic expression holds, in the code of a logical line
+// (strings masked): parentheses that do not pair, an operand missing behind
+// an operator, a name or string glued to ")", a name that begins with a
+// digit, a type named with "!". Such text comes from a rewrite that cut an
+// expression, or from Access expression syntax written as code.
+std::optional<std::string> ExpressionProblem(std::string_view code) {
+  code = Trim(code);
+  int depth = 0;
+  for (char c : code) {
+    if (c == '(') ++depth;
+    if (c == ')' && --depth < 0) return "a \")\" that closes no \"(\"";
+  }
+  if (depth > 0) return "a \"(\" without its \")\"";
+  // "1&" and "x&" end in a type suffix, not an operator.
+  const bool suffix = code.size() >= 2 && code.back() == '&' && IsNameChar(code[code.size() - 2]);
+  if (!code.empty() && !suffix &&
+      std::string_view("=&+*/\\^<>").find(code.back()) != std::string_view::npos)
+    return "an expression that ends in the operator \"" + std::string(1, code.back()) + "\"";
+  for (size_t i = 0; i < code.size(); ++i) {
+    const char c = code[i];
+    if (c == '[') {  // a bracketed name may hold anything but "]"
+      const size_t close = code.find(']', i);
+      if (close == std::string_view::npos) break;
+      i = close;
+      continue;
+    }
+    if (c == '(' && i + 1 < code.size() &&
+        std::string_view("*/^\\").find(code[i + 1]) != std::string_view::npos)
+      return "an operator without its operand after \"(\"";
+    if (c == ')' && i + 1 < code.size() && (IsNameChar(code[i + 1]) || code[i + 1] == '"')) {
+      size_t end = i + 1;
+      while (end < code.size() && IsNameChar(code[end])) ++end;
+      const std::string word = ToLower(code.substr(i + 1, end - i - 1));
+      if (std::find(std::begin(kWordOperators), std::end(kWordOperators), word) ==
+          std::end(kWordOperators))
+        return "text glued to \")\": " +
+               std::string(code.substr(i, std::min<size_t>(end - i + 1, 40)));
+    }
+    // A name that begins with a digit: digits, then a letter or "_" that is
+    // no exponent or type suffix of a number.
+    if (c >= '0' && c <= '9' &&
+        (i == 0 || (!IsNameChar(code[i - 1]) && code[i - 1] != '&' && code[i - 1] != '.'))) {
+      size_t j = i;
+      while (j < code.size() && ((code[j] >= '0' && code[j] <= '9') || code[j] == '.')) ++j;
+      const bool exponent = j + 1 < code.size() &&
+                            std::string_view("EeDd").find(code[j]) != std::string_view::npos &&
+                            (std::isdigit(static_cast<unsigned char>(code[j + 1])) ||
+                             code[j + 1] == '+' || code[j + 1] == '-');
+      if (j < code.size() && IsNameChar(code[j]) && !exponent) {
+        size_t end = j;
+        while (end < code.size() && IsNameChar(code[end])) ++end;
+        return "a name that begins with a digit: " + std::string(code.substr(i, end - i));
+      }
+      i = j;
+    }
+  }
+  // "As MSForms!Label": a type's name never holds "!".
+  for (size_t p = FindNoCase(code, " as "); p != std::string::npos;
+       p = FindNoCase(code, " as ", p + 1)) {
+    size_t end = p + 4;
+    while (end < code.size() && (IsNameChar(code[end]) || code[end] == '.' || code[end] == '!'))
+      ++end;
+    const std::string_view type = code.substr(p + 4, end - p - 4);
+    if (type.find('!') != std::string_view::npos)
+      return "a type named with \"!\": " + std::string(type);
+  }
+  return std::nullopt;
 }
 
 constexpr std::string_view kModuleLevelWords[] = {
@@ -270,9 +378,18 @@ std::string CloserOf(const std::string& kind) {
 
 class Checker {
  public:
-  explicit Checker(std::vector<std::string> lines) : lines_(std::move(lines)) {}
+  explicit Checker(std::vector<std::string> lines) : lines_(std::move(lines)) {
+    for (const auto& l : lines_)
+      if (FindNoCase(l, "Enum LongPtr") != std::string::npos ||
+          FindNoCase(l, "Type LongPtr") != std::string::npos)
+        declaresLongPtr_ = true;
+  }
 
-  std::vector<std::string> Run(FileKind kind) {
+  std::vector<Vb6Finding> Run(FileKind kind) {
+    for (size_t i = 0; i < lines_.size(); ++i)
+      if (lines_[i].size() > kMaxLineBytes)
+        Problem(i, "line of " + std::to_string(lines_[i].size()) + " bytes; Visual Basic reads " +
+                       std::to_string(kMaxLineBytes) + " at most");
     size_t codeStart = 0;
     switch (kind) {
       case FileKind::Module:
@@ -287,17 +404,25 @@ class Checker {
     }
     if (codeStart <= lines_.size()) Code(codeStart);
     std::stable_sort(problems_.begin(), problems_.end(),
-                     [](const auto& a, const auto& b) { return a.first < b.first; });
-    std::vector<std::string> out;
-    for (const auto& [line, text] : problems_)
-      out.push_back("line " + std::to_string(line + 1) + ": " + text);
-    return out;
+                     [](const auto& a, const auto& b) { return a.Line < b.Line; });
+    for (auto& p : problems_) ++p.Line;
+    return problems_;
   }
 
  private:
   static constexpr size_t kStop = static_cast<size_t>(-1);
 
-  void Problem(size_t line, std::string text) { problems_.emplace_back(line, std::move(text)); }
+  void Problem(size_t line, std::string text) {
+    problems_.push_back({line, std::move(text), false});
+  }
+  // Code that is lost, though the file loads.
+  void Loss(size_t line, std::string text) { problems_.push_back({line, std::move(text), true}); }
+
+  void Name(size_t line, std::string_view name, const char* what) {
+    if (!IsVb6Identifier(name))
+      Problem(line, std::string(what) + " \"" + std::string(name) + "\" is no Visual Basic name" +
+                        (name.size() > kMaxNameLength ? " (longer than 40 characters)" : ""));
+  }
 
   std::string_view LineAt(size_t i) const {
     return i < lines_.size() ? std::string_view(lines_[i]) : std::string_view();
@@ -310,6 +435,9 @@ class Checker {
       Problem(i, "expected Attribute VB_Name = \"<name>\"");
       return kStop;
     }
+    const std::string_view t = Trim(LineAt(i));
+    const size_t open = t.find('"');
+    Name(i, t.substr(open + 1, t.size() - open - 2), "VB_Name");
     ++i;
     while (i < lines_.size() && StartsWithWord(lines_[i], "Attribute")) ++i;
     return i;
@@ -363,6 +491,7 @@ class Checker {
                                         : "expected the designer's Begin line");
       return kStop;
     }
+    Name(i, Trim(rest.substr(typeText.size())), "the designer's name");
     const size_t opened = i;
     std::vector<size_t> open;  // the controls whose block is open, innermost last
     int depth = 1;
@@ -380,6 +509,7 @@ class Checker {
       } else if (propertyDepth == 0 && !open.empty() && IsPropertyLine(t) &&
                  EqualsNoCase(SplitWord(t).first, "index")) {
         controls_[open.back()].Indexed = true;
+        controls_[open.back()].Index = std::string(Trim(t.substr(t.find('=') + 1)));
       } else if (StartsWithWord(t, "BeginProperty")) {
         ++propertyDepth;
       } else if (t == "EndProperty") {
@@ -389,6 +519,8 @@ class Checker {
         }
       } else if (!IsPropertyLine(t)) {
         Problem(i, "unexpected line in the designer block");
+      } else if (Mask(t).openString) {
+        Problem(i, "property value with a string left open");
       }
     }
     if (i >= lines_.size()) {
@@ -408,12 +540,13 @@ class Checker {
     const size_t blank = rest.find_first_of(" \t");
     if (blank == std::string_view::npos) {
       Problem(line, "control without a name");
-      controls_.push_back({"", line, false});
+      controls_.push_back({"", line, false, ""});
       return;
     }
     const std::string_view type = rest.substr(0, blank);
     const std::string_view name = Trim(rest.substr(blank));
-    controls_.push_back({std::string(name), line, false});
+    controls_.push_back({std::string(name), line, false, ""});
+    Name(line, name, "control");
     if (type.front() == '{') return;
     const size_t dot = type.find('.');
     if (dot == std::string_view::npos) {
@@ -439,15 +572,21 @@ class Checker {
   }
 
   // Two controls of one name stand only as members of a control array, each
-  // with its Index.
+  // with an Index of its own.
   void DuplicateControlNames() {
     std::map<std::string, const Control*> seen;
+    std::map<std::string, const Control*> indexes;  // "name/index"
     for (const Control& c : controls_) {
       if (c.Name.empty()) continue;
       const auto [it, added] = seen.emplace(ToLower(c.Name), &c);
       if (!added && (!c.Indexed || !it->second->Indexed))
         Problem(c.Line, "second control named " + c.Name + " (the first is on line " +
                             std::to_string(it->second->Line + 1) + ") outside a control array");
+      if (!c.Indexed) continue;
+      const auto [at, fresh] = indexes.emplace(ToLower(c.Name) + "/" + c.Index, &c);
+      if (!fresh)
+        Problem(c.Line, "control " + c.Name + " has the Index " + c.Index +
+                            " of the member on line " + std::to_string(at->second->Line + 1));
     }
   }
 
@@ -455,6 +594,7 @@ class Checker {
     std::string Name;
     size_t Line;
     bool Indexed;
+    std::string Index;
   };
   std::vector<Control> controls_;
 
@@ -464,6 +604,7 @@ class Checker {
     while (i < lines_.size()) {
       const size_t start = i;
       std::string code;
+      size_t continuations = 0;
       while (true) {
         const std::string_view raw = lines_[i];
         if (StartsWithWord(raw, "Attribute")) break;  // procedure attributes
@@ -471,9 +612,16 @@ class Checker {
         if (m.openString) Problem(i, "string literal without its closing quote");
         if (m.hasComment) {
           code += m.code;
-          // A comment that ends in " _" goes on into the next line.
+          // A comment that ends in " _" goes on into the next line: a line
+          // this system commented out takes the code behind it along.
           std::string_view comment = m.comment;
-          while (EndsWithContinuation(comment) && i + 1 < lines_.size()) comment = lines_[++i];
+          const bool marked = Trim(m.code).empty() && comment.starts_with(kCommentMark);
+          while (EndsWithContinuation(comment) && i + 1 < lines_.size()) {
+            comment = lines_[++i];
+            ++continuations;
+            if (marked && !Trim(comment).starts_with("'"))
+              Loss(i, "the commented-out line above takes this line into its comment");
+          }
           break;
         }
         if (EndsWithContinuation(m.code) && i + 1 < lines_.size()) {
@@ -481,11 +629,21 @@ class Checker {
           part.remove_suffix(1);
           code += std::string(part) + " ";
           ++i;
+          ++continuations;
+          const std::string_view next = Trim(lines_[i]);
+          if (next.starts_with("'") || next.empty()) {
+            Problem(i, "a continued statement runs into " +
+                           std::string(next.empty() ? "an empty line" : "a comment line"));
+            break;
+          }
           continue;
         }
         code += m.code;
         break;
       }
+      if (continuations > kMaxContinuations)
+        Problem(start, "statement of " + std::to_string(continuations) +
+                           " continuations; Visual Basic takes 24 at most");
       ++i;
       LogicalLine(start, code);
     }
@@ -493,6 +651,10 @@ class Checker {
   }
 
   void LogicalLine(size_t line, std::string_view code) {
+    if (Compiled() && !Trim(code).starts_with("#")) {
+      Vba64Words(line, code);
+      if (auto problem = ExpressionProblem(code)) Problem(line, *problem);
+    }
     std::vector<std::string> statements = SplitStatements(code);
     // A line number in front of the first statement.
     std::string& first = statements.front();
@@ -514,6 +676,9 @@ class Checker {
     if (w1.empty()) return true;
     const auto [w2, after2] = SplitWord(after1);
     if (w1 == "rem") return false;
+    if (w1.front() == '#') return Directive(line, w1, w2, after1);
+    // Visual Basic 6 does not read a branch it does not compile.
+    if (!Compiled()) return false;
 
     if (typeBlock_) {
       if (w1 == "end" && (w2 == "type" || w2 == "enum")) {
@@ -524,7 +689,6 @@ class Checker {
       }
       return true;  // members
     }
-    if (w1.front() == '#') return Directive(line, w1, w2);
 
     if (const auto header = ProcedureStart(statement)) {
       if (procedure_) {
@@ -610,19 +774,64 @@ class Checker {
     return true;
   }
 
-  bool Directive(size_t line, const std::string& w1, const std::string& w2) {
+  // #If blocks: balanced, and which branch Visual Basic 6 compiles.
+  bool Directive(size_t line, const std::string& w1, const std::string& w2, std::string_view rest) {
     if (w1 == "#if") {
-      conditional_.push_back({"#If", line});
+      Conditional c{line, false, false, false};
+      const auto holds = Holds(rest);
+      c.unknown = !holds;
+      c.branch = holds.value_or(true);
+      c.taken = c.branch;
+      conditional_.push_back(c);
     } else if (w1 == "#elseif" || w1 == "#else") {
-      if (conditional_.empty())
+      if (conditional_.empty()) {
         Problem(line, (w1 == "#else" ? "#Else" : "#ElseIf") + std::string(" without #If"));
+        return true;
+      }
+      Conditional& c = conditional_.back();
+      std::optional<bool> holds = w1 == "#else" ? std::optional<bool>(true) : Holds(rest);
+      if (!holds) c.unknown = true;
+      c.branch = c.unknown || (!c.taken && holds.value_or(true));
+      c.taken = c.taken || c.branch;
     } else if (w1 == "#end" && w2 == "if") {
       if (conditional_.empty())
         Problem(line, "#End If without #If");
       else
         conditional_.pop_back();
+    } else if (w1 == "#const" && Compiled()) {
+      const size_t equals = rest.find('=');
+      if (equals != std::string_view::npos)
+        constants_.emplace_back(ToLower(Trim(rest.substr(0, equals))),
+                                std::string(Trim(rest.substr(equals + 1))));
     }
     return true;
+  }
+
+  std::optional<bool> Holds(std::string_view rest) const {
+    const size_t then = FindNoCase(rest, "then");
+    return CompilerCondition(Trim(rest.substr(0, then)), constants_);
+  }
+
+  bool Compiled() const {
+    for (const auto& c : conditional_)
+      if (!c.branch) return false;
+    return true;
+  }
+
+  // VBA7's words in code that Visual Basic 6 compiles. A module that
+  // declares LongPtr itself for older hosts may use it.
+  void Vba64Words(size_t line, std::string_view code) {
+    for (std::string_view word : {"PtrSafe", "LongPtr", "LongLong"}) {
+      for (size_t p = FindNoCase(code, word); p != std::string_view::npos;
+           p = FindNoCase(code, word, p + 1)) {
+        const size_t end = p + word.size();
+        if ((p > 0 && IsNameChar(code[p - 1])) || (end < code.size() && IsNameChar(code[end])))
+          continue;
+        if (word == "LongPtr" && declaresLongPtr_) continue;
+        Problem(line, std::string(word) + " is VBA7's; Visual Basic 6 does not know it");
+        return;
+      }
+    }
   }
 
   struct ProcedureHeader {
@@ -705,15 +914,23 @@ class Checker {
       CloseOpenBlocks();
       Problem(procedure_->line, procedure_->kind + " without End " + procedure_->kind);
     }
-    for (const auto& o : conditional_) Unclosed(o);
+    for (const auto& o : conditional_) Problem(o.line, "#If without #End If");
   }
 
   std::vector<std::string> lines_;
-  std::vector<std::pair<size_t, std::string>> problems_;
+  std::vector<Vb6Finding> problems_;
   std::optional<Open> procedure_;
   std::optional<Open> typeBlock_;
   std::vector<Open> blocks_;
-  std::vector<Open> conditional_;
+  struct Conditional {
+    size_t line;
+    bool branch;   // the branch in hand is compiled
+    bool taken;    // a branch was compiled
+    bool unknown;  // a condition that cannot be read: every branch counts
+  };
+  std::vector<Conditional> conditional_;
+  std::vector<std::pair<std::string, std::string>> constants_;
+  bool declaresLongPtr_ = false;
   std::map<std::string, size_t> procedureNames_;
 };
 
@@ -726,7 +943,7 @@ std::string Extension(const std::string& fileName) {
 
 }  // namespace
 
-std::vector<std::string> CheckVb6Structure(const std::string& fileName, const std::string& text) {
+std::vector<Vb6Finding> CheckVb6File(const std::string& fileName, const std::string& text) {
   std::vector<std::string> lines = SplitLines(text);
   const std::string first = lines.empty() ? "" : std::string(Trim(lines.front()));
   const std::string ext = Extension(fileName);
@@ -743,4 +960,22 @@ std::vector<std::string> CheckVb6Structure(const std::string& fileName, const st
   return Checker(std::move(lines)).Run(kind);
 }
 
-}  // namespace morvane::test
+std::vector<std::string> CheckVb6Structure(const std::string& fileName, const std::string& text) {
+  std::vector<std::string> out;
+  for (const auto& f : CheckVb6File(fileName, text))
+    out.push_back("line " + std::to_string(f.Line) + ": " + f.Problem);
+  return out;
+}
+
+bool IsVb6Identifier(std::string_view name) {
+  if (name.empty() || name.size() > kMaxNameLength) return false;
+  const auto first = static_cast<unsigned char>(name.front());
+  if (!(std::isalpha(first) && first < 128) && !IsHighLetter(first)) return false;
+  for (char c : name) {
+    const auto u = static_cast<unsigned char>(c);
+    if (!((u < 128 && (std::isalnum(u) || c == '_')) || IsHighLetter(u))) return false;
+  }
+  return true;
+}
+
+}  // namespace morvane

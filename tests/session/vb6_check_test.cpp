@@ -1,7 +1,6 @@
-// Tests of the VB6 structural checker that the other tests run over the text
-// the converters write: each case is a small file and the exact problems
-// expected of it.
-#include "support/vb6_checker.h"
+// The check of one generated file, which the end of every run and the other
+// tests use: each case is a small file and the exact findings expected of it.
+#include "session/vb6_check.h"
 
 #include <gtest/gtest.h>
 
@@ -10,20 +9,20 @@
 
 #include "support/temp_dir.h"
 
-namespace morvane::test {
+namespace morvane {
 namespace {
 
 struct Case {
   const char* name;
   const char* fileName;
-  const char* text;  // "\n" line ends; checked with CR LF
+  std::string text;  // "\n" line ends; checked with CR LF
   std::vector<std::string> problems;
 };
 
 void RunCases(const std::vector<Case>& cases) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
-    EXPECT_EQ(CheckVb6Structure(c.fileName, Crlf(c.text)), c.problems);
+    EXPECT_EQ(CheckVb6Structure(c.fileName, test::Crlf(c.text)), c.problems);
   }
 }
 
@@ -133,7 +132,8 @@ TEST(Vb6Checker, ReadsLinesAsVb6Does) {
        "m.bas",
        "Attribute VB_Name = \"m\"\nSub A()\n#If Win16 Then\n    x = 1\n#Else\n    x = 2\n#End If\n"
        "#If A Then\nEnd Sub\n",
-       {"line 8: #If without #End If"}},
+       // A is not defined: the End Sub stands in a branch that is not read.
+       {"line 2: Sub without End Sub", "line 8: #If without #End If"}},
       {"an unterminated string",
        "m.bas",
        "Attribute VB_Name = \"m\"\nSub A()\n    s = \"abc\nEnd Sub\n",
@@ -217,7 +217,8 @@ TEST(Vb6Checker, ControlsOfADesignerBlock) {
       {"classes unknown to Visual Basic, and an Object line of another shape",
        "f.frm",
        "VERSION 5.00\nObject=MSCOMCTL.OCX\nBegin VB.Form frmA\n   Begin VB.ListView lv\n   End\n"
-       "   Begin Foo.Bar fb\n   End\n   Begin Label lbl\n   End\nEnd\nAttribute VB_Name = \"frmA\"\n",
+       "   Begin Foo.Bar fb\n   End\n   Begin Label lbl\n   End\nEnd\nAttribute VB_Name = "
+       "\"frmA\"\n",
        {"line 2: expected Object = \"{guid}#version#0\"; \"file\"",
         "line 4: unknown control class VB.ListView", "line 6: unknown control class Foo.Bar",
         "line 8: control class without its library: Label"}},
@@ -232,5 +233,72 @@ TEST(Vb6Checker, ControlsOfADesignerBlock) {
   });
 }
 
+TEST(Vb6Checker, LoadRules) {
+  const std::string longLine = "    s = \"" + std::string(1020, 'x') + "\"\n";
+  std::string manyContinuations = "Attribute VB_Name = \"m\"\nSub A()\n    s = 1 _\n";
+  for (int i = 0; i < 24; ++i) manyContinuations += "        + 1 _\n";
+  manyContinuations += "        + 1\nEnd Sub\n";
+  RunCases({
+      {"names: a digit first, a character that is no letter; a letter of Windows-1252 is one",
+       "f.frm",
+       "VERSION 5.00\nBegin VB.Form a00_Home\n   Begin VB.Label lbl\xB0x\n   End\n"
+       "   Begin VB.Label l\xE9gende\n   End\nEnd\nAttribute VB_Name = \"00_Home\"\n",
+       {"line 3: control \"lbl\xB0x\" is no Visual Basic name",
+        "line 8: VB_Name \"00_Home\" is no Visual Basic name"}},
+      {"a name of 41 characters",
+       "m.bas",
+       "Attribute VB_Name = \"" + std::string(41, 'a') + "\"\n",
+       {"line 1: VB_Name \"" + std::string(41, 'a') +
+        "\" is no Visual Basic name (longer than 40 characters)"}},
+      {"a control array with an Index twice",
+       "f.frm",
+       "VERSION 5.00\nBegin VB.Form frmA\n   Begin VB.OptionButton opt\n      Index = 1\n   End\n"
+       "   Begin VB.OptionButton opt\n      Index = 1\n   End\nEnd\nAttribute VB_Name = \"frmA\"\n",
+       {"line 6: control opt has the Index 1 of the member on line 3"}},
+      {"a property value whose string is left open",
+       "f.frm",
+       "VERSION 5.00\nBegin VB.Form frmA\n   Caption = \"1/8\"\"\nEnd\nAttribute VB_Name = "
+       "\"frmA\"\n",
+       {"line 3: property value with a string left open"}},
+      {"a line over 1,023 bytes",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n" + longLine + "End Sub\n",
+       {"line 3: line of 1030 bytes; Visual Basic reads 1023 at most"}},
+      {"25 continuations",
+       "m.bas",
+       manyContinuations,
+       {"line 3: statement of 25 continuations; Visual Basic takes 24 at most"}},
+      {"a continued statement into a comment, a marked line that swallows code",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n    x = f(1, _\n'MORVANE     Me.Form)\n"
+       "'MORVANE y = g(1, _\n        2)\nEnd Sub\n",
+       {"line 3: a \"(\" without its \")\"",
+        "line 4: a continued statement runs into a comment line",
+        "line 6: the commented-out line above takes this line into its comment"}},
+      {"64-bit words where Visual Basic 6 compiles them, not in the VBA7 branch",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\n#If VBA7 Then\nPrivate Declare PtrSafe Sub S Lib \"k\" (ByVal "
+       "h As LongPtr)\n#Else\nPrivate Declare Sub S Lib \"k\" (ByVal h As Long)\n#End If\n"
+       "#If Mac Or (VBA7 = 0) Then\nPrivate h As LongPtr\n#End If\nPrivate c As LongLong\n",
+       {"line 8: LongPtr is VBA7's; Visual Basic 6 does not know it",
+        "line 10: LongLong is VBA7's; Visual Basic 6 does not know it"}},
+      {"expressions a rewrite cut, and Access expression syntax",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nSub A()\n    MellingForm).Requery\n    x = Item(Me)Date\n"
+       "    x = Count(*)\n    lbl.Caption ='Server:'\n    Call 002_Import\n"
+       "    Dim l As MSForms!Label\n    If (a = 1) Or (b)Then y = 1& + 1.5E+3\n"
+       "    z = [3 months] + Len(s)\nEnd Sub\n",
+       {"line 3: a \")\" that closes no \"(\"", "line 4: text glued to \")\": )Date",
+        "line 5: an operator without its operand after \"(\"",
+        "line 6: an expression that ends in the operator \"=\"",
+        "line 7: a name that begins with a digit: 002_Import",
+        "line 8: a type named with \"!\": MSForms!Label"}},
+      {"Rem comments, also Rem//",
+       "m.bas",
+       "Attribute VB_Name = \"m\"\nRem// Name: (x\nSub A()\n    x = 1: Rem y = (\nEnd Sub\n",
+       {}},
+  });
+}
+
 }  // namespace
-}  // namespace morvane::test
+}  // namespace morvane

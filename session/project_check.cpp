@@ -1,0 +1,194 @@
+// The check of a generated project directory.
+#include "session/project_check.h"
+
+#include <algorithm>
+#include <map>
+#include <system_error>
+
+#include "platform/encoding.h"
+#include "platform/support_db.h"
+#include "platform/text_file.h"
+#include "session/conversion_session.h"
+#include "session/naming.h"
+#include "session/vb6_check.h"
+
+namespace morvane {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view kCheckedExtensions[] = {".bas", ".cls", ".frm", ".ctl", ".dsr"};
+
+// A file name on disk (UTF-8) as the system's text.
+std::string SystemName(const fs::path& path) {
+  DecodedText decoded;
+  std::string err;
+  const std::string name = path.filename().string();
+  if (DecodeToWindows1252(name, &decoded, &err) != DecodeStatus::Ok) return name;
+  return decoded.Text;
+}
+
+std::string Unquoted(std::string_view value) {
+  std::string v = TrimBlanks(value);
+  if (v.size() >= 2 && v.front() == '"' && v.back() == '"') v = v.substr(1, v.size() - 2);
+  return v;
+}
+
+// The Attribute VB_Name of a component's text; empty when it has none.
+std::string VbName(const std::vector<std::string>& lines) {
+  for (const auto& line : lines) {
+    const std::string t = TrimBlanks(line);
+    if (!StartsWithNoCase(t, "Attribute VB_Name")) continue;
+    const size_t eq = t.find('=');
+    return eq == std::string::npos ? std::string() : Unquoted(std::string_view(t).substr(eq + 1));
+  }
+  return std::string();
+}
+
+struct Component {
+  std::string Name;  // VB_Name, or the name the .vbp gives a module or class
+  size_t Line;       // its line in the .vbp
+};
+
+// The files of the directory by their name in lower case.
+using DirectoryIndex = std::map<std::string, fs::path>;
+
+void CheckProjectFile(const fs::path& file, const std::string& name, const DirectoryIndex& files,
+                      std::vector<ProjectFinding>* out) {
+  const size_t first = out->size();
+  std::vector<std::string> lines;
+  std::string err;
+  if (!ReadTextLines(file, &lines, &err)) {
+    out->push_back({name, 0, "cannot be read: " + err, "", false});
+    return;
+  }
+  auto finding = [&](size_t line, std::string problem) {
+    out->push_back({name, line + 1, std::move(problem), lines[line], false});
+  };
+  std::vector<Component> components;
+  bool named = false;
+  for (size_t i = 0; i < lines.size(); ++i) {
+    const std::string& line = lines[i];
+    const size_t eq = line.find('=');
+    if (eq == std::string::npos) continue;
+    const std::string key = TrimBlanks(std::string_view(line).substr(0, eq));
+    const std::string value = TrimBlanks(std::string_view(line).substr(eq + 1));
+    if (key == "Name") {
+      named = true;
+      if (!IsVb6Identifier(Unquoted(value)))
+        finding(i, "project name \"" + Unquoted(value) + "\" is no Visual Basic name");
+      continue;
+    }
+    std::string path;
+    std::string given;
+    if (key == "Module" || key == "Class") {
+      const size_t semicolon = value.find(';');
+      given = TrimBlanks(std::string_view(value).substr(0, semicolon));
+      path =
+          semicolon == std::string::npos ? std::string() : TrimBlanks(value.substr(semicolon + 1));
+    } else if (key == "Form" || key == "UserControl" || key == "Designer" ||
+               key == "PropertyPage" || key == "UserDocument") {
+      path = value;
+    } else {
+      continue;
+    }
+    std::replace(path.begin(), path.end(), '\\', '/');
+    fs::path found;
+    if (path.find('/') == std::string::npos) {
+      const auto hit = files.find(ToLower(path));
+      if (hit != files.end()) found = hit->second;
+    } else if (std::error_code ec; fs::exists(file.parent_path() / path, ec)) {
+      found = file.parent_path() / path;
+    }
+    if (found.empty()) {
+      finding(i, "lists " + path + ", which the directory does not hold");
+      continue;
+    }
+    std::vector<std::string> text;
+    if (given.empty() && ReadTextLines(found, &text, nullptr)) given = VbName(text);
+    if (!given.empty()) components.push_back({given, i});
+  }
+  if (!named) out->push_back({name, 0, "the project has no Name line", "", false});
+  // Visual Basic loads one component of a name; the second stops the load.
+  std::map<std::string, size_t> seen;
+  for (const auto& c : components) {
+    const auto [it, added] = seen.emplace(ToLower(c.Name), c.Line);
+    if (!added)
+      finding(c.Line, "a second component named " + c.Name + " (the first is on line " +
+                          std::to_string(it->second + 1) + ")");
+  }
+  std::stable_sort(
+      out->begin() + static_cast<long>(first), out->end(),
+      [](const ProjectFinding& a, const ProjectFinding& b) { return a.Line < b.Line; });
+}
+
+}  // namespace
+
+bool CheckProject(const fs::path& dir, std::vector<ProjectFinding>* findings, std::string* err) {
+  std::error_code ec;
+  if (!fs::is_directory(dir, ec)) {
+    if (err) *err = dir.string() + ": no such directory";
+    return false;
+  }
+  DirectoryIndex files;
+  std::vector<fs::path> paths;
+  for (fs::directory_iterator it(dir, ec), end; !ec && it != end; it.increment(ec)) {
+    if (!it->is_regular_file(ec)) continue;
+    paths.push_back(it->path());
+    files.emplace(ToLower(SystemName(it->path())), it->path());
+  }
+  if (ec) {
+    if (err) *err = dir.string() + ": " + ec.message();
+    return false;
+  }
+  std::sort(paths.begin(), paths.end());
+  for (const auto& path : paths) {
+    const std::string ext = ToLower(path.extension().string());
+    const std::string name = SystemName(path);
+    if (ext == ".vbp") {
+      CheckProjectFile(path, name, files, findings);
+      continue;
+    }
+    if (std::find(std::begin(kCheckedExtensions), std::end(kCheckedExtensions), ext) ==
+        std::end(kCheckedExtensions))
+      continue;
+    std::string bytes;
+    std::string readErr;
+    if (!ReadFileBytes(path, &bytes, &readErr)) {
+      findings->push_back({name, 0, "cannot be read: " + readErr, "", false});
+      continue;
+    }
+    const std::vector<std::string> lines = SplitLines(bytes);
+    for (auto& f : CheckVb6File(name, bytes)) {
+      const std::string text = f.Line >= 1 && f.Line <= lines.size() ? lines[f.Line - 1] : "";
+      findings->push_back({name, f.Line, std::move(f.Problem), text, f.Loads});
+    }
+  }
+  return true;
+}
+
+std::string FormatFinding(const ProjectFinding& f) {
+  return f.File + ":" + std::to_string(f.Line) + ": " + (f.Loads ? "warning: " : "") + f.Problem;
+}
+
+int CheckConversionOutput(ConversionSession& s) {
+  std::vector<ProjectFinding> findings;
+  if (s.OutputPath.empty() || !CheckProject(s.OutputPath, &findings, nullptr)) return 0;
+  if (!s.SupportDb) return static_cast<int>(findings.size());
+  int blocking = 0;
+  for (const auto& f : findings) {
+    const std::string module = fs::path(f.File).stem().string();
+    s.SupportDb->AddReportOutput(
+        {module, kReasonWouldNotLoad, f.Text, static_cast<int>(f.Line), f.Problem, ""});
+    if (!f.Loads) ++blocking;
+  }
+  if (blocking > 0)
+    s.SupportDb->AddRunNote(
+        "", std::to_string(blocking) +
+                " place(s) in the generated files would keep Visual Basic 6 from loading or "
+                "compiling the project; the analysis names each (morvane check OUTDIR lists them)");
+  return static_cast<int>(findings.size());
+}
+
+}  // namespace morvane

@@ -1,0 +1,42 @@
+// The check of a generated project before it goes to Visual Basic 6: every
+// generated file of the output directory (.bas, .cls, .frm, .ctl, .dsr) as
+// the development environment loads and compiles it (vb6_check.h), and each
+// project file (.vbp): its name, the files it lists, one name per component.
+// Run as `morvane check OUTDIR` and at the end of every conversion, where
+// each finding becomes a row of the analysis.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace morvane {
+
+struct ConversionSession;
+
+// The analysis reason of a finding: the generated file would not load or
+// compile in Visual Basic 6.
+inline constexpr int kReasonWouldNotLoad = 17;
+
+struct ProjectFinding {
+  std::string File;  // the file's name in the directory
+  size_t Line = 0;   // 1-based; 0 for the file as a whole
+  std::string Problem;
+  std::string Text;    // the line, as the file holds it
+  bool Loads = false;  // the project loads and compiles, but code is lost
+};
+
+// Checks the generated files of `dir` in name order. False, with `err`, when
+// the directory cannot be read.
+bool CheckProject(const std::filesystem::path& dir, std::vector<ProjectFinding>* findings,
+                  std::string* err);
+
+// "<file>:<line>: <problem>" (UTF-8 file name, Windows-1252 problem text).
+std::string FormatFinding(const ProjectFinding& f);
+
+// The check at the end of a conversion, over the session's output
+// directory: each finding is written to the analysis under its module's
+// name. Returns the number of findings.
+int CheckConversionOutput(ConversionSession& s);
+
+}  // namespace morvane

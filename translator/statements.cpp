@@ -1,0 +1,206 @@
+// The translation loop: logical lines, statements, stand-ins for block
+// lines, and the physical lines written back.
+#include "translator/statements.h"
+
+#include <exception>
+#include <string_view>
+
+#include "session/naming.h"
+#include "translator/analysis_writers.h"
+#include "translator/block_keeper.h"
+#include "translator/conditional_compilation.h"
+#include "translator/form_injection.h"
+#include "translator/rule_outcomes.h"
+#include "translator/vb_code.h"
+
+namespace morvane {
+
+namespace {
+
+std::string TrimRight(std::string_view text) {
+  while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) text.remove_suffix(1);
+  return std::string(text);
+}
+
+// Cuts the translated text of a continued statement where its lines began:
+// each line's text is looked for, whole or by its start, at a blank behind
+// the piece before. A line whose text a rule changed beyond recognition
+// joins the piece before it. `commented` text may be cut at any blank.
+std::vector<std::string> Cut(const std::string& text, const std::vector<std::string>& parts,
+                             bool commented) {
+  const std::string kinds = commented ? std::string(text.size(), 'm') : CharKinds(text);
+  std::vector<std::string> pieces;
+  size_t pieceStart = 0;
+  for (size_t k = 1; k < parts.size(); ++k) {
+    const std::string& part = parts[k];
+    size_t at = std::string::npos;
+    for (size_t length :
+         {part.size(), std::min<size_t>(part.size(), 24), std::min<size_t>(part.size(), 8)}) {
+      if (length == 0) break;
+      const std::string_view probe(part.data(), length);
+      for (size_t hit = text.find(probe, pieceStart + 1); hit != std::string::npos;
+           hit = text.find(probe, hit + 1)) {
+        if (text[hit - 1] == ' ' && kinds[hit - 1] != 's') {
+          at = hit;
+          break;
+        }
+      }
+      if (at != std::string::npos) break;
+    }
+    // A line that a rule changed begins where the line before it, found
+    // unchanged, ends.
+    const std::string& before = parts[k - 1];
+    const size_t end = pieceStart + before.size();
+    if (at == std::string::npos && (k == 1 || pieceStart > 0) && end < text.size() &&
+        text.compare(pieceStart, before.size(), before) == 0 && text[end] == ' ' &&
+        kinds[end] != 's')
+      at = end + 1;
+    if (at == std::string::npos) continue;
+    pieces.push_back(TrimRight(std::string_view(text).substr(pieceStart, at - pieceStart)));
+    pieceStart = at;
+  }
+  pieces.push_back(text.substr(pieceStart));
+  return pieces;
+}
+
+// The physical lines of a continued statement whose translated text is
+// `text`: its own lines when no rule changed it, and otherwise the text cut
+// where the lines began. A commented-out statement is commented on every
+// line, so that no mark stands inside a statement that goes on.
+std::vector<std::string> PhysicalLines(const std::string& text, const std::string& joined,
+                                       const std::vector<std::string>& originals,
+                                       const std::vector<std::string>& parts) {
+  std::vector<std::string> out;
+  if (text == joined) {
+    for (const auto& line : originals) out.push_back(TrimBlanks(line));
+    return out;
+  }
+  const std::string mark(kCommentMark);
+  auto continued = [](std::vector<std::string> lines) {
+    for (size_t i = 0; i + 1 < lines.size(); ++i) lines[i] += " _";
+    return lines;
+  };
+  if (text.starts_with(mark)) {
+    for (const auto& piece : continued(Cut(text.substr(mark.size()), parts, true)))
+      out.push_back(mark + piece);
+    return out;
+  }
+  if (const size_t tab = text.find("\t" + mark); tab != std::string::npos) {
+    const auto pieces = continued(Cut(text.substr(tab + 1 + mark.size()), parts, true));
+    out.push_back(text.substr(0, tab + 1) + mark + pieces[0]);
+    for (size_t i = 1; i < pieces.size(); ++i) out.push_back(mark + pieces[i]);
+    return out;
+  }
+  return continued(Cut(text, parts, false));
+}
+
+// Rules and the block keeper over one statement; should anything fail, the
+// statement goes out as it was read and the run goes on.
+std::string TranslateSafely(ModuleTranslation& t, const std::string& statement, bool newLine) {
+  const size_t written = t.Output.size();
+  t.StatementMarked = false;
+  t.PassedHits = 0;
+  try {
+    std::string text = TranslateStatement(t, statement, newLine);
+    if (t.StatementMarked)
+      if (auto kept = KeepBlock(t, TrimBlanks(statement), text)) text = std::move(*kept);
+    return text;
+  } catch (const std::exception&) {
+    t.Output.resize(written);
+    return TrimBlanks(statement);
+  }
+}
+
+// Type ... End Type blocks of the declarations, for the rules that read a
+// member line differently.
+void TrackTypeBlock(ModuleTranslation& t, const std::string& statement, bool after) {
+  const std::string code = CodePart(statement);
+  if (after) {
+    if (StartsWithNoCase(code, "End Type")) t.InTypeBlock = false;
+    return;
+  }
+  std::string_view rest = code;
+  for (std::string_view scope : {"Public ", "Private "})
+    if (StartsWithNoCase(rest, scope)) rest = rest.substr(scope.size());
+  if (StartsWithNoCase(rest, "Type ")) t.InTypeBlock = true;
+}
+
+// `continued`: the lines of a statement continued over several lines.
+void WriteStatement(ModuleTranslation& t, const std::string& statement, bool newLine,
+                    const std::vector<std::string>* continued) {
+  const bool designer = t.InDesignerBlock();
+  BeforeDirective(t, statement);
+  TrackTypeBlock(t, statement, false);
+  const std::string text = TranslateSafely(t, statement, newLine);
+  std::vector<std::string> lines;
+  if (continued) {
+    std::vector<std::string> parts;
+    for (const auto& line : *continued) parts.push_back(WithoutContinuation(line));
+    lines = PhysicalLines(text, statement, *continued, parts);
+  } else {
+    lines = {text};
+  }
+  for (const auto& line : lines) {
+    // Designer lines are copied as they are; a code line that a rule made
+    // longer than Visual Basic reads is continued on the next.
+    if (designer || t.InDesignerBlock()) {
+      t.Write(line);
+      continue;
+    }
+    for (auto& fitted : FitLineLength(line)) t.Write(std::move(fitted));
+  }
+  InjectAfterLine(t, text);
+  AfterDirective(t, statement);
+  TrackTypeBlock(t, statement, true);
+  // A rule that left code alone where its plain text would have changed it
+  // says so; a statement commented out needs no such row.
+  if (t.PassedHits > 0 && !t.StatementMarked)
+    ReportRule(t, kReasonKeptChoice, TrimBlanks(statement), text);
+}
+
+bool IsWholeLine(const ModuleTranslation& t, const std::string& trimmed) {
+  return trimmed.empty() || trimmed[0] == '\'' || trimmed[0] == '#' ||
+         StartsWithNoCase(trimmed, "Attribute ") || !t.Compiled();
+}
+
+void TranslateLogicalLine(ModuleTranslation& t, const std::vector<std::string>& lines) {
+  std::string joined = TrimBlanks(lines[0]);
+  if (lines.size() > 1) {
+    joined = TrimBlanks(WithoutContinuation(lines[0]));
+    for (size_t k = 1; k < lines.size(); ++k) joined += " " + WithoutContinuation(lines[k]);
+  }
+  const bool comment = !joined.empty() && joined[0] == '\'';
+  const std::vector<std::string> statements =
+      IsWholeLine(t, joined) ? std::vector<std::string>{joined} : SplitStatements(joined);
+  for (size_t k = 0; k < statements.size(); ++k) {
+    const bool single = statements.size() == 1 && lines.size() > 1;
+    WriteStatement(t, statements[k], k == 0, single ? &lines : nullptr);
+  }
+  // The other lines of a continued statement count as lines of the module.
+  const int more = static_cast<int>(lines.size()) - 1;
+  if (more > 0) {
+    Bump(t.TotalLines, more);
+    Bump(t.CodeLines, more);
+    if (comment) Bump(t.CommentLines, more);
+  }
+}
+
+}  // namespace
+
+void TranslateLines(ModuleTranslation& t, const std::vector<std::string>& lines) {
+  for (size_t i = 0; i < lines.size();) {
+    // The designer block is copied line by line; the gate opens behind it.
+    if (t.InDesignerBlock()) {
+      WriteStatement(t, lines[i], true, nullptr);
+      ++i;
+      continue;
+    }
+    size_t last = i;
+    while (last + 1 < lines.size() && ContinuesOnNextLine(lines[last])) ++last;
+    TranslateLogicalLine(t, std::vector<std::string>(lines.begin() + static_cast<long>(i),
+                                                     lines.begin() + static_cast<long>(last) + 1));
+    i = last + 1;
+  }
+}
+
+}  // namespace morvane

@@ -1,0 +1,44 @@
+// The 64-bit rules.
+#include "translator/vba64_rules.h"
+
+#include <string_view>
+
+#include "translator/analysis_writers.h"
+#include "translator/rule_outcomes.h"
+#include "translator/vb_code.h"
+
+namespace morvane {
+
+namespace {
+
+struct Replacement {
+  std::string_view find;
+  std::string_view with;
+};
+
+constexpr Replacement kVba64Words[] = {
+    {"Declare PtrSafe ", "Declare "}, {"LongPtr", "Long"},   {"CLngPtr(", "CLng("},
+    {"LongLong", "Currency"},         {"CLngLng(", "CCur("},
+};
+
+}  // namespace
+
+std::string Vba64Rewrite(const std::string& line) {
+  // A module that declares LongPtr itself for older hosts ("Enum LongPtr")
+  // keeps that name.
+  if (ContainsWord(line, "Enum LongPtr", kInCode) || ContainsWord(line, "Type LongPtr", kInCode))
+    return line;
+  std::string out = line;
+  for (const auto& r : kVba64Words) out = ReplaceWords(out, r.find, r.with, kInCode);
+  return out;
+}
+
+void Vba64Rules(ModuleTranslation& t, std::string& line) {
+  std::string rewritten = Vba64Rewrite(line);
+  if (rewritten == line) return;
+  ReportRule(t, kReason64Bit, line, rewritten);
+  Bump(t.LinesPotentiallyConverted);
+  line = std::move(rewritten);
+}
+
+}  // namespace morvane
