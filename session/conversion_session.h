@@ -62,6 +62,10 @@ struct ConversionSession {
   bool SettingsDirty = false;
   std::array<bool, 21> ListControlsUsed{};
   std::string StartupFormName;
+  // What the check of the generated files found so far: all findings, and
+  // those that keep the project from loading or compiling.
+  int CheckFindings = 0;
+  int BlockingFindings = 0;
   // Procedure names the macro converter has given out; grows across macros.
   std::vector<std::string> MacroProcNames;
 

@@ -78,7 +78,7 @@ bool WriteOutput(ConversionSession& s, RunSummary& summary, const std::string& o
 bool WriteComponent(ConversionSession& s, RunSummary& summary, const std::string& object,
                     const std::string& component) {
   std::string err;
-  if (s.ActiveProject->WriteComponent(component, *s.Output, &err)) return true;
+  if (WriteCheckedComponent(s, component, &err)) return true;
   Failed(summary, object, err);
   return false;
 }
@@ -342,6 +342,8 @@ RunSummary RunTranslation(ConversionSession& s, AccessLink& link, Converters& c,
   s.ModuleList.assign(1, "");
   s.ReportList.assign(1, "");
   s.NeedConversionCode = true;
+  s.CheckFindings = 0;
+  s.BlockingFindings = 0;
   // 7, 8: a run always makes a new project here; an earlier project in the
   // output directory is replaced, so each selected entry is taken.
   for (const auto& f : request.Forms) s.FormList.push_back(f);

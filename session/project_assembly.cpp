@@ -10,6 +10,7 @@
 #include "platform/text_file.h"
 #include "session/conversion_session.h"
 #include "session/driver.h"
+#include "session/project_check.h"
 #include "session/naming.h"
 #include "session/strings.h"
 
@@ -79,7 +80,7 @@ void WriteConversionCodeFile(ConversionSession& s, Converters& c, RunSummary& su
   const ProjectComponent* component =
       s.ActiveProject->Add(s.OutputPath + "MorvaneConversionCode.bas", std::move(text));
   std::string err;
-  if (!s.ActiveProject->WriteComponent(component->Name, *s.Output, &err))
+  if (!WriteCheckedComponent(s, component->Name, &err))
     summary.Failures.push_back("MorvaneConversionCode: " + err);
 }
 
@@ -92,7 +93,7 @@ void AddMdiParent(ConversionSession& s, RunSummary& summary) {
   const ProjectComponent* component =
       s.ActiveProject->Add(s.OutputPath + "MDIParent.frm", std::move(text));
   std::string err;
-  if (!s.ActiveProject->WriteComponent(component->Name, *s.Output, &err))
+  if (!WriteCheckedComponent(s, component->Name, &err))
     summary.Failures.push_back("MDIParent: " + err);
 }
 

@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "platform/encoding.h"
+#include "platform/project_model.h"
 #include "platform/support_db.h"
 #include "platform/text_file.h"
 #include "session/conversion_session.h"
@@ -172,23 +173,47 @@ std::string FormatFinding(const ProjectFinding& f) {
   return f.File + ":" + std::to_string(f.Line) + ": " + (f.Loads ? "warning: " : "") + f.Problem;
 }
 
-int CheckConversionOutput(ConversionSession& s) {
-  std::vector<ProjectFinding> findings;
-  if (s.OutputPath.empty() || !CheckProject(s.OutputPath, &findings, nullptr)) return 0;
-  if (!s.SupportDb) return static_cast<int>(findings.size());
-  int blocking = 0;
-  for (const auto& f : findings) {
-    const std::string module = fs::path(f.File).stem().string();
-    s.SupportDb->AddReportOutput(
-        {module, kReasonWouldNotLoad, f.Text, static_cast<int>(f.Line), f.Problem, ""});
-    if (!f.Loads) ++blocking;
+namespace {
+
+void Record(ConversionSession& s, const ProjectFinding& f) {
+  ++s.CheckFindings;
+  if (!f.Loads) ++s.BlockingFindings;
+  if (s.SupportDb)
+    s.SupportDb->AddReportOutput({fs::path(f.File).stem().string(), kReasonWouldNotLoad, f.Text,
+                                  static_cast<int>(f.Line), f.Problem, ""});
+}
+
+}  // namespace
+
+bool WriteCheckedComponent(ConversionSession& s, const std::string& component, std::string* err) {
+  if (const ProjectComponent* c = s.ActiveProject->Find(component); c && c->Text) {
+    const std::string name = SystemName(c->File);
+    const std::string bytes = c->Text->Bytes();
+    const std::vector<std::string>& lines = c->Text->Lines();
+    for (auto& f : CheckVb6File(name, bytes))
+      Record(s, {name, f.Line, std::move(f.Problem),
+                 f.Line >= 1 && f.Line <= lines.size() ? lines[f.Line - 1] : "", f.Loads});
   }
-  if (blocking > 0)
+  return s.ActiveProject->WriteComponent(component, *s.Output, err);
+}
+
+int CheckConversionOutput(ConversionSession& s) {
+  if (s.ActiveProject) {
+    const std::string file = s.ProjectFile;
+    if (!IsVb6Identifier(s.ActiveProject->Name))
+      Record(s, {file, 0, "project name \"" + s.ActiveProject->Name + "\" is no Visual Basic name",
+                 "", false});
+    std::map<std::string, int> seen;
+    for (const auto& c : s.ActiveProject->Components())
+      if (++seen[ToLower(c.Name)] == 2)
+        Record(s, {file, 0, "a second component named " + c.Name, "", false});
+  }
+  if (s.BlockingFindings > 0 && s.SupportDb)
     s.SupportDb->AddRunNote(
-        "", std::to_string(blocking) +
+        "", std::to_string(s.BlockingFindings) +
                 " place(s) in the generated files would keep Visual Basic 6 from loading or "
                 "compiling the project; the analysis names each (morvane check OUTDIR lists them)");
-  return static_cast<int>(findings.size());
+  return s.CheckFindings;
 }
 
 }  // namespace morvane

@@ -34,9 +34,14 @@ bool CheckProject(const std::filesystem::path& dir, std::vector<ProjectFinding>*
 // "<file>:<line>: <problem>" (UTF-8 file name, Windows-1252 problem text).
 std::string FormatFinding(const ProjectFinding& f);
 
-// The check at the end of a conversion, over the session's output
-// directory: each finding is written to the analysis under its module's
-// name. Returns the number of findings.
+// A component of the run, checked as it is written: each finding becomes a
+// row of the analysis under the component's name and counts for the run.
+// Then the file is written. False with the message of a failed write.
+bool WriteCheckedComponent(ConversionSession& s, const std::string& component, std::string* err);
+
+// The check of the project itself at the end of a conversion (its name, one
+// component of each name), and the run's note on what the checks found.
+// Returns the number of findings of the run.
 int CheckConversionOutput(ConversionSession& s);
 
 }  // namespace morvane

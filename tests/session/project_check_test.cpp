@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/output_directory.h"
+#include "platform/project_model.h"
 #include "platform/support_db.h"
 #include "session/conversion_session.h"
 #include "support/temp_dir.h"
@@ -56,27 +58,41 @@ TEST(ProjectCheck, FilesAndTheProjectFile) {
   EXPECT_NE(err.find("no such directory"), std::string::npos);
 }
 
-TEST(ProjectCheck, AtTheEndOfARunEachFindingIsAnAnalysisRow) {
+TEST(ProjectCheck, ARunChecksEachComponentAsItIsWritten) {
   TempDir dir;
-  WriteProject(dir);
   std::string err;
   auto db = SupportDatabase::Open(dir / "morvane.db", MORVANE_DATA_DIR, &err);
   ASSERT_TRUE(db) << err;
+  ProjectModel project;
+  project.Name = "My Project";
+  OutputDirectory output(dir.path());
   ConversionSession s;
-  s.OutputPath = dir.path().string() + "/";
+  s.ProjectFile = "My Project.vbp";
   s.SupportDb = db.get();
-  EXPECT_EQ(CheckConversionOutput(s), 5);
+  s.ActiveProject = &project;
+  s.Output = &output;
+  project.Add(dir / "basA.bas",
+              TextDocument::FromBytes(
+                  Crlf("Attribute VB_Name = \"basA\"\nSub A()\n    If x Then\nEnd Sub\n")));
+  project.Add(dir / "basB.bas",
+              TextDocument::FromBytes(Crlf("Attribute VB_Name = \"basB\"\nSub B()\n'MORVANE y = "
+                                           "f(1, _\n    2)\nEnd Sub\n")));
+  ASSERT_TRUE(WriteCheckedComponent(s, "basA", &err)) << err;
+  ASSERT_TRUE(WriteCheckedComponent(s, "basB", &err)) << err;
+  EXPECT_TRUE(std::filesystem::exists(dir / "basA.bas"));
+  EXPECT_EQ(CheckConversionOutput(s), 3);
   const auto rows = db->ReportOutput();
-  ASSERT_EQ(rows.size(), 5u);
-  EXPECT_EQ(rows[3].ModuleName, "basA");
-  EXPECT_EQ(rows[3].ReasonID, kReasonWouldNotLoad);
-  EXPECT_EQ(rows[3].CodeLine, "    If x Then");
-  EXPECT_EQ(rows[3].LineNumber, 3);
-  EXPECT_EQ(rows[3].TranslatedLine, "If without End If");
+  ASSERT_EQ(rows.size(), 3u);
+  EXPECT_EQ(rows[0].ModuleName, "basA");
+  EXPECT_EQ(rows[0].ReasonID, kReasonWouldNotLoad);
+  EXPECT_EQ(rows[0].CodeLine, "    If x Then");
+  EXPECT_EQ(rows[0].LineNumber, 3);
+  EXPECT_EQ(rows[0].TranslatedLine, "If without End If");
+  EXPECT_EQ(rows[2].TranslatedLine, "project name \"My Project\" is no Visual Basic name");
   // The run's summary names what would not load; the lost line is a row only.
   const auto notes = db->RunNotes();
   ASSERT_EQ(notes.size(), 1u);
-  EXPECT_EQ(notes[0].second.rfind("4 place(s) in the generated files", 0), 0u);
+  EXPECT_EQ(notes[0].second.rfind("2 place(s) in the generated files", 0), 0u);
 }
 
 }  // namespace
