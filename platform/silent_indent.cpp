@@ -8,7 +8,9 @@
 // level negative: a stray closing line is written at the current level.
 #include <algorithm>
 #include <cctype>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/line_editor.h"
@@ -19,19 +21,31 @@ namespace morvane {
 
 namespace {
 
-std::string Trim(const std::string& s) { return std::string(text::Trim(s)); }
-std::string Lower(const std::string& s) { return text::Lower(s); }
+std::string_view Trim(std::string_view s) { return text::Trim(s); }
 
-bool Starts(const std::string& lower, const char* prefix) { return lower.rfind(prefix, 0) == 0; }
+// The lower-case copy of a line, kept in one buffer that each line reuses.
+class Folded {
+ public:
+  std::string_view Of(std::string_view s) {
+    buffer_.assign(s);
+    for (char& c : buffer_) c = text::Fold(c);
+    return buffer_;
+  }
 
-bool IsWord(const std::string& lower, const char* word) {
-  size_t n = std::char_traits<char>::length(word);
-  return lower.rfind(word, 0) == 0 && (lower.size() == n || lower[n] == ' ' || lower[n] == '\t' ||
-                                       lower[n] == '\'' || lower[n] == ':');
+ private:
+  std::string buffer_;
+};
+
+bool Starts(std::string_view lower, std::string_view prefix) { return lower.starts_with(prefix); }
+
+bool IsWord(std::string_view lower, std::string_view word) {
+  const size_t n = word.size();
+  return lower.starts_with(word) && (lower.size() == n || lower[n] == ' ' || lower[n] == '\t' ||
+                                     lower[n] == '\'' || lower[n] == ':');
 }
 
 // The code of a line without its trailing comment; quotes are respected.
-std::string CodePart(const std::string& line) {
+std::string_view CodePart(std::string_view line) {
   bool quoted = false;
   for (size_t i = 0; i < line.size(); ++i) {
     if (line[i] == '"') quoted = !quoted;
@@ -40,9 +54,9 @@ std::string CodePart(const std::string& line) {
   return Trim(line);
 }
 
-bool IsComment(const std::string& lower) { return Starts(lower, "'") || IsWord(lower, "rem"); }
+bool IsComment(std::string_view lower) { return Starts(lower, "'") || IsWord(lower, "rem"); }
 
-bool IsLabel(const std::string& t) {
+bool IsLabel(std::string_view t) {
   if (t.empty()) return false;
   if (std::isdigit(static_cast<unsigned char>(t[0]))) {  // a line number
     size_t i = 0;
@@ -53,16 +67,16 @@ bool IsLabel(const std::string& t) {
   size_t i = 0;
   while (i < t.size() && (std::isalnum(static_cast<unsigned char>(t[i])) || t[i] == '_')) ++i;
   if (i >= t.size() || t[i] != ':') return false;
-  std::string rest = Trim(t.substr(i + 1));
-  return (rest.empty() || rest[0] == '\'') && Lower(t.substr(0, i)) != "else";
+  std::string_view rest = Trim(t.substr(i + 1));
+  return (rest.empty() || rest[0] == '\'') && !text::IEquals(t.substr(0, i), "else");
 }
 
-std::string WithoutScope(std::string lower) {
+std::string_view WithoutScope(std::string_view lower) {
   for (bool again = true; again;) {
     again = false;
-    for (const char* scope : {"public ", "private ", "friend ", "static ", "global "}) {
+    for (std::string_view scope : {"public ", "private ", "friend ", "static ", "global "}) {
       if (Starts(lower, scope)) {
-        lower = Trim(lower.substr(std::char_traits<char>::length(scope)));
+        lower = Trim(lower.substr(scope.size()));
         again = true;
       }
     }
@@ -79,10 +93,11 @@ struct Classified {
   std::vector<Block> opens;  // blocks it starts behind it
 };
 
-Classified Classify(const std::string& code) {
+Classified Classify(std::string_view code) {
   Classified c;
-  const std::string l = Lower(code);
-  const std::string u = WithoutScope(l);
+  Folded folded;
+  const std::string_view l = folded.Of(code);
+  const std::string_view u = WithoutScope(l);
   if (IsWord(l, "end")) {
     if (Starts(l, "end sub") || Starts(l, "end function") || Starts(l, "end property"))
       c.closeProcedure = true;
@@ -126,7 +141,7 @@ Classified Classify(const std::string& code) {
   if (Starts(l, "select case")) c.opens.push_back(kSelect);
   if (IsWord(l, "with")) c.opens.push_back(kWith);
   if (IsWord(l, "while")) c.opens.push_back(kWhile);
-  if ((IsWord(u, "type") || IsWord(u, "enum")) && l.find('=') == std::string::npos)
+  if ((IsWord(u, "type") || IsWord(u, "enum")) && l.find('=') == std::string_view::npos)
     c.opens.push_back(kType);
   return c;
 }
@@ -140,14 +155,15 @@ class CodeIndenter {
   }
 
   // Indents one statement (its first line and its continuation lines).
-  void Statement(std::vector<std::string>& out, const std::vector<std::string>& parts) {
-    std::string code;
+  void Statement(std::vector<std::string>& out, std::span<const std::string> parts) {
+    code_.clear();
     for (const auto& p : parts) {
-      std::string c = CodePart(p);
-      if (c.size() >= 2 && c.compare(c.size() - 2, 2, " _") == 0) c.resize(c.size() - 2);
-      code += c + " ";
+      std::string_view c = CodePart(p);
+      if (c.ends_with(" _")) c.remove_suffix(2);
+      code_ += c;
+      code_ += ' ';
     }
-    Classified c = Classify(Trim(code));
+    Classified c = Classify(Trim(code_));
     if (c.closeProcedure) {
       while (!stack_.empty() && stack_.back() != kProcedure) stack_.pop_back();
       if (!stack_.empty()) stack_.pop_back();
@@ -157,19 +173,23 @@ class CodeIndenter {
     int depth = Depth();
     if (c.middle && !stack_.empty() && stack_.back() != kProcedure) depth -= 1;
     for (size_t i = 0; i < parts.size(); ++i)
-      out.push_back(Pad(depth + (i > 0 ? 1 : 0)) + Trim(parts[i]));
+      out.push_back(Padded(depth + (i > 0 ? 1 : 0), Trim(parts[i])));
     for (Block b : c.opens) stack_.push_back(b);
   }
 
-  void Comment(std::vector<std::string>& out, const std::string& t) {
-    out.push_back(Pad(Depth()) + t);
+  void Comment(std::vector<std::string>& out, std::string_view t) {
+    out.push_back(Padded(Depth(), t));
+  }
+
+  static std::string Padded(int depth, std::string_view t) {
+    std::string line(static_cast<size_t>(std::max(0, depth)) * 4, ' ');
+    line += t;
+    return line;
   }
 
  private:
-  static std::string Pad(int depth) {
-    return std::string(static_cast<size_t>(std::max(0, depth)) * 4, ' ');
-  }
   std::vector<Block> stack_;
+  std::string code_;
 };
 
 }  // namespace
@@ -179,35 +199,38 @@ void SilentIndent(TextDocument& doc) {
   std::vector<std::string> out;
   out.reserve(lines.size());
   size_t i = 0;
+  Folded folded;
 
   // Header: VERSION, Object, the class header, designer blocks, Attribute.
   while (i < lines.size()) {
-    const std::string t = Trim(lines[i]);
-    const std::string l = Lower(t);
+    const std::string_view t = Trim(lines[i]);
+    const std::string_view l = folded.Of(t);
     if (Starts(l, "version ") || Starts(l, "object =") || Starts(l, "object=") ||
         Starts(l, "attribute ")) {
-      out.push_back(t);
+      out.emplace_back(t);
       ++i;
     } else if (t == "BEGIN") {
-      out.push_back(t);
+      out.emplace_back(t);
       for (++i; i < lines.size(); ++i) {
-        std::string inner = Trim(lines[i]);
-        if (Lower(inner) == "end") {
-          out.push_back(inner);
+        const std::string_view inner = Trim(lines[i]);
+        if (text::IEquals(inner, "end")) {
+          out.emplace_back(inner);
           ++i;
           break;
         }
-        out.push_back(inner.empty() ? inner : "  " + inner);
+        out.push_back(inner.empty() ? std::string() : "  " + std::string(inner));
       }
     } else if (IsWord(l, "begin") && Starts(l, "begin ")) {
       int depth = 0;
       for (; i < lines.size(); ++i) {
-        std::string inner = Trim(lines[i]);
-        std::string il = Lower(inner);
+        const std::string_view inner = Trim(lines[i]);
+        const std::string_view il = folded.Of(inner);
         bool opens = Starts(il, "begin ") || il == "begin" || Starts(il, "beginproperty ");
         bool closes = il == "end" || il == "endproperty";
         if (closes) depth = std::max(0, depth - 1);
-        out.push_back(std::string(static_cast<size_t>(depth) * 3, ' ') + inner);
+        std::string line(static_cast<size_t>(depth) * 3, ' ');
+        line += inner;
+        out.push_back(std::move(line));
         if (opens) ++depth;
         if (closes && depth == 0) {
           ++i;
@@ -221,8 +244,8 @@ void SilentIndent(TextDocument& doc) {
 
   CodeIndenter code;
   while (i < lines.size()) {
-    const std::string t = Trim(lines[i]);
-    const std::string l = Lower(t);
+    const std::string_view t = Trim(lines[i]);
+    const std::string_view l = folded.Of(t);
     if (t.empty()) {
       out.emplace_back();
       ++i;
@@ -230,16 +253,16 @@ void SilentIndent(TextDocument& doc) {
       code.Comment(out, t);
       ++i;
     } else if (Starts(l, "#") || IsLabel(t)) {
-      out.push_back(t);
+      out.emplace_back(t);
       ++i;
     } else {
-      std::vector<std::string> parts{lines[i++]};
+      const size_t first = i++;
       while (i < lines.size()) {
-        std::string c = CodePart(parts.back());
-        if (c.size() < 2 || c.compare(c.size() - 2, 2, " _") != 0) break;
-        parts.push_back(lines[i++]);
+        const std::string_view c = CodePart(lines[i - 1]);
+        if (!c.ends_with(" _")) break;
+        ++i;
       }
-      code.Statement(out, parts);
+      code.Statement(out, std::span<const std::string>(lines).subspan(first, i - first));
     }
   }
   doc.SetLines(std::move(out));

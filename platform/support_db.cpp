@@ -67,7 +67,17 @@ std::vector<std::string> SplitTabs(const std::string& line) {
 class Statement {
  public:
   Statement(sqlite3* db, const char* sql) { sqlite3_prepare_v2(db, sql, -1, &stmt_, nullptr); }
-  ~Statement() { sqlite3_finalize(stmt_); }
+  // A statement the database keeps prepared: reset for its next use instead
+  // of finalized.
+  explicit Statement(sqlite3_stmt* kept) : stmt_(kept), kept_(true) {}
+  ~Statement() {
+    if (!kept_) {
+      sqlite3_finalize(stmt_);
+    } else if (stmt_) {
+      sqlite3_reset(stmt_);
+      sqlite3_clear_bindings(stmt_);
+    }
+  }
   bool ok() const { return stmt_ != nullptr; }
   Statement& Bind(int i, const std::string& v) {
     sqlite3_bind_text(stmt_, i, v.data(), static_cast<int>(v.size()), SQLITE_TRANSIENT);
@@ -98,6 +108,7 @@ class Statement {
 
  private:
   sqlite3_stmt* stmt_ = nullptr;
+  bool kept_ = false;
 };
 
 bool SeedTable(sqlite3* db, const std::filesystem::path& file, const std::string& table) {
@@ -157,7 +168,19 @@ std::unique_ptr<SupportDatabase> SupportDatabase::Open(const std::filesystem::pa
   return db;
 }
 
-SupportDatabase::~SupportDatabase() { sqlite3_close(db_); }
+SupportDatabase::~SupportDatabase() {
+  for (auto& [sql, stmt] : kept_) sqlite3_finalize(stmt);
+  sqlite3_close(db_);
+}
+
+sqlite3_stmt* SupportDatabase::Kept(const char* sql) const {
+  auto it = kept_.find(sql);
+  if (it != kept_.end()) return it->second;
+  sqlite3_stmt* stmt = nullptr;
+  if (sqlite3_prepare_v2(db_, sql, -1, &stmt, nullptr) != SQLITE_OK) return nullptr;
+  kept_.emplace(sql, stmt);
+  return stmt;
+}
 
 bool SupportDatabase::Execute(const std::string& sql, std::string* err) {
   char* msg = nullptr;
@@ -175,9 +198,9 @@ void SupportDatabase::ClearAnalysis() {
 }
 
 bool SupportDatabase::AddReportOutput(const ReportOutputRow& row) {
-  Statement st(db_,
-               "INSERT INTO tblReportOutput (ModuleName, ReasonID, CodeLine, LineNumber, "
-               "TranslatedLine, Routine) VALUES (?,?,?,?,?,?)");
+  Statement st(
+      Kept("INSERT INTO tblReportOutput (ModuleName, ReasonID, CodeLine, LineNumber, "
+           "TranslatedLine, Routine) VALUES (?,?,?,?,?,?)"));
   return st.Bind(1, row.ModuleName)
       .Bind(2, static_cast<long long>(row.ReasonID))
       .Bind(3, row.CodeLine)
@@ -214,8 +237,8 @@ bool SupportDatabase::MergeStats(const StatsRow& row) {
 }
 
 bool SupportDatabase::AddLog(const LogRow& row) {
-  Statement st(db_,
-               "INSERT INTO tblLog (ErrorID, Report, Location, ControlDeleted) VALUES (?,?,?,?)");
+  Statement st(
+      Kept("INSERT INTO tblLog (ErrorID, Report, Location, ControlDeleted) VALUES (?,?,?,?)"));
   return st.Bind(1, static_cast<long long>(row.ErrorID))
       .Bind(2, row.Report)
       .Bind(3, row.Location)
@@ -235,7 +258,7 @@ void SupportDatabase::ClearRunNotes() {
 }
 
 bool SupportDatabase::AddRunNote(const std::string& object, const std::string& note) {
-  Statement st(db_, "INSERT INTO tblRunNotes (Object, Note) VALUES (?,?)");
+  Statement st(Kept("INSERT INTO tblRunNotes (Object, Note) VALUES (?,?)"));
   return st.Bind(1, object).Bind(2, note).Run();
 }
 
@@ -249,7 +272,7 @@ std::vector<std::pair<std::string, std::string>> SupportDatabase::RunNotes() con
 void SupportDatabase::ClearFields() { Execute("DELETE FROM tblFields"); }
 
 bool SupportDatabase::AddField(const FieldRow& row) {
-  Statement st(db_, "INSERT INTO tblFields (FieldName, Type, Form) VALUES (?,?,?)");
+  Statement st(Kept("INSERT INTO tblFields (FieldName, Type, Form) VALUES (?,?,?)"));
   return st.Bind(1, row.FieldName)
       .Bind(2, static_cast<long long>(row.Type))
       .Bind(3, row.Form)
@@ -257,9 +280,9 @@ bool SupportDatabase::AddField(const FieldRow& row) {
 }
 
 std::optional<FieldRow> SupportDatabase::FindField(const std::string& fieldName) const {
-  Statement st(db_,
-               "SELECT FieldName, Type, Form FROM tblFields WHERE FieldName = ? COLLATE NOCASE "
-               "LIMIT 1");
+  Statement st(
+      Kept("SELECT FieldName, Type, Form FROM tblFields WHERE FieldName = ? COLLATE NOCASE "
+           "LIMIT 1"));
   st.Bind(1, fieldName);
   if (!st.Next()) return std::nullopt;
   return FieldRow{st.Text(0), static_cast<int>(st.Int(1)), st.Text(2)};

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -13,6 +14,7 @@
 #include <vector>
 
 struct sqlite3;
+struct sqlite3_stmt;
 
 namespace morvane {
 
@@ -158,7 +160,10 @@ class SupportDatabase {
 
  private:
   SupportDatabase() = default;
+  // The statements of the rows a run writes many of, prepared once.
+  sqlite3_stmt* Kept(const char* sql) const;
   sqlite3* db_ = nullptr;
+  mutable std::map<const char*, sqlite3_stmt*> kept_;
   std::filesystem::path file_;
 };
 

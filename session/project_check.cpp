@@ -188,9 +188,8 @@ void Record(ConversionSession& s, const ProjectFinding& f) {
 bool WriteCheckedComponent(ConversionSession& s, const std::string& component, std::string* err) {
   if (const ProjectComponent* c = s.ActiveProject->Find(component); c && c->Text) {
     const std::string name = SystemName(c->File);
-    const std::string bytes = c->Text->Bytes();
     const std::vector<std::string>& lines = c->Text->Lines();
-    for (auto& f : CheckVb6File(name, bytes))
+    for (auto& f : CheckVb6Lines(name, lines))
       Record(s, {name, f.Line, std::move(f.Problem),
                  f.Line >= 1 && f.Line <= lines.size() ? lines[f.Line - 1] : "", f.Loads});
   }

@@ -378,7 +378,7 @@ std::string CloserOf(const std::string& kind) {
 
 class Checker {
  public:
-  explicit Checker(std::vector<std::string> lines) : lines_(std::move(lines)) {
+  explicit Checker(const std::vector<std::string>& lines) : lines_(lines) {
     for (const auto& l : lines_)
       if (FindNoCase(l, "Enum LongPtr") != std::string::npos ||
           FindNoCase(l, "Type LongPtr") != std::string::npos)
@@ -917,7 +917,7 @@ class Checker {
     for (const auto& o : conditional_) Problem(o.line, "#If without #End If");
   }
 
-  std::vector<std::string> lines_;
+  const std::vector<std::string>& lines_;
   std::vector<Vb6Finding> problems_;
   std::optional<Open> procedure_;
   std::optional<Open> typeBlock_;
@@ -944,7 +944,11 @@ std::string Extension(const std::string& fileName) {
 }  // namespace
 
 std::vector<Vb6Finding> CheckVb6File(const std::string& fileName, const std::string& text) {
-  std::vector<std::string> lines = SplitLines(text);
+  return CheckVb6Lines(fileName, SplitLines(text));
+}
+
+std::vector<Vb6Finding> CheckVb6Lines(const std::string& fileName,
+                                      const std::vector<std::string>& lines) {
   const std::string first = lines.empty() ? "" : std::string(Trim(lines.front()));
   const std::string ext = Extension(fileName);
   FileKind kind = FileKind::Module;
@@ -957,7 +961,7 @@ std::vector<Vb6Finding> CheckVb6File(const std::string& fileName, const std::str
   } else if (ext == ".dsr" || (ext != ".bas" && first == "VERSION 5.00")) {
     kind = FileKind::Designer;
   }
-  return Checker(std::move(lines)).Run(kind);
+  return Checker(lines).Run(kind);
 }
 
 std::vector<std::string> CheckVb6Structure(const std::string& fileName, const std::string& text) {

@@ -45,6 +45,9 @@ struct Vb6Finding {
 // single-line If are read as VB6 reads them; "Else If" opens a nested If, as
 // it does in VB6.
 std::vector<Vb6Finding> CheckVb6File(const std::string& fileName, const std::string& text);
+// The same over the file's lines.
+std::vector<Vb6Finding> CheckVb6Lines(const std::string& fileName,
+                                      const std::vector<std::string>& lines);
 
 // The findings as "line <n>: <what>".
 std::vector<std::string> CheckVb6Structure(const std::string& fileName, const std::string& text);

@@ -4,6 +4,7 @@
 #include "translator/global_substitutions.h"
 
 #include <algorithm>
+#include <bitset>
 #include <string_view>
 
 #include "session/conversion_session.h"
@@ -100,14 +101,18 @@ static_assert(NoEmptyFind(kDatabaseNames) && NoEmptyFind(kDatabaseVariable) &&
 // are counted in `passed`.
 class FoldedLine {
  public:
-  FoldedLine(std::string& line, int* passed)
-      : line_(line), lower_(ToLower(line)), passed_(passed) {}
+  FoldedLine(std::string& line, int* passed) : line_(line), passed_(passed) { Changed(); }
   bool Contains(std::string_view find) const {
     char buf[64];
     if (find.size() > sizeof buf) return FindNoCase(line_, find) != std::string::npos;
-    for (size_t i = 0; i < find.size(); ++i)
-      buf[i] = (find[i] >= 'A' && find[i] <= 'Z') ? static_cast<char>(find[i] + 32) : find[i];
-    return lower_.find(std::string_view(buf, find.size())) != std::string::npos;
+    // Most needles are ruled out by their first or last pair of characters,
+    // which the line does not hold, before any search.
+    const size_t n = find.size();
+    if (n >= 2 && (!pairs_.test(PairKey(Lower(find[0]), Lower(find[1]))) ||
+                   !pairs_.test(PairKey(Lower(find[n - 2]), Lower(find[n - 1])))))
+      return false;
+    for (size_t i = 0; i < n; ++i) buf[i] = Lower(find[i]);
+    return lower_.find(std::string_view(buf, n)) != std::string::npos;
   }
   void Replace(std::string_view find, std::string_view with) {
     if (!Contains(find)) return;
@@ -116,11 +121,20 @@ class FoldedLine {
   }
   // A hit that the rule must leave: counted as passed over.
   void Pass() { ++*passed_; }
-  void Changed() { lower_ = ToLower(line_); }
+  void Changed() {
+    lower_ = ToLower(line_);
+    pairs_.reset();
+    for (size_t i = 0; i + 1 < lower_.size(); ++i) pairs_.set(PairKey(lower_[i], lower_[i + 1]));
+  }
 
  private:
+  static char Lower(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; }
+  static size_t PairKey(char a, char b) {
+    return (static_cast<unsigned char>(a) * 31u + static_cast<unsigned char>(b)) & 4095u;
+  }
   std::string& line_;
   std::string lower_;
+  std::bitset<4096> pairs_;  // the pairs of neighbouring characters of lower_, hashed
   int* passed_;
 };
 

@@ -4,7 +4,10 @@
 #include "translator/unsupported_features.h"
 
 #include <array>
+#include <bitset>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "session/naming.h"
 #include "translator/rule_outcomes.h"
@@ -108,13 +111,53 @@ constexpr bool FeaturesAreWellFormed() {
 }
 static_assert(FeaturesAreWellFormed(), "no empty or repeated entry");
 
-// `lower` is the line in lower case: a plain search that fails there rules
-// the entry out at once, which is the case for nearly every line.
-bool Holds(const std::string& line, const std::string& lower, std::string_view text, bool exact,
-           int* passed) {
+// The needles of the list prepared once: the lower-case spelling of those
+// matched without regard to case.
+struct Needles {
+  std::array<std::string, std::size(kFeatures)> lowText, lowAlternative;
+  Needles() {
+    for (size_t i = 0; i < std::size(kFeatures); ++i) {
+      lowText[i] = ToLower(kFeatures[i].text);
+      lowAlternative[i] = ToLower(kFeatures[i].alternative);
+    }
+  }
+};
+
+const Needles& PreparedNeedles() {
+  static const Needles needles;
+  return needles;
+}
+
+// Whether `line` holds `text`. Most needles are ruled out without a search
+// by a pair of neighbouring characters that the line does not hold.
+class LineSearch {
+ public:
+  explicit LineSearch(const std::string& line) : line_(line) {
+    for (size_t i = 0; i + 1 < line.size(); ++i) pairs_.set(PairKey(line[i], line[i + 1]));
+  }
+  bool Holds(std::string_view text) const {
+    const size_t n = text.size();
+    if (n >= 2 && (!pairs_.test(PairKey(text[0], text[1])) ||
+                   !pairs_.test(PairKey(text[n - 2], text[n - 1]))))
+      return false;
+    return line_.find(text) != std::string::npos;
+  }
+
+ private:
+  static size_t PairKey(char a, char b) {
+    return (static_cast<unsigned char>(a) * 31u + static_cast<unsigned char>(b)) & 4095u;
+  }
+  const std::string& line_;
+  std::bitset<4096> pairs_;
+};
+
+// `exact` searches the line as written, else its lower-case copy with the
+// lower-case needle. A plain search that fails rules the entry out at once,
+// which is the case for nearly every line.
+bool Holds(const std::string& line, const LineSearch& exactSearch, const LineSearch& lowerSearch,
+           std::string_view text, std::string_view lowText, bool exact, int* passed) {
   if (text.empty()) return false;
-  if (exact ? line.find(text) == std::string::npos : lower.find(ToLower(text)) == std::string::npos)
-    return false;
+  if (exact ? !exactSearch.Holds(text) : !lowerSearch.Holds(lowText)) return false;
   // Only a whole word of the code counts: a word inside a string literal or
   // a comment, or a part of a longer name (".Format" for ".form"), is no use
   // of the feature and must not comment out the statement.
@@ -128,16 +171,22 @@ bool Holds(const std::string& line, const std::string& lower, std::string_view t
 // stops at an "Attribute " line.
 const Feature* FirstFeature(const std::string& line, bool* attribute, int* passed) {
   const std::string lower = ToLower(line);
-  for (const auto& f : kFeatures) {
+  const Needles& needles = PreparedNeedles();
+  LineSearch exactSearch(line), lowerSearch(lower);
+  for (size_t i = 0; i < std::size(kFeatures); ++i) {
+    const Feature& f = kFeatures[i];
+    auto holds = [&](std::string_view text, const std::string& low, bool exact) {
+      return Holds(line, exactSearch, lowerSearch, text, low, exact, passed);
+    };
     bool fires = false;
     switch (f.match) {
       case Match::Exact:
-        fires = Holds(line, lower, f.text, true, passed) ||
-                Holds(line, lower, f.alternative, true, passed);
+        fires = holds(f.text, needles.lowText[i], true) ||
+                holds(f.alternative, needles.lowAlternative[i], true);
         break;
       case Match::Any:
-        fires = Holds(line, lower, f.text, false, passed) ||
-                Holds(line, lower, f.alternative, false, passed);
+        fires = holds(f.text, needles.lowText[i], false) ||
+                holds(f.alternative, needles.lowAlternative[i], false);
         break;
       case Match::AttributeLine:
         if (StartsWithNoCase(line, f.text)) {
@@ -146,8 +195,7 @@ const Feature* FirstFeature(const std::string& line, bool* attribute, int* passe
         }
         break;
       case Match::FormReference:
-        fires = Holds(line, lower, f.text, false, passed) &&
-                !Holds(line, lower, "vb.form", false, passed);
+        fires = holds(f.text, needles.lowText[i], false) && !holds("vb.form", "vb.form", false);
         break;
     }
     if (fires) return &f;

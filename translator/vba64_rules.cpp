@@ -3,6 +3,7 @@
 
 #include <string_view>
 
+#include "session/naming.h"
 #include "translator/analysis_writers.h"
 #include "translator/rule_outcomes.h"
 #include "translator/vb_code.h"
@@ -24,6 +25,12 @@ constexpr Replacement kVba64Words[] = {
 }  // namespace
 
 std::string Vba64Rewrite(const std::string& line) {
+  // Every word of the list holds one of these; a line without them is left
+  // at once.
+  if (FindNoCase(line, "ptr") == std::string::npos &&
+      FindNoCase(line, "longlong") == std::string::npos &&
+      FindNoCase(line, "lnglng") == std::string::npos)
+    return line;
   // A module that declares LongPtr itself for older hosts ("Enum LongPtr")
   // keeps that name.
   if (ContainsWord(line, "Enum LongPtr", kInCode) || ContainsWord(line, "Type LongPtr", kInCode))
