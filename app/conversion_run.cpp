@@ -1,6 +1,8 @@
 // Putting a run together: options, source, design store, converters, driver.
 #include "app/conversion_run.h"
 
+#include <cstdlib>
+
 #include "design/design_store.h"
 #include "events/event_writer.h"
 #include "forms/form_converter.h"
@@ -104,6 +106,28 @@ RunSummary ConversionRun::Run(const RunRequest& request, UserInterface& ui) {
 RunStatus StatusOf(const RunSummary& summary) {
   if (!summary.Started) return kRunNotStarted;
   return summary.Failures.empty() ? kRunConverted : kRunIncomplete;
+}
+
+std::filesystem::path DataDirectory() {
+  namespace fs = std::filesystem;
+  if (const char* named = std::getenv("MORVANE_DATA_DIR"); named && *named) return named;
+  // The program's own location, not the current directory: an installed copy
+  // runs from anywhere.
+  std::error_code ec;
+  fs::path exe = fs::read_symlink("/proc/self/exe", ec);
+  return exe.parent_path().parent_path() / "share" / "morvane";
+}
+
+std::string MissingDataFile(const std::filesystem::path& dir) {
+  static constexpr const char* kRequired[] = {
+      "MorvaneConversionCode.bas", "MDIParent.frm",         "CustomControlMapping.tsv",
+      "mtm_tblActions.tsv",        "mtm_tblActionArgs.tsv", "mtm_tblLookups.tsv",
+      "conversion_templates",
+  };
+  std::error_code ec;
+  for (const char* name : kRequired)
+    if (!std::filesystem::exists(dir / name, ec)) return name;
+  return "";
 }
 
 }  // namespace morvane

@@ -6,6 +6,7 @@
 // away from the thread that shows the window.
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -81,5 +82,14 @@ class ConversionRun {
 
 // The status of a finished (or refused) run.
 RunStatus StatusOf(const RunSummary& summary);
+
+// Where the companion files stand: the directory the environment variable
+// MORVANE_DATA_DIR names, else share/morvane beside the directory of the
+// running program (the installed layout, which the build tree mirrors).
+std::filesystem::path DataDirectory();
+
+// The first companion file a run needs that `dir` lacks, or empty when all
+// are there.
+std::string MissingDataFile(const std::filesystem::path& dir);
 
 }  // namespace morvane

@@ -68,15 +68,6 @@ const char* QueryTypeName(int type) {
   }
 }
 
-fs::path DataDirectory(const char* argv0) {
-  std::error_code ec;
-  fs::path exe = fs::read_symlink("/proc/self/exe", ec);
-  if (ec) exe = fs::absolute(argv0, ec);
-  fs::path installed = exe.parent_path().parent_path() / "share" / "morvane";
-  if (fs::exists(installed / "MorvaneConversionCode.bas", ec)) return installed;
-  return MORVANE_DATA_DIR;
-}
-
 int Fail(const std::string& message) {
   std::fprintf(stderr, "morvane: error: %s\n", message.c_str());
   return kRunNotStarted;
@@ -127,9 +118,9 @@ int RunList(const Options& o) {
   return 0;
 }
 
-RunOptions OptionsOf(const Options& o, const char* argv0) {
+RunOptions OptionsOf(const Options& o) {
   RunOptions r;
-  r.DataDir = DataDirectory(argv0);
+  r.DataDir = DataDirectory();
   r.ListboxType = o.listboxType;
   r.ComboboxType = o.comboboxType;
   r.ListboxBound = o.listboxMode == "bound";
@@ -149,12 +140,12 @@ RunOptions OptionsOf(const Options& o, const char* argv0) {
   return r;
 }
 
-int RunConvert(const Options& o, const char* argv0) {
+int RunConvert(const Options& o) {
   std::optional<bool> answer;
   if (o.yes) answer = true;
   if (o.no) answer = false;
   CommandLineUi ui(answer);
-  ConversionRun run(OptionsOf(o, argv0));
+  ConversionRun run(OptionsOf(o));
   std::string err;
   if (!run.Open({o.source, o.sourceTree, o.layout}, &err)) return Fail(err);
   PrintWarnings(run);
@@ -283,7 +274,7 @@ int main(int argc, char** argv) {
   try {
     if (list->parsed()) return RunList(o);
     if (check->parsed()) return RunCheck(checkDir);
-    return RunConvert(o, argv[0]);
+    return RunConvert(o);
   } catch (const std::exception& e) {
     return Fail(e.what());
   }

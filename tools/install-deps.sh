@@ -1,7 +1,10 @@
 #!/bin/sh
 # Installs the Debian packages the build and the tests need. Run as root.
 set -e
-packages="g++ cmake ninja-build pkg-config mdbtools-dev libsqlite3-dev libcli11-dev libgtest-dev"
+# qt6-base-dev: the desktop window; fonts-dejavu-core: text in its offscreen
+# screenshots; dpkg-dev and file: the Debian package (cpack -G DEB).
+packages="g++ cmake ninja-build pkg-config mdbtools-dev libsqlite3-dev libcli11-dev libgtest-dev
+qt6-base-dev fonts-dejavu-core dpkg-dev file"
 missing=""
 for p in $packages; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing="$missing $p"
