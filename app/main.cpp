@@ -182,7 +182,8 @@ int RunConvert(const Options& o) {
     std::printf("Not done: %s\n", Windows1252ToUtf8(note).c_str());
   for (const auto& failure : summary.Failures)
     std::fprintf(stderr, "morvane: error: %s\n", failure.c_str());
-  std::printf("%s\n", FormatText(kMsgSummaryAnalysis, {summary.AnalysisPath}).c_str());
+  if (!summary.AnalysisPath.empty())
+    std::printf("%s\n", FormatText(kMsgSummaryAnalysis, {summary.AnalysisPath}).c_str());
   return StatusOf(summary);
 }
 

@@ -110,7 +110,9 @@ class SupportDatabase {
   // Groups the writes of a run into one transaction: rows written one at a
   // time otherwise cost a journal write each. Reads see the open batch.
   void BeginBatch() { Execute("BEGIN"); }
-  void EndBatch() { Execute("COMMIT"); }
+  // False with the engine's message when the batch could not be written
+  // (a full disk, say); the rows of the batch are then lost.
+  bool EndBatch(std::string* err = nullptr) { return Execute("COMMIT", err); }
 
   // qryRptOutputDel and qryStatsDel: empty the analysis of an earlier run.
   // tblLog is kept.

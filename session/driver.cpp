@@ -421,8 +421,11 @@ void RunConversion(ConversionSession& s, AccessLink& link, Converters& c, RunSum
   if (s.Ui) s.Ui->ProgressEnd();  // E2
   CountLines(s, summary);
   CheckConversionOutput(s);
-  s.SupportDb->EndBatch();
+  if (!s.SupportDb->EndBatch(&err))
+    Failed(summary, "morvane.db", "the analysis could not be written: " + err);
   summary.AnalysisPath = WriteAnalysisReport(s, summary);  // E3, E4
+  if (summary.AnalysisPath.empty())
+    Failed(summary, "analysis", "the analysis page could not be written");
 }
 
 }  // namespace morvane

@@ -323,7 +323,8 @@ TEST(Convert, FormsTheRunCannotConvertAreSaidSo) {
       {"convert", (dir / "src").string(), "-o", (dir / "out").string(), "--no-mdi", "--yes"});
   // The run finished, but a form stayed out of the project.
   ASSERT_EQ(r.status, 3) << r.err;
-  EXPECT_NE(r.err.find("morvane: error: frmBig: it was kept out of the project"), std::string::npos);
+  EXPECT_NE(r.err.find("morvane: error: frmBig: it was kept out of the project"),
+            std::string::npos);
   EXPECT_NE(r.out.find("The form \"frmBig\" has 255 controls.  Visual Basic has a limit of 254 "
                        "controls, and Morvane was unable to find a way to reduce the control "
                        "count.  The form will not be converted."),
@@ -386,6 +387,32 @@ TEST(Convert, AnOutputDirectoryInsideTheSourceIsRefused) {
   EXPECT_NE(r.status, 0);
   EXPECT_NE(r.err.find("inside the source tree"), std::string::npos) << r.err;
   EXPECT_EQ(Snapshot((dir / "Orders").string()), before);
+}
+
+TEST(Convert, AFileThatCannotBeWrittenLeavesTheGoodOneAndIsNamed) {
+  TempDir dir;
+  const std::string sample = std::string(MORVANE_SOURCE_DIR) + "/examples/Orders";
+  const std::string out = (dir / "out").string();
+  ASSERT_EQ(RunMorvane({"convert", sample, "-o", out, "--yes"}).status, 0);
+  const auto before = test::Snapshot(out);
+  // A file size limit of 20 KiB: the conversion code and the largest form
+  // cannot be written again, the other files can.
+  auto r = RunMorvane({"convert", sample, "-o", out, "--yes"}, "ulimit -f 20");
+  EXPECT_EQ(r.status, 3) << r.err;
+  EXPECT_NE(r.err.find("error: MorvaneConversionCode: cannot write " + out +
+                       "/MorvaneConversionCode.bas"),
+            std::string::npos)
+      << r.err;
+  // Every file is as the first run left it, none cut short, and no part of
+  // a file is left behind.
+  const auto after = test::Snapshot(out);
+  for (const auto& [file, bytes] : after) {
+    EXPECT_EQ(file.find("morvane-part"), std::string::npos) << file;
+    for (const auto& [oldFile, oldBytes] : before)
+      if (oldFile == file && file.find("morvane.db") == std::string::npos &&
+          file.find("analysis") == std::string::npos)
+        EXPECT_EQ(bytes, oldBytes) << file;
+  }
 }
 
 TEST(List, PrintsTheCatalogInItsOrder) {

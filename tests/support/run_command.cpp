@@ -21,9 +21,9 @@ std::string Quote(const std::string& s) {
 
 }  // namespace
 
-CommandResult RunMorvane(const std::vector<std::string>& args) {
+CommandResult RunMorvane(const std::vector<std::string>& args, const std::string& shell) {
   TempDir scratch;
-  std::string cmd = Quote(MORVANE_BINARY);
+  std::string cmd = (shell.empty() ? "" : shell + "; exec ") + Quote(MORVANE_BINARY);
   for (const auto& a : args) cmd += " " + Quote(a);
   cmd += " </dev/null >" + Quote((scratch / "out").string()) + " 2>" +
          Quote((scratch / "err").string());

@@ -12,8 +12,9 @@ struct CommandResult {
   std::string err;
 };
 
-// Runs MORVANE_BINARY with the arguments, stdin from /dev/null.
-CommandResult RunMorvane(const std::vector<std::string>& args);
+// Runs MORVANE_BINARY with the arguments, stdin from /dev/null. `shell`, when
+// given, is shell text run ahead of it in the same shell (a `ulimit`, say).
+CommandResult RunMorvane(const std::vector<std::string>& args, const std::string& shell = "");
 
 // A map of every file below `dir` (relative path -> bytes), to compare trees.
 std::vector<std::pair<std::string, std::string>> Snapshot(const std::string& dir);
