@@ -262,15 +262,28 @@ int main(int argc, char** argv) {
   auto* yes = convert->add_flag("--yes", o.yes, "Answer Yes to the run's questions");
   convert->add_flag("--no", o.no, "Answer No to the run's questions")->excludes(yes);
 
+  list->footer("Exit status: 0 when the source was listed; 2 when it could not be opened.");
+  convert->footer(
+      "Exit status: 0 when every selected object was converted (notes in the analysis allowed); "
+      "3 when the run finished but some object could not be read or written, or was kept out "
+      "of the project (each is named on stderr and in the analysis); 2 when the run could not "
+      "start (a bad argument, a source that cannot be read, an output directory that cannot be "
+      "used).");
+
   std::string checkDir;
   CLI::App* check = app.add_subcommand(
       "check", "Check a generated project for what Visual Basic 6 would not load or compile");
   check->add_option("OUTDIR", checkDir, "The output directory of a conversion")->required();
+  check->footer(
+      "Exit status: 0 when Visual Basic 6 would load and compile every file; 1 when something "
+      "would keep it from doing so (each place is printed as file:line); 2 when the directory "
+      "cannot be read.");
 
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& e) {
-    return app.exit(e);
+    // Help is a finished run; a bad argument is a run that could not start.
+    return app.exit(e) == 0 ? 0 : kRunNotStarted;
   }
   try {
     if (list->parsed()) return RunList(o);
