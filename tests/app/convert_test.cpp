@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <set>
 
 #include "platform/support_db.h"
+#include "session/naming.h"
 #include "session/vb6_check.h"
 #include "support/designer_checker.h"
 #include "support/fixtures.h"
@@ -413,6 +415,69 @@ TEST(Convert, AFileThatCannotBeWrittenLeavesTheGoodOneAndIsNamed) {
           file.find("analysis") == std::string::npos)
         EXPECT_EQ(bytes, oldBytes) << file;
   }
+}
+
+TEST(Convert, NamesThatClashOrCannotStandAreMadeUniqueAndValid) {
+  TempDir dir;
+  const fs::path forms = dir / "src" / "forms";
+  auto form = [&](const std::string& file, const std::string& caption) {
+    WriteFile(forms / file, "Version =20\nBegin Form\n    Caption =\"" + caption +
+                                "\"\n    Begin\n        Begin Section\n            Height =300\n"
+                                "            Name =\"Detail\"\n        End\n    End\nEnd\n");
+  };
+  const std::string longName(246, 'x');
+  const std::vector<std::string> files = {
+      "frm A.txt",       "frm-A.txt",        "frm_A.txt",        "a%3Ab.txt",     "a%2Ab.txt",
+      "a\\b.txt",        "\xE4\xB8\xAD.txt", "\xE6\x96\x87.txt", "MDIParent.txt", "CON.txt",
+      "Caf\xC3\xA9.txt", "00_Home.txt",      longName + ".txt"};
+  for (const auto& f : files) form(f, f);
+  WriteFile(forms / "frmCut.txt", "Version =20\nBegin Form\n");  // a truncated export
+  WriteFile(dir / "src" / "modules" / "MacroCode.bas",
+            "Attribute VB_Name = \"MacroCode\"\nPublic Sub Go()\nEnd Sub\n");
+  const fs::path out = dir / "out";
+  auto r = RunMorvane({"convert", (dir / "src").string(), "-o", out.string(), "--yes"});
+  // frmCut could not be read: the run says so, leaves no stub, and tells by
+  // its status that not everything came across.
+  EXPECT_EQ(r.status, 3) << r.err;
+  EXPECT_NE(r.err.find("error: frmCut:"), std::string::npos) << r.err;
+  EXPECT_FALSE(fs::exists(out / "frmCut.frm"));
+
+  // One file per form and a Begin name that is its VB_Name, an identifier
+  // of at most 40 characters; the project lists each once.
+  std::set<std::string> vbNames, frmFiles;
+  for (const auto& e : fs::directory_iterator(out)) {
+    if (e.path().extension() != ".frm") continue;
+    frmFiles.insert(e.path().filename().string());
+    std::string begin, attribute;
+    for (const auto& line : Lines(e.path())) {
+      if (line.rfind("Begin VB.", 0) == 0 && begin.empty())
+        begin = line.substr(line.find(' ', 6) + 1);
+      if (line.rfind("Attribute VB_Name = \"", 0) == 0)
+        attribute = line.substr(21, line.size() - 22);
+    }
+    EXPECT_EQ(begin, attribute) << e.path();
+    EXPECT_TRUE(IsVb6Identifier(begin)) << begin;
+    EXPECT_TRUE(vbNames.insert(ToLower(begin)).second) << begin;
+  }
+  EXPECT_EQ(frmFiles.size(), files.size() + 1);  // and the MDI parent
+  for (const char* f : {"MDIParent.frm", "MDIParentA.frm", "frm_A.frm", "frm_AA.frm", "CON_.frm",
+                        "a00_Home.frm", "u4E2D.frm", "u6587.frm", "Caf\xC3\xA9.frm"})
+    EXPECT_TRUE(frmFiles.count(f)) << f;
+  EXPECT_TRUE(fs::exists(out / "MacroCode_.bas"));
+  const std::string vbp = ReadFile(out / "src.vbp");
+  EXPECT_NE(vbp.find("Module=MacroCodeA; MacroCode_.bas"), std::string::npos) << vbp;
+  EXPECT_NE(vbp.find("Form=Caf\xE9.frm"), std::string::npos);  // Windows-1252 inside
+  auto check = RunMorvane({"check", out.string()});
+  EXPECT_EQ(check.status, 0) << check.out;
+
+  // Each name that had to change is said in the analysis.
+  std::string err;
+  auto db = SupportDatabase::Open(out / "morvane.db", MORVANE_DATA_DIR, &err);
+  ASSERT_TRUE(db) << err;
+  std::set<std::string> renamed;
+  for (const auto& row : db->Renamings()) renamed.insert(row.Object);
+  for (const char* n : {"frm-A", "frm_A", "MDIParent", "MacroCode", "00_Home"})
+    EXPECT_TRUE(renamed.count(n)) << n;
 }
 
 TEST(List, PrintsTheCatalogInItsOrder) {
