@@ -10,76 +10,22 @@
 #include <cstdlib>
 #include <filesystem>
 #include <string>
-#include <vector>
 
 #include "bench/bench_run.h"
-#include "platform/text_file.h"
+#include "bench/generated_tree.h"
 
 namespace fs = std::filesystem;
 using namespace morvane;
 
-namespace {
-
-std::string N(int i) { return std::to_string(i); }
-
-// One control of the generated form; a quarter are text boxes with an
-// attached label, the rest labels, buttons and check boxes in turn.
-void AddControl(std::vector<std::string>& t, int i, bool withEvent) {
-  const std::string top = N(200 + (i % 40) * 300), left = N(100 + (i / 40) * 2000);
-  const char* kinds[] = {"TextBox", "Label", "CommandButton", "CheckBox"};
-  const std::string kind = kinds[i % 4];
-  t.push_back("                Begin " + kind);
-  t.push_back("                    Left =" + left);
-  t.push_back("                    Top =" + top);
-  t.push_back("                    Width =1500");
-  t.push_back("                    Height =255");
-  t.push_back("                    Name =\"ctl" + N(i) + "\"");
-  if (kind == "TextBox")
-    t.push_back("                    ControlSource =\"Field" + N(i % 10) + "\"");
-  if (kind == "Label" || kind == "CommandButton")
-    t.push_back("                    Caption =\"Control " + N(i) + "\"");
-  if (withEvent) t.push_back("                    OnClick =\"[Event Procedure]\"");
-  t.push_back("                End");
-}
-
-}  // namespace
-
 int main(int argc, char** argv) {
   const int forms = argc > 1 ? std::atoi(argv[1]) : 300;
   const int controls = argc > 2 ? std::atoi(argv[2]) : 100;
-  constexpr int kEvents = 20;
   const fs::path root = fs::temp_directory_path() / ("morvane-fbench-" + std::to_string(getpid()));
-  fs::create_directories(root / "src" / "forms");
-  for (int f = 0; f < forms; ++f) {
-    std::vector<std::string> t = {"Version =20",
-                                  "VersionRequired =20",
-                                  "Begin Form",
-                                  "    Width =9000",
-                                  "    RecordSource =\"tblOrders\"",
-                                  "    Caption =\"Form " + N(f) + "\"",
-                                  "    Begin",
-                                  "        Begin Section",
-                                  "            Height =12000",
-                                  "            Name =\"Detail\"",
-                                  "            Begin"};
-    for (int c = 0; c < controls; ++c) AddControl(t, c, c % (controls / kEvents) == 0);
-    for (const char* l : {"            End", "        End", "    End", "End", "CodeBehindForm",
-                          "Attribute VB_GlobalNameSpace = False", "Attribute VB_Creatable = True",
-                          "Attribute VB_PredeclaredId = True", "Attribute VB_Exposed = False",
-                          "Option Compare Database", "Option Explicit", ""})
-      t.emplace_back(l);
-    for (int c = 0; c < controls; c += controls / kEvents) {
-      t.push_back("Private Sub ctl" + N(c) + "_Click()");
-      t.push_back("    Me.Caption = \"clicked " + N(c) + "\"");
-      t.push_back("End Sub");
-      t.push_back("");
-    }
-    WriteTextLines(root / "src" / "forms" / ("frmBench" + N(f) + ".txt"), t, nullptr);
-  }
+  bench::WriteForms(root, forms, controls);
 
   bench::BenchRun run;
   Selection formsOnly;
-  for (int f = 0; f < forms; ++f) formsOnly.Forms.push_back("frmBench" + N(f));
+  for (int f = 0; f < forms; ++f) formsOnly.Forms.push_back("frmBench" + bench::N(f));
   if (!run.Open(root, formsOnly)) return 1;
   double seconds = 0;
   const RunSummary summary = run.Run(&seconds);
