@@ -8,6 +8,7 @@
 #include "forms/control_writers.h"
 #include "forms/data_controls.h"
 #include "forms/frm_text.h"
+#include "forms/long_properties.h"
 #include "forms/picture_extraction.h"
 #include "platform/support_db.h"
 #include "platform/text_file.h"
@@ -162,6 +163,7 @@ bool FormWriter::ConvertForm(const std::string& formName, std::string* err) {
   if (!t_.PageTabBody.empty()) text += "\r\n" + t_.PageTabBody + "\r\nEnd";
   text += "\r\nEnd\r\n";
   state.Text = TextDocument::FromBytes(text);
+  MoveLongProperties(s_, formName, state.Text.Lines());
   return true;
 }
 
@@ -335,19 +337,22 @@ void FormWriter::WriteComponentLines(bool finish) {
 }
 
 void FormWriter::MakeControlName(const ControlDesign& c) {
-  std::string name = SafeName(c.Name()).substr(0, 40);
-  if (!name.empty() && (name[0] == '_' || (name[0] >= '0' && name[0] <= '9'))) name = "A" + name;
-  int counter = 0;
-  for (size_t i = 0; i < t_.UsedControlNames.size(); ++i) {
-    if (counter > 26) {
-      name = name.substr(0, 38) + "A";
-      counter = 0;
-    }
-    if (t_.UsedControlNames[i] == name) {
-      name += static_cast<char>(65 + counter);
-      ++counter;
-      i = static_cast<size_t>(-1);
-    }
+  // A Visual Basic name: a character that cannot stand in one becomes "_",
+  // and a name that does not start with a letter gets an "A".
+  const std::string base = VbIdentifier(c.Name(), "A", 40);
+  auto taken = [this](const std::string& candidate) {
+    for (const auto& used : t_.UsedControlNames)
+      if (EqualsNoCase(used, candidate)) return true;
+    return false;
+  };
+  // Each clash adds the next letter; a name that would outgrow 40
+  // characters is cut to make room for a number instead.
+  std::string name = base;
+  for (int counter = 0; taken(name) && counter < 26; ++counter)
+    name += static_cast<char>('A' + counter);
+  for (int n = 2; taken(name) || name.size() > 40; ++n) {
+    const std::string suffix = std::to_string(n);
+    name = base.substr(0, std::min(base.size(), 40 - suffix.size())) + suffix;
   }
   t_.UsedControlNames.push_back(name);
   s_.Form().CurrentControlName = name;

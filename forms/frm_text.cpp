@@ -7,6 +7,7 @@
 #include <cstdio>
 
 #include "design/form_design.h"
+#include "forms/access_expression.h"
 #include "forms/control_writer_frame.h"
 #include "forms/form_writer.h"
 #include "session/conversion_session.h"
@@ -144,44 +145,58 @@ void AddBindingLines(std::string& text, FormWriter& w, const ControlDesign& c) {
 
 namespace {
 
-// Whether an Access expression names what Visual Basic cannot read as it
-// stands: fields in brackets or behind "!", and the aggregates of a form's
-// records.
-bool NeedsReview(std::string_view expression) {
-  if (expression.find_first_of("[!") != std::string_view::npos) return true;
-  const std::string lower = ToLower(expression);
-  for (std::string_view f :
-       {"count", "sum", "avg", "min", "max", "first", "last", "stdev", "var"}) {
-    for (size_t p = lower.find(f); p != std::string::npos; p = lower.find(f, p + 1)) {
-      const bool start = p == 0 || !(std::isalnum(static_cast<unsigned char>(lower[p - 1])) ||
-                                     lower[p - 1] == '_');
-      size_t q = p + f.size();
-      while (q < lower.size() && lower[q] == ' ') ++q;
-      if (start && q < lower.size() && lower[q] == '(') return true;
-    }
+// The reason of an analysis row asking for review.
+constexpr long kReasonReview = 7;
+
+// The Visual Basic statement that gives `target` the value of an Access
+// expression (its leading "=" left out), or the expression kept as a
+// comment when Visual Basic cannot compute it here; either gets a row when
+// the user should look at it.
+std::string ExpressionStatement(FormWriter& w, const std::string& target,
+                                const std::string& expression) {
+  ConversionSession& s = w.Session();
+  ExpressionScope scope;
+  scope.Session = &s;
+  scope.Form = w.Text().CurrentForm;
+  if (const FormDesign* form = w.Text().CurrentForm)
+    if (auto source = form->Text("RecordSource"); source && !source->empty())
+      scope.DataControl = DataControlName(w);
+  scope.UseAdo = s.Options.UseAdo;
+  bool approximate = false;
+  const auto vb = VbExpression(expression, scope, &approximate);
+  const std::string access = target + " =" + expression;
+  if (!vb) {
+    const std::string kept = "'MORVANE " + access;
+    AddHint(s, ReportRowHint{w.Text().OwnerFormName, kReasonReview, access, 0,
+                             "the Access expression has no Visual Basic reading here; kept as a "
+                             "comment",
+                             ""});
+    return kept;
   }
-  return false;
+  const std::string statement = target + " = " + *vb;
+  if (approximate)
+    AddHint(s, ReportRowHint{w.Text().OwnerFormName, kReasonReview, access, 0, statement, ""});
+  return statement;
 }
 
 }  // namespace
 
 void AddCalculatedBinding(FormWriter& w, const ControlDesign& c, std::string_view member) {
   ConversionSession& s = w.Session();
-  const std::string source = c.Text("ControlSource").value_or("");
-  const std::string line = s.Form().CurrentControlName + std::string(member) + " " + source;
-  AddHint(s, DataControlEntryHint{DataControlName(w), line});
-  // The expression is Access's, copied as it stands; one that names fields
-  // or aggregates of the records gets a row asking for review.
-  if (NeedsReview(source))
-    AddHint(s, ReportRowHint{w.Text().OwnerFormName, 7, s.Form().CurrentControlName + " " + source,
-                             0, line, ""});
+  std::string source = c.Text("ControlSource").value_or("");
+  if (!source.empty() && source[0] == '=') source.erase(0, 1);
+  AddHint(s,
+          DataControlEntryHint{
+              DataControlName(w),
+              ExpressionStatement(w, s.Form().CurrentControlName + std::string(member), source)});
 }
 
 void AddDefaultValueHint(FormWriter& w, const ControlDesign& c, std::string_view member) {
   auto value = c.Text("DefaultValue");
   if (!value || value->empty() || (*value)[0] != '=') return;
   ConversionSession& s = w.Session();
-  AddHint(s, FormLoadLineHint{s.Form().CurrentControlName + std::string(member) + " " + *value});
+  AddHint(s, FormLoadLineHint{ExpressionStatement(
+                 w, s.Form().CurrentControlName + std::string(member), value->substr(1))});
 }
 
 }  // namespace morvane

@@ -150,7 +150,13 @@ void AddFormPropertyCode(ConversionSession& s, FormConverter& forms, const std::
     std::string source = forms.RecordSource(s, name);
     std::string sql =
         ToLower(source.substr(0, 7)) == "select " ? source : "Select * From [" + source + "]";
-    code.AddFromString("Const RECORD_SOURCE as string= \"" + sql + "\"");
+    // The statement may run over several lines and hold quotes: it becomes
+    // one string expression, continued where it is long.
+    std::vector<std::string> text = VbStringLines(sql);
+    text.front() = "Const RECORD_SOURCE as string= " + text.front();
+    std::string joined;
+    for (const auto& l : text) joined += (joined.empty() ? "" : "\r\n") + l;
+    code.AddFromString(joined);
   }
 }
 

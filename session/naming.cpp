@@ -95,6 +95,36 @@ std::string VbIdentifier(std::string_view name, std::string_view prefix, size_t 
   return out;
 }
 
+std::vector<std::string> VbStringLines(std::string_view text) {
+  std::string flat;
+  for (size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i];
+    if (c == '\r' || c == '\n') {
+      if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n') ++i;
+      flat += ' ';
+    } else {
+      flat += c;
+      if (c == '"') flat += '"';
+    }
+  }
+  // Pieces of at most 900 bytes, never parting a doubled quote.
+  constexpr size_t kPiece = 900;
+  std::vector<std::string> lines;
+  size_t at = 0;
+  do {
+    size_t end = std::min(flat.size(), at + kPiece);
+    if (end < flat.size()) {
+      size_t quotes = 0;
+      for (size_t k = at; k < end; ++k) quotes += flat[k] == '"';
+      if (quotes % 2 == 1) ++end;
+    }
+    lines.push_back("\"" + flat.substr(at, end - at) + "\"");
+    at = end;
+  } while (at < flat.size());
+  for (size_t k = 0; k + 1 < lines.size(); ++k) lines[k] += " & _";
+  return lines;
+}
+
 std::string DataControlName(std::string_view formVbName) {
   std::string name = "dat" + std::string(formVbName);
   if (name.size() > 40) name.resize(40);

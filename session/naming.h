@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace morvane {
 
@@ -32,6 +33,10 @@ std::string VbIdentifier(std::string_view name, std::string_view prefix = "a",
 // The data control of a form: "dat" and the form's Visual Basic name, cut
 // to 40 characters.
 std::string DataControlName(std::string_view formVbName);
+// A Visual Basic string expression of `text`: quotes doubled, each line
+// break a blank, and a text too long for one line of code (Visual Basic
+// reads 1,023 bytes) cut into pieces joined by "& _" on lines of their own.
+std::vector<std::string> VbStringLines(std::string_view text);
 // Whether Visual Basic keeps the word for itself (a component cannot take
 // it as its name).
 bool IsReservedWord(std::string_view name);

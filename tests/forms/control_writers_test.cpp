@@ -550,8 +550,8 @@ ForeColor= &H80000008&
 Visible = 0
 End
 )"));
-  EXPECT_EQ(HintText(), Hints({{"AddDataCtlEntry", "datfrmTest", "txtToday.text =Date()"},
-                               {"FLS", "txtToday.Text =Now()"},
+  EXPECT_EQ(HintText(), Hints({{"AddDataCtlEntry", "datfrmTest", "txtToday.text = Date"},
+                               {"FLS", "txtToday.Text = Now"},
                                {"TextBoxCode", "frmTest", "txtToday", "txtToday", ""}}));
 }
 
@@ -665,7 +665,7 @@ TEST_F(ControlWriters, DatePickerFormatsAndOptions) {
       EXPECT_NE(text.find(std::string("\r\n") + r.formatLine + "\r\n"), std::string::npos);
     }
     // Both write a calculated value through the data control as text.
-    EXPECT_EQ(HintText(), Hints({{"AddDataCtlEntry", "datfrmTest", name + ".text =Now()"},
+    EXPECT_EQ(HintText(), Hints({{"AddDataCtlEntry", "datfrmTest", name + ".text = Now"},
                                  {"TextBoxCode", "frmTest", name, name, ""}}))
         << r.format;
   }

@@ -191,13 +191,17 @@ TEST_F(FormWriterTest, ControlNamesAreUniqueInTheForm) {
   const ControlDesign& longOne = g->Controls()[2];
   w.MakeControlName(longOne);
   w.MakeControlName(longOne);
-  EXPECT_EQ(s_.Form().CurrentControlName, std::string(40, 'n') + "A");
-  // Past 27 collisions the name is cut to 38 characters and gets an "A".
+  // Visual Basic takes 40 characters: the name is cut to make room.
+  EXPECT_EQ(s_.Form().CurrentControlName, std::string(39, 'n') + "2");
+  // Past 26 letters a number makes the name unique; names never clash
+  // without regard to case, nor outgrow 40 characters.
   for (int i = 0; i < 30; ++i) w.MakeControlName(text1);
   EXPECT_EQ(w.Text().UsedControlNames.size(), 36u);
-  for (size_t i = 0; i < w.Text().UsedControlNames.size(); ++i)
+  for (size_t i = 0; i < w.Text().UsedControlNames.size(); ++i) {
+    EXPECT_LE(w.Text().UsedControlNames[i].size(), 40u);
     for (size_t j = i + 1; j < w.Text().UsedControlNames.size(); ++j)
-      EXPECT_NE(w.Text().UsedControlNames[i], w.Text().UsedControlNames[j]);
+      EXPECT_FALSE(EqualsNoCase(w.Text().UsedControlNames[i], w.Text().UsedControlNames[j]));
+  }
 }
 
 TEST_F(FormWriterTest, CountsTimerAndTheControlLimit) {

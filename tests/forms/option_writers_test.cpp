@@ -65,7 +65,7 @@ TEST_F(OptionWriters, CheckBoxValueLines) {
       {"chkMinus", "DefaultValue =\"-1\"\n", "Value = 1", ""},
       {"chkZero", "DefaultValue =\"0\"\n", "Value = 0", ""},
       {"chkNo", "DefaultValue =\"No\"\n", "Value = 0", ""},
-      {"chkExpr", "DefaultValue =\"=Date()>#1/1/2000#\"\n", "", "chkExpr.Value =Date()>#1/1/2000#"},
+      {"chkExpr", "DefaultValue =\"=Date()>#1/1/2000#\"\n", "", "chkExpr.Value = Date>#1/1/2000#"},
       {"chkWord", "DefaultValue =\"Maybe\"\n", "", ""},
   };
   std::string controls;
@@ -95,11 +95,14 @@ TEST_F(OptionWriters, CalculatedCheckBoxGoesThroughTheDataControl) {
   Stand("chkCalc");
   WriteCheckBox(w_);
   EXPECT_EQ(Written().find("DataField"), std::string::npos);
-  // Fields in brackets are Access's: the statement is marked for review.
-  EXPECT_EQ(HintText(), Hints({{"AddDataCtlEntry", "datfrmTest", "chkCalc.value =[A] Or [B]"},
-                               {"AddToReport", "frmTest", "7", "chkCalc =[A] Or [B]", "0",
-                                "chkCalc.value =[A] Or [B]", ""},
-                               {"CheckBoxCode", "frmTest", "chkCalc", "chkCalc", ""}}));
+  // Fields of a form without records have no reading: the expression is
+  // kept as a comment, with a row asking for review.
+  EXPECT_EQ(
+      HintText(),
+      Hints({{"AddToReport", "frmTest", "7", "chkCalc.value =[A] Or [B]", "0",
+              "the Access expression has no Visual Basic reading here; kept as a comment", ""},
+             {"AddDataCtlEntry", "datfrmTest", "'MORVANE chkCalc.value =[A] Or [B]"},
+             {"CheckBoxCode", "frmTest", "chkCalc", "chkCalc", ""}}));
 }
 
 // --- Option groups -----------------------------------------------------------
@@ -425,8 +428,12 @@ Style = 1
 Picture = "frmTest.frx":0000
 End
 )"));
-  EXPECT_EQ(HintText(), Hints({{"FLS", "tglBold.Value =[Bold]"},
-                               {"OptionGroupCode", "frmTest", "tglBold", "tglBold", ""}}));
+  EXPECT_EQ(
+      HintText(),
+      Hints({{"AddToReport", "frmTest", "7", "tglBold.Value =[Bold]", "0",
+              "the Access expression has no Visual Basic reading here; kept as a comment", ""},
+             {"FLS", "'MORVANE tglBold.Value =[Bold]"},
+             {"OptionGroupCode", "frmTest", "tglBold", "tglBold", ""}}));
 }
 
 }  // namespace

@@ -466,13 +466,13 @@ Private Function InitialDataCtlCaptions()
 End Function
 Private Sub datfrmControls_MoveComplete(ByVal adReason As ADODB.EventReasonEnum, ByVal pError As ADODB.Error, adStatus As ADODB.EventStatusEnum, ByVal pRecordset As ADODB.Recordset)
     On Error Resume Next
-    txtTotal.text =[Qty]*[Price]
+    txtTotal.text = datfrmControls.Recordset.Fields("Qty").Value*datfrmControls.Recordset.Fields("Price").Value
     grpShipVia(datfrmControls.recordset.Fields("ShipVia")-1).value = true
 End Sub
 Private Sub Form_Load()
     Call InitialDataCtlCaptions()
 
-    OrderDate.Value =Date()
+    OrderDate.Value = Date
     grpShipVia(1).Value = True
 End Sub
 Private Sub Form_Activate()

@@ -344,7 +344,7 @@ Private Sub datfrmEvents_RecordChangeComplete(ByVal adReason As ADODB.EventReaso
 End Sub
 Private Sub datfrmEvents_MoveComplete(ByVal adReason As ADODB.EventReasonEnum, ByVal pError As ADODB.Error, adStatus As ADODB.EventStatusEnum, ByVal pRecordset As ADODB.Recordset)
     Call Form_Current
-    txtCount.text =Count(*)
+    txtCount.text = datfrmEvents.Recordset.RecordCount
 End sub
 Private Function InitialDataCtlCaptions()
     On Error Resume Next

@@ -466,12 +466,12 @@ Private Function InitialDataCtlCaptions()
 End Function
 Private Sub datfrmControls_MoveComplete(ByVal adReason As ADODB.EventReasonEnum, ByVal pError As ADODB.Error, adStatus As ADODB.EventStatusEnum, ByVal pRecordset As ADODB.Recordset)
     On Error Resume Next
-    txtTotal.text =[Qty]*[Price]
+    txtTotal.text = datfrmControls.Recordset.Fields("Qty").Value*datfrmControls.Recordset.Fields("Price").Value
 End Sub
 Private Sub Form_Load()
     Call InitialDataCtlCaptions()
 
-    OrderDate.Text =Date()
+    OrderDate.Text = Date
 End Sub
 Private Sub Form_Activate()
     Dim vReturnValue as variant

@@ -1,0 +1,98 @@
+// Long designer properties set from Form_Load.
+#include "forms/long_properties.h"
+
+#include "session/conversion_session.h"
+#include "session/hint_processor.h"
+#include "session/naming.h"
+
+namespace morvane {
+
+namespace {
+
+// Lines longer than this are moved; a line of Visual Basic may hold 1,023
+// bytes, the rest is room for indentation.
+constexpr size_t kLongest = 1000;
+
+// Reason of an analysis row for a value that is set in code rather than in
+// the form file.
+constexpr long kReasonReview = 7;
+
+struct Block {
+  std::string name;                                        // the control's name; empty for the form
+  std::string index;                                       // its Index in a control array
+  std::vector<std::pair<std::string, std::string>> moved;  // key, quoted value
+};
+
+std::string Trimmed(const std::string& line) {
+  const size_t b = line.find_first_not_of(" \t");
+  return b == std::string::npos ? std::string() : line.substr(b);
+}
+
+// "Key = "value"" split; false for a line of another shape.
+bool SplitProperty(const std::string& t, std::string* key, std::string* value) {
+  const size_t eq = t.find('=');
+  if (eq == std::string::npos || eq == 0) return false;
+  *key = TrimBlanks(t.substr(0, eq));
+  for (char c : *key)
+    if (!IsNameCharacter(static_cast<unsigned char>(c))) return false;
+  std::string v = TrimBlanks(t.substr(eq + 1));
+  if (v.size() < 2 || v.front() != '"' || v.back() != '"') return false;
+  // The value as the text it stands for: doubled quotes made single.
+  std::string text;
+  for (size_t i = 1; i + 1 < v.size(); ++i) {
+    text += v[i];
+    if (v[i] == '"' && i + 2 < v.size() && v[i + 1] == '"') ++i;
+  }
+  *value = std::move(text);
+  return true;
+}
+
+}  // namespace
+
+void MoveLongProperties(ConversionSession& s, const std::string& formName,
+                        std::vector<std::string>& lines) {
+  std::vector<Block> blocks;
+  std::vector<std::string> kept;
+  kept.reserve(lines.size());
+  int propertyDepth = 0;  // inside BeginProperty ... EndProperty
+  for (auto& line : lines) {
+    const std::string t = Trimmed(line);
+    if (StartsWithNoCase(t, "BeginProperty")) ++propertyDepth;
+    if (StartsWithNoCase(t, "EndProperty") && propertyDepth > 0) --propertyDepth;
+    if (propertyDepth == 0 && StartsWithNoCase(t, "Begin ")) {
+      const size_t blank = t.find(' ', 6);
+      blocks.push_back({blocks.empty() || blank == std::string::npos
+                            ? std::string()
+                            : TrimBlanks(t.substr(blank + 1)),
+                        "",
+                        {}});
+    } else if (propertyDepth == 0 && EqualsNoCase(t, "End") && !blocks.empty()) {
+      const Block& b = blocks.back();
+      const std::string target =
+          b.name.empty() ? "Me" : "Me." + b.name + (b.index.empty() ? "" : "(" + b.index + ")");
+      for (const auto& [key, value] : b.moved) {
+        std::vector<std::string> expr = VbStringLines(value);
+        expr.front() = target + "." + key + " = " + expr.front();
+        std::string statement;
+        for (const auto& piece : expr) statement += (statement.empty() ? "" : "\r\n") + piece;
+        AddHint(s, FormLoadLineHint{statement});
+        AddHint(s, ReportRowHint{formName, kReasonReview, target + "." + key, 0,
+                                 "too long for the form file; set in Form_Load", ""});
+      }
+      blocks.pop_back();
+    } else if (propertyDepth == 0 && !blocks.empty()) {
+      std::string key, value;
+      const size_t eq = t.find('=');
+      if (eq != std::string::npos && EqualsNoCase(TrimBlanks(t.substr(0, eq)), "Index"))
+        blocks.back().index = TrimBlanks(t.substr(eq + 1));
+      if (line.size() > kLongest && SplitProperty(t, &key, &value)) {
+        blocks.back().moved.emplace_back(key, value);
+        continue;
+      }
+    }
+    kept.push_back(std::move(line));
+  }
+  lines = std::move(kept);
+}
+
+}  // namespace morvane
