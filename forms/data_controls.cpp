@@ -79,21 +79,19 @@ int AdoCommandType(const FormWriter& w, const std::string& source,
   return 2;
 }
 
+// A statement goes as it is; a table or query is named for a command of
+// table type, and read through a statement where the command is text (a
+// filtered or sorted form, a subform), since a bare name is no command text.
 void AddAdoRecordSource(std::string& text, const FormWriter& w, const std::string& source,
                         const std::optional<std::string>& formName) {
-  const bool subform = ForSubform(w, formName);
-  if (IsSelectStatement(source)) {
+  if (source.empty()) return;
+  const std::string name = source.find(' ') != std::string::npos ? "[" + source + "]" : source;
+  if (IsSelectStatement(source))
     AddLine(text, "RecordSource = \"" + source + "\"");
-  } else if (source.find(' ') != std::string::npos) {
-    AddLine(text, subform ? "RecordSource = \"Select * From [" + source + "]\""
-                          : "RecordSource = \"[" + source + "]\"");
-  } else if (source.empty()) {
-    return;
-  } else if (subform) {
-    AddLine(text, "RecordSource = \"Select * From " + source + "\"");
-  } else {
-    AddLine(text, "RecordSource = \"" + source + "\"");
-  }
+  else if (AdoCommandType(w, source, formName) == 1)
+    AddLine(text, "RecordSource = \"Select * From " + name + "\"");
+  else
+    AddLine(text, "RecordSource = \"" + name + "\"");
 }
 
 // Upper-case hexadecimal, at least four digits. An offset past 65535 keeps

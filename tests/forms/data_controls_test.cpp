@@ -181,10 +181,11 @@ TEST_F(DataControlsTest, AdoRecordSourceAndCommandType) {
        "RecordSource = \"select OrderID from [Order Details]\"", 1},
       // The test of a statement needs its blank: this is a name.
       {"Selected", false, "", "RecordSource = \"Selected\"", 2},
-      {"Orders", false, "OrderBy =\"Name\"", "RecordSource = \"Orders\"", 1},
-      {"Orders", false, "Filter =\"OrderID > 5\"", "RecordSource = \"Orders\"", 1},
-      {"Orders", false, "FilterOn = NotDefault", "RecordSource = \"Orders\"", 1},
-      {"Orders", false, "OrderByOn = NotDefault", "RecordSource = \"Orders\"", 1},
+      // A command of text type takes a statement, never a bare name.
+      {"Orders", false, "OrderBy =\"Name\"", "RecordSource = \"Select * From Orders\"", 1},
+      {"Orders", false, "Filter =\"OrderID > 5\"", "RecordSource = \"Select * From Orders\"", 1},
+      {"Orders", false, "FilterOn = NotDefault", "RecordSource = \"Select * From Orders\"", 1},
+      {"Orders", false, "OrderByOn = NotDefault", "RecordSource = \"Select * From Orders\"", 1},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(std::string(c.source) + " " + c.formProperty);
