@@ -232,7 +232,7 @@ void WriteBoundObjectFrame(FormWriter& w) {
   if (const FormDesign* form = CurrentFormOf(w)) source = form->Text("RecordSource");
   if (!source || !source->empty()) {
     AddLine(text, "DataSource =\"" + DataControlName(w) + "\"");
-    AddLine(text, "DataField =\"", c.Text("ControlSource"), "\"");
+    AddLine(text, "DataField =\"", Escaped(c.Text("ControlSource")), "\"");
   }
   AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));
   AddTabStopLine(text, c);

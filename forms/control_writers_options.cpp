@@ -68,7 +68,7 @@ void AddMemberTipAndTag(std::string& text, const ControlDesign& k) {
 // width of its own.
 void AddLabelLines(std::string& text, const ControlDesign* label, const std::string& prefix) {
   if (!label) return;
-  AddLine(text, prefix + "Caption =  \"", OneLine(*label, "Caption"), "\"");
+  AddLine(text, prefix + "Caption =  \"", Escaped(OneLine(*label, "Caption")), "\"");
   if (prefix.empty()) AddLine(text, "Width = ", Sum(label->Number("Width"), 270));
   AddLine(text, "BackColor= &H", Hex(*label, "BackColor"), "&");
   AddLine(text, "ForeColor= &H", Hex(*label, "ForeColor"), "&");
@@ -96,7 +96,7 @@ MemberPlace PlaceInGroup(const FormTextSet& t, const ControlDesign& group, const
 
 // The toggle button's own caption, colour, size and style.
 void AddToggleLines(std::string& text, const ControlDesign& k) {
-  AddLine(text, "Caption =  \"", OneLine(k, "Caption"), "\"");
+  AddLine(text, "Caption =  \"", Escaped(OneLine(k, "Caption")), "\"");
   AddLine(text, "ForeColor= &H", Hex(k, "ForeColor"), "&");
   AddLine(text, "Width = ", ValueText(k, "Width"));
   AddLine(text, "Height = ", ValueText(k, "Height"));
@@ -180,7 +180,7 @@ class GroupMembers {
   void WriteSetHead(const ControlDesign& k) {
     AddLine(text_, "Begin SSDataWidgets_A.SSDBOptSet " + s_.Form().CurrentControlName);
     AddLine(text_, "DataSource =\"" + DataControlName(w_) + "\"");
-    AddLine(text_, "DataField =\"", group_.Text("ControlSource"), "\"");
+    AddLine(text_, "DataField =\"", Escaped(group_.Text("ControlSource")), "\"");
     AddLine(text_, "_ExtentX =3228");
     AddLine(text_, "_ExtentY =2461");
     AddLine(text_, "_Version =131072");
@@ -271,7 +271,7 @@ void WriteCheckBox(FormWriter& w) {
   ConversionSession& s = w.Session();
   std::string text;
   AddLine(text, "Begin VB.CheckBox " + s.Form().CurrentControlName);
-  AddLine(text, "Caption =  \"", c.Text("Caption"), "\"");
+  AddLine(text, "Caption =  \"", Escaped(c.Text("Caption")), "\"");
   if (AddPlainValue(text, w, c, kCheckBoxValues))
     AddLine(text, IsTrueOrUnread(c.Flag("TripleState")) ? "Value = 2" : "Value = 0");
   AddFontLines(text, c);
@@ -303,7 +303,7 @@ void WriteOptionGroup(FormWriter& w) {
   AddLine(text, "Begin VB.Frame grp" + s.Form().CurrentControlName);
   // The group's own label gives the frame its caption and colours.
   if (const ControlDesign* label = AttachedLabel(w, c.Name())) {
-    AddLine(text, "Caption =  \"", OneLine(*label, "Caption"), "\"");
+    AddLine(text, "Caption =  \"", Escaped(OneLine(*label, "Caption")), "\"");
     AddLine(text, "BackColor= &H", Hex(*label, "BackColor"), "&");
     AddLine(text, "ForeColor= &H", Hex(*label, "ForeColor"), "&");
   }

@@ -276,7 +276,8 @@ void FormWriter::WriteFormHeader(const FormDesign& form) {
   line("BorderStyle = ", ValueText(form, "BorderStyle"));
   {
     auto caption = form.Text("Caption");
-    line("Caption =\"", caption && !caption->empty() ? caption : std::optional(name), "\"");
+    line("Caption =\"", Escaped(caption && !caption->empty() ? caption : std::optional(name)),
+         "\"");
   }
   std::optional<std::string> height;
   if (totalValid_) height = std::to_string(t_.Place.Total);

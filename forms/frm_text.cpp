@@ -39,6 +39,11 @@ std::string EscapeQuotes(std::string_view text) { return ReplaceAllText(text, "\
 
 std::string JoinLines(std::string_view text) { return ReplaceAllText(text, "\r\n", " "); }
 
+std::optional<std::string> Escaped(const std::optional<std::string>& value) {
+  if (!value) return value;
+  return EscapeQuotes(*value);
+}
+
 void AddLine(std::string& text, std::string_view line) {
   text += line;
   text += "\r\n";
@@ -140,7 +145,7 @@ void AddBindingLines(std::string& text, FormWriter& w, const ControlDesign& c) {
   const FormDesign* form = w.Text().CurrentForm;
   const std::string formName = form ? form->Name() : w.Text().OwnerFormName;
   AddLine(text, "DataSource =\"" + w.Session().Names.DataControl(formName) + "\"");
-  AddLine(text, "DataField =\"" + *source + "\"");
+  AddLine(text, "DataField =\"" + EscapeQuotes(*source) + "\"");
 }
 
 namespace {

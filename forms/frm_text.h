@@ -31,6 +31,9 @@ std::string JoinLines(std::string_view text);
 // Appends `line` and CR LF to `text`: the line tables of the writers are
 // built one row at a time.
 void AddLine(std::string& text, std::string_view line);
+// A text read from the design, quotes doubled for a quoted property value;
+// nullopt stays nullopt (the line is then left out).
+std::optional<std::string> Escaped(const std::optional<std::string>& value);
 // Appends head + value when the value could be read; a failed read leaves
 // the line out.
 void AddLine(std::string& text, std::string_view head, const std::optional<std::string>& value,
