@@ -8,6 +8,7 @@
 #include "design/form_design.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
+#include "translator/analysis_writers.h"
 
 namespace morvane {
 
@@ -190,6 +191,25 @@ void ControlEventWriter::Validate(bool guard) const {
     code_.AppendProc(Header(kValidateSuffix), {code_.EventLine(beforeUpdate, "")});
 }
 
+void ControlEventWriter::AfterUpdateFromValidate(bool validate) const {
+  const std::string afterUpdate = Value("AfterUpdate");
+  if (afterUpdate.empty()) return;
+  const bool own = ClassifyEvent(afterUpdate) == EventValue::EventProcedure;
+  if (own && NamesDiffer())
+    code_.RenameProcLine(AccessHeader("_AfterUpdate()"), Header("_AfterUpdate()"));
+  const std::string call = code_.EventLine(afterUpdate, OwnCall("_AfterUpdate"));
+  const std::string header = Header(validate ? kValidateSuffix : "_LostFocus()");
+  const std::string line =
+      validate ? "If Not Cancel And " + vbName_ + ".DataChanged Then " + call : call;
+  if (code_.IsDuplicateLine(header) > 0)
+    code_.InsertLine(header, line, kEndOfProcedure);
+  else
+    code_.AppendProc(header, {line});
+  // Access runs AfterUpdate once the value is saved; Visual Basic has no such
+  // event, so the call stands where the value is checked.
+  ReportLine(Session(), code_.FormName(), kReasonReview, "AfterUpdate of " + vbName_, 0, line, "");
+}
+
 void ButtonCode(const ControlEventWriter& w) {
   Plain(w, kClick);
   w.DblClickIntoClick();
@@ -253,6 +273,7 @@ void TextBoxCode(const ControlEventWriter& w) {
   PlainAll(w, kKeyEvents);
   Plain(w, kChange);
   w.Validate(!w.Session().Options.IsVb5);
+  w.AfterUpdateFromValidate(!w.Session().Options.IsVb5);
   w.GotFocusWithEnter();
   w.LostFocusWithExit({}, {}, false);
 }

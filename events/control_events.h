@@ -57,6 +57,9 @@ class ControlEventWriter {
   std::vector<std::string> ExitBlock() const;
   // BeforeUpdate into Validate, when `guard` holds.
   void Validate(bool guard) const;
+  // AfterUpdate called at the end of Validate when the value changed and
+  // passed; without Validate (Visual Basic 5), from LostFocus.
+  void AfterUpdateFromValidate(bool validate) const;
 
  private:
   const EventCode& code_;

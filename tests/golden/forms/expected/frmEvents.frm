@@ -289,6 +289,7 @@ End Function
 
 Private Sub Customer_Validate(Cancel As Boolean)
     If Len(Me.Customer) < 2 Then Cancel = True
+    If Not Cancel And Customer.DataChanged Then Call CheckCustomer
 End Sub
 
 Private Sub cmdGo_Click()
