@@ -250,19 +250,27 @@ void OptionGroupCode(const ControlEventWriter& w) {
     code.AppendProc(w.Header("_Validate(Index As Integer, Cancel As Boolean)"),
                     {code.EventLine(beforeUpdate, "")});
   // The translator's second pass gives the group's own Sub procedures the
-  // Index parameter too, so the calls to them pass it on.
+  // Index parameter too, so the calls to them pass it on. A procedure the
+  // module (or a macro's call) already gives the event takes the lines at
+  // its end; a second procedure of that name would not compile.
+  auto addTo = [&](std::string_view event, const std::vector<std::string>& lines) {
+    const std::string own = w.Header(std::string(event) + "()");
+    if (code.IsDuplicateLine(own) > 0) {
+      for (const auto& line : lines) code.InsertLine(own, line, kEndOfProcedure);
+    } else {
+      code.AppendProc(w.Header(std::string(event) + "(Index As Integer)"), lines);
+    }
+  };
   if (const std::string v = w.Value("AfterUpdate"); !v.empty())
-    code.AppendProc(w.Header("_Click(Index As Integer)"),
-                    {code.EventLine(v, w.OwnCall("_AfterUpdate") + "(Index)")});
+    addTo("_Click", {code.EventLine(v, w.OwnCall("_AfterUpdate") + "(Index)")});
   if (const std::string v = w.Value("OnEnter"); !v.empty())
-    code.AppendProc(w.Header("_GotFocus(Index As Integer)"),
-                    {code.EventLine(v, w.OwnCall("_Enter") + "(Index)")});
+    addTo("_GotFocus", {code.EventLine(v, w.OwnCall("_Enter") + "(Index)")});
   if (!w.Value("OnExit").empty()) {
     // The focus goes back to the option that lost it.
     std::vector<std::string> block = w.ExitBlock();
     for (auto& line : block)
       if (line.ends_with(".SetFocus")) line.insert(line.size() - 9, "(Index)");
-    code.AppendProc(w.Header("_LostFocus(Index As Integer)"), block);
+    addTo("_LostFocus", block);
   }
 }
 

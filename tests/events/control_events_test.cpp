@@ -119,8 +119,9 @@ const FamilyOrder kFamilyOrders[] = {
     {"OptionGroup",
      "OptionGroup",
      {"x_Click()", "x_DblClick()", kMouse[0], kMouse[1], kMouse[2],
-      "x_Validate(Index As Integer, Cancel As Boolean)", "x_Click(Index As Integer)",
-      "x_GotFocus(Index As Integer)", "x_LostFocus(Index As Integer)"}},
+      // AfterUpdate joins the Click the group has: one Click procedure.
+      "x_Validate(Index As Integer, Cancel As Boolean)", "x_GotFocus(Index As Integer)",
+      "x_LostFocus(Index As Integer)"}},
     {"TextBox",
      "TextBox",
      {"x_Click()", "x_DblClick()", kMouse[0], kMouse[1], kMouse[2], kKeys[0], kKeys[1], kKeys[2],
