@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -29,6 +28,16 @@ inline std::string FormText(const std::string& controls, const std::string& form
          "    Begin Section\n        Height =3000\n        BackColor =12632256\n"
          "        Name =\"Detail\"\n        Begin\n" +
          controls + "        End\n    End\nEnd\n";
+}
+
+// A control block: its type, its property lines joined by "|", and the
+// blocks it holds.
+inline std::string Ctl(const std::string& type, const std::string& properties,
+                       const std::string& inner = "") {
+  std::string out = "Begin " + type + "\n" + ReplaceAllText(properties, "|", "\n");
+  if (!out.ends_with("\n")) out += "\n";
+  if (!inner.empty()) out += "Begin\n" + inner + "End\n";
+  return out + "End\n";
 }
 
 // A binary property as SaveAsText writes it: hex lines in a Begin ... End.
@@ -57,20 +66,21 @@ inline std::string PictureBytes(unsigned char first, size_t size, uint32_t image
   return data;
 }
 
-// Lines written with "\n" as the form text writes them, CR LF between and
-// no line end after the last.
-inline std::string Lines(const std::string& text) {
-  std::string out = Crlf(text);
-  if (out.size() >= 2 && out.compare(out.size() - 2, 2, "\r\n") == 0) out.resize(out.size() - 2);
-  return out;
+// The text of hint records whose fields are given joined by "|".
+inline std::string Fields(const std::string& joined) {
+  return joined.empty() ? "" : ReplaceAllText(joined, "|", "\r\n") + "\r\n";
 }
 
-// The text of hint records, each field a line.
-inline std::string Hints(std::initializer_list<std::initializer_list<std::string>> records) {
-  std::string out;
-  for (const auto& record : records)
-    for (const auto& field : record) out += field + "\r\n";
-  return out;
+// Checks a written control text line by line: each entry is a whole line
+// of it, or, after a "!", the start of no line of it.
+inline void ExpectLines(const std::string& text, const std::vector<std::string>& lines) {
+  const std::string all = "\r\n" + text + "\r\n";
+  for (const std::string& l : lines) {
+    if (l[0] == '!')
+      EXPECT_EQ(all.find("\r\n" + l.substr(1)), std::string::npos) << l << " in\n" << text;
+    else
+      EXPECT_NE(all.find("\r\n" + l + "\r\n"), std::string::npos) << l << " in\n" << text;
+  }
 }
 
 class WriterHarness : public ::testing::Test {
@@ -141,35 +151,6 @@ class WriterHarness : public ::testing::Test {
   std::vector<Export> exports_;
   DesignStore store_;
   FormWriter w_;
-};
-
-// The font block of a control in Arial 10, regular.
-inline constexpr const char* kFontBlock = R"(BeginProperty Font 
-Name = "Arial"
-charset = 0
-weight = 400
-Size = 10
-underline = 0
-italic = 0
-strikethrough = 0
-EndProperty
-)";
-
-// The font block of a control type that has no font in Access.
-inline constexpr const char* kNoFontBlock = R"(BeginProperty Font 
-charset = 0
-strikethrough = 0
-EndProperty
-)";
-
-// The writer standing on a control of "frmTest"; Hint is the record of a
-// control of that form.
-class ControlWriters : public WriterHarness {
- protected:
-  std::string Hint(const std::string& record, const std::string& accessName,
-                   const std::string& vbName) {
-    return Hints({{record, "frmTest", accessName, vbName, ""}});
-  }
 };
 
 }  // namespace morvane::test
