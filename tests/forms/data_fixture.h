@@ -17,83 +17,29 @@
 #include "session/conversion_session.h"
 #include "session/naming.h"
 #include "support/temp_dir.h"
+#include "tests/forms/writer_harness.h"
 
 namespace morvane::test {
 
 // The main form on Orders holds the subform control subLines, which shows
 // frmLines on Order Details, linked on OrderID.
-inline constexpr const char kMainForm[] = R"txt(Version =19
-VersionRequired =19
-Begin Form
-    Width =6000
-    RecordSource ="Orders"
-    Begin
-        Begin Section
-            Height =3000
-            Name ="Detail"
-            Begin
-                Begin Subform
-                    Left =500
-                    Top =1000
-                    Width =4000
-                    Height =1500
-                    Name ="subLines"
-                    SourceObject ="Form.frmLines"
-                    LinkChildFields ="OrderID"
-                    LinkMasterFields ="OrderID"
-                End
-                Begin Subform
-                    Name ="subByCustomer"
-                    SourceObject ="Form.frmLines"
-                    LinkChildFields ="CustomerID"
-                    LinkMasterFields ="CustomerID"
-                End
-                Begin Subform
-                    Name ="subTwoFields"
-                    SourceObject ="Form.frmLines"
-                    LinkChildFields ="OrderID;ProductID"
-                    LinkMasterFields ="OrderID; CustomerID"
-                End
-                Begin Subform
-                    Name ="subUnlinked"
-                    SourceObject ="Form.frmLines"
-                End
-                Begin ListBox
-                    Name ="lstOne"
-                    ColumnCount =1
-                End
-                Begin ListBox
-                    Name ="lstNone"
-                    ColumnCount =0
-                End
-                Begin ListBox
-                    Name ="lstTwo"
-                    ColumnCount =2
-                End
-                Begin ComboBox
-                    Name ="cboDefault"
-                End
-                Begin TextBox
-                    Name ="txtPlain"
-                End
-            End
-        End
-    End
-End
-)txt";
-
-inline constexpr const char kLinesForm[] = R"txt(Version =19
-VersionRequired =19
-Begin Form
-    RecordSource ="Order Details"
-    Begin
-        Begin Section
-            Height =1200
-            Name ="Detail"
-        End
-    End
-End
-)txt";
+inline const std::string kMainForm = FormText(
+    Ctl("Subform",
+        "Left =500|Top =1000|Width =4000|Height =1500|Name =\"subLines\"|"
+        "SourceObject =\"Form.frmLines\"|LinkChildFields =\"OrderID\"|"
+        "LinkMasterFields =\"OrderID\"") +
+        Ctl("Subform",
+            "Name =\"subByCustomer\"|SourceObject =\"Form.frmLines\"|"
+            "LinkChildFields =\"CustomerID\"|LinkMasterFields =\"CustomerID\"") +
+        Ctl("Subform",
+            "Name =\"subTwoFields\"|SourceObject =\"Form.frmLines\"|"
+            "LinkChildFields =\"OrderID;ProductID\"|LinkMasterFields =\"OrderID; CustomerID\"") +
+        Ctl("Subform", "Name =\"subUnlinked\"|SourceObject =\"Form.frmLines\"") +
+        Ctl("ListBox", "Name =\"lstOne\"|ColumnCount =1") +
+        Ctl("ListBox", "Name =\"lstNone\"|ColumnCount =0") +
+        Ctl("ListBox", "Name =\"lstTwo\"|ColumnCount =2") +
+        Ctl("ComboBox", "Name =\"cboDefault\"") + Ctl("TextBox", "Name =\"txtPlain\""),
+    "    RecordSource =\"Orders\"\n");
 
 class DataFixture : public ::testing::Test {
  protected:
@@ -166,7 +112,8 @@ class DataFixture : public ::testing::Test {
   }
 
   TempDir dir_;
-  std::map<std::string, std::string> forms_{{"Main", kMainForm}, {"frmLines", kLinesForm}};
+  std::map<std::string, std::string> forms_{
+      {"Main", kMainForm}, {"frmLines", FormText("", "    RecordSource =\"Order Details\"\n")}};
   MemoryCatalog db_;
   std::unique_ptr<SupportDatabase> support_;
   ConversionSession s_;

@@ -52,23 +52,15 @@ class PictureExtraction : public test::WriterHarness {
   std::string Frx() { return s_.Form().Binary; }
 };
 
-TEST_F(PictureExtraction, BitmapBecomesABmpFileBehindTheRecordPrefix) {
+TEST_F(PictureExtraction, RecordsFollowEachOther) {
+  // The bytes of a bitmap's record are in the golden forms' .frx.
   const std::string data = PictureBytes(40, 100, 60);
   Pictures({data, data});
   EXPECT_EQ(Extract(0), "0000");
-  const std::string frx = Frx();
-  ASSERT_EQ(frx.size(), 126u);
-  EXPECT_EQ(LongAt(frx, 0), 122u);
-  EXPECT_EQ(frx.substr(4, 4), kMark);
-  EXPECT_EQ(LongAt(frx, 8), 114u);
-  EXPECT_EQ(frx.substr(12, 2), "BM");
-  EXPECT_EQ(LongAt(frx, 14), 114u);
-  EXPECT_EQ(LongAt(frx, 18), 0u);
-  EXPECT_EQ(LongAt(frx, 22), 114u - 60u);
-  EXPECT_EQ(frx.substr(26), data);
-  // The next record follows the first.
+  EXPECT_EQ(Frx().size(), 126u);
   EXPECT_EQ(Extract(1), "007E");
   EXPECT_EQ(Frx().size(), 252u);
+  EXPECT_EQ(Frx().substr(126 + 26), data);
   EXPECT_EQ(w_.Text().PictureReference, "007E");
 }
 

@@ -268,31 +268,7 @@ TEST_F(RecordSourceTest, EveryMappingRowMapsToItsClassAndComponent) {
   EXPECT_GE(rows, 16);
 }
 
-TEST_F(RecordSourceTest, CommonControlsMapToTheirLibraries) {
-  struct Case {
-    const char* accessClass;
-    const char* vbType;
-    const char* guid;
-    const char* file;
-  };
-  const Case cases[] = {
-      {"MSCAL.Calendar.7", "MSACAL.Calendar", "{8E27C92E-1264-101C-8A2F-040224009C02}#7.0#0",
-       "MSCAL.OCX"},
-      {"mscomctllib.listviewctrl.2", "MSComctlLib.ListView",
-       "{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0", "MSCOMCTL.OCX"},
-      {"MSComCtl2.DTPicker.2", "MSComCtl2.DTPicker", "{86CF1D34-0C5F-11D2-A9FC-0000F8754DA1}#2.0#0",
-       "MSCOMCT2.OCX"},
-      {"Shell.Explorer.2", "SHDocVwCtl.WebBrowser", "{EAB22AC0-30C1-11CF-A7EB-0000C05BAE0B}#1.1#0",
-       "SHDOCVW.DLL"},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.accessClass);
-    w_.WriteComponentLines(false);
-    EXPECT_EQ(MapCustomControl(s_, c.accessClass, &w_), c.vbType);
-    ASSERT_EQ(w_.Text().ComponentGuids.size(), 1u);
-    EXPECT_EQ(w_.Text().ComponentGuids[0], c.guid);
-    EXPECT_EQ(w_.Text().ComponentFiles[0], c.file);
-  }
+TEST_F(RecordSourceTest, ALibraryIsRegisteredOnce) {
   // Two controls of one library register it once, and so does the date
   // picker of a text box after a mapped one.
   w_.WriteComponentLines(false);
