@@ -1,12 +1,13 @@
 // Form event code: the events of a main form and of a subform merged into
 // it, Open and Close folded into Load and Unload, and the record events on
-// the data control, checked on the whole text of the output file.
+// the data control, checked on the whole text of the output file. The
+// golden frmEvents shows a main form's procedures standing, Open and an
+// expression folded into a new Load, a Close macro in a new Unload, and the
+// ADO record and move procedures; these are the other cases.
 #include "events/form_events.h"
 
 #include "events/event_harness.h"
-#include "platform/line_editor.h"
 #include "platform/text_file.h"
-#include "session/naming.h"
 
 namespace morvane::test {
 namespace {
@@ -14,6 +15,11 @@ namespace {
 constexpr const char* kSubformControl =
     "        Begin Subform\n            Name =\"sfrmLines\"\n"
     "            SourceObject =\"Form.frmLines\"\n        End\n";
+
+// The main form's code, then the subform's in its marked section.
+std::string WithSubform(const std::string& main, const std::string& sub) {
+  return main + "'MORVANE Form Code for frmLines\n" + sub + "'MORVANE End Form Code for frmLines\n";
+}
 
 class FormEventCode : public EventHarness {
  protected:
@@ -23,50 +29,10 @@ class FormEventCode : public EventHarness {
     AddTestForm(kSubformControl, main);
     AddForm("frmLines", FormText(sub));
   }
-  // The main form's code, then the subform's in its marked section.
-  static std::string WithSubform(const std::string& main, const std::string& sub) {
-    return main + "'MORVANE Form Code for frmLines\n" + sub +
-           "'MORVANE End Form Code for frmLines\n";
-  }
   void Main() { FormEvents("frmTest"); }
   void Sub() { FormEvents("frmLines", "sfrmLines"); }
   std::string File(const std::string& code) const { return Crlf(kFrmHead + code); }
 };
-
-TEST_F(FormEventCode, MainFormEventProcedureStandsAsItIs) {
-  Forms({{"OnClick", "[Event Procedure]"}, {"OnMouseDown", "[Event Procedure]"}});
-  const std::string code = "Private Sub Form_Click()\nEnd Sub\n";
-  SetCode(code);
-  Main();
-  EXPECT_EQ(Output(), File(code));
-}
-
-TEST_F(FormEventCode, SubformProcedureIsRenamedAndCalledFromTheParents) {
-  Forms({}, {{"OnClick", "[Event Procedure]"}, {"OnMouseDown", "[Event Procedure]"}});
-  SetCode(WithSubform(
-      "Private Sub Form_Click()\nx = 1\nEnd Sub\n"
-      "Private Sub Form_MouseDown(Button As Integer, Shift As Integer, X As Single, Y As Single)\n"
-      "End Sub\n",
-      "Private Sub Form_Click()\ny = 2\nEnd Sub\n"
-      "Private Sub Form_MouseDown(Button As Integer, Shift As Integer, X As Single, Y As Single)\n"
-      "End Sub\n"));
-  Sub();
-  EXPECT_EQ(Output(),
-            File(WithSubform(
-                "Private Sub Form_Click()\nx = 1\nCall frmLines_SubForm_Click()\nEnd Sub\n"
-                "Private Sub Form_MouseDown(Button As Integer, Shift As Integer, X As Single, Y "
-                "As Single)\nCall frmLines_SubForm_MouseDown(Button, Shift, X, Y)\nEnd Sub\n",
-                "Private Sub frmLines_SubForm_Click()\ny = 2\nEnd Sub\n"
-                "Private Sub frmLines_SubForm_MouseDown(Button As Integer, Shift As Integer, X As "
-                "Single, Y As Single)\nEnd Sub\n")));
-}
-
-TEST_F(FormEventCode, SubformCallHasNoAnchorWithoutTheParentsProcedure) {
-  Forms({}, {{"OnClick", "[Event Procedure]"}});
-  SetCode(WithSubform("", "Private Sub Form_Click()\nEnd Sub\n"));
-  Sub();
-  EXPECT_EQ(Output(), File(WithSubform("", "Private Sub frmLines_SubForm_Click()\nEnd Sub\n")));
-}
 
 TEST_F(FormEventCode, MacroOnAnExistingProcedureIsReportedOnAMainFormAndAddedOnASubform) {
   Forms({{"OnClick", "mcrBeep"}}, {{"OnClick", "=Sub1()"}});
@@ -86,24 +52,16 @@ TEST_F(FormEventCode, MacroOnAnExistingProcedureIsReportedOnAMainFormAndAddedOnA
   EXPECT_EQ(Rows().size(), 1u);
 }
 
-TEST_F(FormEventCode, NewPlainProcedureOfAMainForm) {
-  Forms({{"OnKeyPress", "mcrNav.Fill"}});
-  SetCode("");
-  Main();
-  EXPECT_EQ(Added(""), Crlf("\nPrivate Sub Form_KeyPress(KeyAscii As Integer)\n"
-                            "Set CodeContextObject = Me\nCall mcrNav_Fill\n"
-                            "Set CodeContextObject = Nothing\nEnd Sub\n"));
-}
-
-// Load and Open of a main form, as the code stood and as it stands after.
+// The events of the main form, or of the subform merged into it, and the
+// code as it stood and as it stands after.
 struct FoldCase {
   const char* name;
   Properties properties;
-  const char* code;
-  const char* result;
+  std::string code, result;
+  Properties subProperties = {};  // when given, the writers run on the subform
 };
 
-const FoldCase kMainFormFolds[] = {
+const FoldCase kFolds[] = {
     {"OpenProcedureOpensTheExistingLoad",
      {{"OnLoad", "[Event Procedure]"}, {"OnOpen", "[Event Procedure]"}},
      "Private Sub Form_Load()\nx = 1\nEnd Sub\n",
@@ -137,67 +95,73 @@ const FoldCase kMainFormFolds[] = {
      "",
      "\nPrivate Sub Form_Resize()\nCall Fit()\nEnd Sub\n"
      "\nPrivate Sub Timer1_Timer()\nCall Form_Timer\nEnd Sub\n"},
-    {"ResizeProcedureStands",
-     {{"OnResize", "[Event Procedure]"}},
-     "Private Sub Form_Resize()\nEnd Sub\n",
-     "Private Sub Form_Resize()\nEnd Sub\n"},
+    // A subform's procedures are renamed and called from the parent's, where
+    // the parent has one.
+    {"SubformProceduresAreRenamedAndCalled",
+     {},
+     WithSubform(
+         "Private Sub Form_Click()\nx = 1\nEnd Sub\n",
+         "Private Sub Form_Click()\ny = 2\nEnd Sub\n"
+         "Private Sub Form_MouseDown(Button As Integer, Shift As Integer, X As Single, Y As "
+         "Single)\nEnd Sub\n"),
+     WithSubform("Private Sub Form_Click()\nx = 1\nCall frmLines_SubForm_Click()\nEnd Sub\n",
+                 "Private Sub frmLines_SubForm_Click()\ny = 2\nEnd Sub\n"
+                 "Private Sub frmLines_SubForm_MouseDown(Button As Integer, Shift As Integer, "
+                 "X As Single, Y As Single)\nEnd Sub\n"),
+     {{"OnClick", "[Event Procedure]"}, {"OnMouseDown", "[Event Procedure]"}}},
+    {"SubformLoadAndOpenFromTheParentsLoad",
+     {{"OnLoad", "[Event Procedure]"}},
+     WithSubform("Private Sub Form_Load()\nx = 1\nEnd Sub\n",
+                 "Private Sub Form_Load()\nEnd Sub\nPrivate Sub Form_Open()\nEnd Sub\n"),
+     WithSubform("Private Sub Form_Load()\nx = 1\nCall frmLines_SubForm_Load()\n"
+                 "If frmLines_SubForm_Open() Then\nUnload Me\nEnd If\nEnd Sub\n",
+                 "Private Sub frmLines_SubForm_Load()\nEnd Sub\n"
+                 "Private Sub frmLines_SubForm_Open()\nEnd Sub\n"),
+     {{"OnLoad", "[Event Procedure]"}, {"OnOpen", "[Event Procedure]"}}},
+    {"SubformLoadMacroInTheParentsLoad",
+     {{"OnOpen", "=Opening()"}},
+     WithSubform("Private Sub Form_Load()\nCall Opening()\nEnd Sub\n", ""),
+     WithSubform("Private Sub Form_Load()\nCall Opening()\nCall SubOpening()\nCall mcrBeep\n"
+                 "End Sub\n",
+                 ""),
+     {{"OnLoad", "mcrBeep"}, {"OnOpen", "=SubOpening()"}}},
+    // With no Unload of its own the subform's Close is called bare.
+    {"SubformCloseFromTheParentsUnload",
+     {{"OnClose", "=Closing()"}},
+     WithSubform("Private Sub Form_Unload(Cancel As Integer)\nCall Closing()\nEnd Sub\n",
+                 "Private Sub Form_Close()\nEnd Sub\n"),
+     WithSubform("Private Sub Form_Unload(Cancel As Integer)\nCall Closing()\n"
+                 "frmLines_SubForm_Close()\nEnd Sub\n",
+                 "Private Sub frmLines_SubForm_Close()\nEnd Sub\n"),
+     {{"OnClose", "[Event Procedure]"}}},
+    {"SubformUnloadAndCloseFromTheParentsUnload",
+     {{"OnUnload", "[Event Procedure]"}},
+     WithSubform("Private Sub Form_Unload(Cancel As Integer)\nEnd Sub\n",
+                 "Private Sub Form_Unload(Cancel As Integer)\nEnd Sub\n"),
+     WithSubform("Private Sub Form_Unload(Cancel As Integer)\nCall frmLines_SubForm_Unload(0)\n"
+                 "Call mcrBeep\nEnd Sub\n",
+                 "Private Sub frmLines_SubForm_Unload(Cancel As Integer)\nEnd Sub\n"),
+     {{"OnUnload", "[Event Procedure]"}, {"OnClose", "mcrBeep"}}},
+    {"SubformCurrentIsCalledOnMoving",
+     {},
+     WithSubform("", "Private Sub Form_Current()\nEnd Sub\n"),
+     WithSubform("", "Private Sub frmLines_Subform_Current()\nEnd Sub\n") +
+         "Private Sub datfrmLines_MoveComplete(ByVal adReason As ADODB.EventReasonEnum, "
+         "ByVal pError As ADODB.Error, adStatus As ADODB.EventStatusEnum, ByVal "
+         "pRecordset As ADODB.Recordset20)\nCall frmLines_Subform_Current\nEnd sub\n",
+     {{"OnCurrent", "[Event Procedure]"}}},
 };
 
-TEST_F(FormEventCode, OpenAndCloseFoldIntoLoadAndUnloadOfAMainForm) {
-  for (const auto& c : kMainFormFolds) {
+TEST_F(FormEventCode, FoldsAndForwards) {
+  for (const auto& c : kFolds) {
     SCOPED_TRACE(c.name);
-    Forms(c.properties);
+    Forms(c.properties, c.subProperties);
     Reload();
     SetCode(c.code);
-    Main();
+    c.subProperties.empty() ? Main() : Sub();
     EXPECT_EQ(Output(), File(c.result));
+    EXPECT_TRUE(Rows().empty());
   }
-}
-
-TEST_F(FormEventCode, MergingSubformForwardsLoadAndOpenFromTheParentsLoad) {
-  Forms({{"OnLoad", "[Event Procedure]"}},
-        {{"OnLoad", "[Event Procedure]"}, {"OnOpen", "[Event Procedure]"}});
-  SetCode(WithSubform("Private Sub Form_Load()\nx = 1\nEnd Sub\n",
-                      "Private Sub Form_Load()\nEnd Sub\nPrivate Sub Form_Open()\nEnd Sub\n"));
-  Sub();
-  EXPECT_EQ(Output(), File(WithSubform("Private Sub Form_Load()\nx = 1\n"
-                                       "Call frmLines_SubForm_Load()\n"
-                                       "If frmLines_SubForm_Open() Then\nUnload Me\nEnd If\n"
-                                       "End Sub\n",
-                                       "Private Sub frmLines_SubForm_Load()\nEnd Sub\n"
-                                       "Private Sub frmLines_SubForm_Open()\nEnd Sub\n")));
-}
-
-TEST_F(FormEventCode, MergingSubformAddsItsLoadMacroToTheParentsLoad) {
-  Forms({{"OnOpen", "=Opening()"}}, {{"OnLoad", "mcrBeep"}, {"OnOpen", "=SubOpening()"}});
-  SetCode(WithSubform("Private Sub Form_Load()\nCall Opening()\nEnd Sub\n", ""));
-  Sub();
-  EXPECT_EQ(Output(), File(WithSubform("Private Sub Form_Load()\nCall Opening()\n"
-                                       "Call SubOpening()\nCall mcrBeep\nEnd Sub\n",
-                                       "")));
-}
-
-TEST_F(FormEventCode, MergingSubformForwardsUnloadAndClose) {
-  Forms({{"OnClose", "=Closing()"}}, {{"OnClose", "[Event Procedure]"}});
-  SetCode(WithSubform("Private Sub Form_Unload(Cancel As Integer)\nCall Closing()\nEnd Sub\n",
-                      "Private Sub Form_Close()\nEnd Sub\n"));
-  Sub();
-  // With no Unload of its own the subform's Close is called bare.
-  EXPECT_EQ(Output(),
-            File(WithSubform("Private Sub Form_Unload(Cancel As Integer)\nCall Closing()\n"
-                             "frmLines_SubForm_Close()\nEnd Sub\n",
-                             "Private Sub frmLines_SubForm_Close()\nEnd Sub\n")));
-
-  Forms({{"OnUnload", "[Event Procedure]"}},
-        {{"OnUnload", "[Event Procedure]"}, {"OnClose", "mcrBeep"}});
-  Reload();
-  SetCode(WithSubform("Private Sub Form_Unload(Cancel As Integer)\nEnd Sub\n",
-                      "Private Sub Form_Unload(Cancel As Integer)\nEnd Sub\n"));
-  Sub();
-  EXPECT_EQ(Output(),
-            File(WithSubform("Private Sub Form_Unload(Cancel As Integer)\n"
-                             "Call frmLines_SubForm_Unload(0)\nCall mcrBeep\nEnd Sub\n",
-                             "Private Sub frmLines_SubForm_Unload(Cancel As Integer)\nEnd Sub\n")));
 }
 
 constexpr const char* kWillChange =
@@ -207,26 +171,6 @@ constexpr const char* kChangeComplete =
     "_RecordChangeComplete(ByVal adReason As ADODB.EventReasonEnum, ByVal cRecords As Long, ByVal "
     "pError As ADODB.Error, adStatus As ADODB.EventStatusEnum, ByVal pRecordset As "
     "ADODB.Recordset)\n";
-
-TEST_F(FormEventCode, AfterUpdateAloneUnderAdoCompletesTheUpdate) {
-  Forms({{"AfterUpdate", "[Event Procedure]"}});
-  SetCode("");
-  Main();
-  EXPECT_EQ(Added(""), Crlf(std::string("\nPrivate Sub datfrmTest") + kChangeComplete +
-                            "\nSelect Case adReason\nCase adRsnUpdate\nCall Form_AfterUpdate\n"
-                            "Case Else\nEnd Select\nEnd Sub\n"));
-}
-
-TEST_F(FormEventCode, BeforeInsertAloneUnderDaoCancelsTheAddition) {
-  Forms({{"BeforeInsert", "[Event Procedure]"}});
-  s_.Options.UseAdo = false;
-  SetCode("");
-  Main();
-  EXPECT_EQ(Added(""), Crlf("\nPrivate Sub datfrmTest_Validate(Action As Integer, Save As "
-                            "Integer)\n\nSelect Case Action\nCase vbDataActionAddNew\n"
-                            "If Form_BeforeInsert() Then\nAction = vbDataActionCancel\nExit Sub\n"
-                            "End If\nCase Else\nEnd Select\nEnd Sub\n"));
-}
 
 // Every record event of a subform: renamed procedures in its section and the
 // data control's procedures, grouped as ADO and DAO group them.
@@ -283,35 +227,13 @@ TEST_F(FormEventCode, SubformRecordEventsUnderAdoAndDao) {
                            "Call ADC()\nCase Else\nEnd Select\nEnd Sub\n"));
 }
 
-TEST_F(FormEventCode, CurrentJoinsTheMoveProcedureTheDataControlHas) {
+TEST_F(FormEventCode, CurrentUnderDaoMakesTheRepositionProcedure) {
   Forms({{"OnCurrent", "[Event Procedure]"}});
-  SetCode("");
-  AddDataCtlEntry2(s_.Form().Text, "datfrmTest", "datfrmTest.Caption = \"x\"");
-  const std::string before = Output();
-  Main();
-  const std::string header =
-      "Private Sub datfrmTest_MoveComplete(ByVal adReason As ADODB.EventReasonEnum, ByVal pError "
-      "As ADODB.Error, adStatus As ADODB.EventStatusEnum, ByVal pRecordset As "
-      "ADODB.Recordset20)";
-  EXPECT_EQ(IsDuplicateLine(s_.Form().Text, header, 0), 1);
-  EXPECT_EQ(Output(), ReplaceAllText(before, "End Sub\r\n", "Call Form_Current\r\nEnd Sub\r\n"));
-
-  // Without one, the procedure is made, with no empty line ahead.
   s_.Options.UseAdo = false;
   SetCode("");
   Main();
+  // With no empty line ahead.
   EXPECT_EQ(Added(""), Crlf("Private Sub datfrmTest_Reposition()\nCall Form_Current\nEnd sub\n"));
-}
-
-TEST_F(FormEventCode, SubformCurrentIsRenamedAndCalledOnMoving) {
-  Forms({}, {{"OnCurrent", "[Event Procedure]"}});
-  SetCode(WithSubform("", "Private Sub Form_Current()\nEnd Sub\n"));
-  Sub();
-  EXPECT_EQ(Output(),
-            File(WithSubform("", "Private Sub frmLines_Subform_Current()\nEnd Sub\n") +
-                 "Private Sub datfrmLines_MoveComplete(ByVal adReason As ADODB.EventReasonEnum, "
-                 "ByVal pError As ADODB.Error, adStatus As ADODB.EventStatusEnum, ByVal "
-                 "pRecordset As ADODB.Recordset20)\nCall frmLines_Subform_Current\nEnd sub\n"));
 }
 
 TEST_F(FormEventCode, ErrorOfTheDataControlAsksTheFormsErrorProcedure) {
@@ -376,22 +298,6 @@ TEST(ForwardCall, HandsTheParametersOnByName) {
             "Call S_SubForm_KeyDown(KeyCode, Shift)");
   EXPECT_EQ(ForwardCall("S_Error(ByVal ErrorNumber As Long,  fCancel As Boolean)"),
             "Call S_Error(ErrorNumber, fCancel)");
-}
-
-// The records of a hint file reach the writers through the hint processor,
-// which also gives the data control's procedure its final recordset type.
-TEST_F(FormEventCode, HintRecordsRunTheWritersOnTheFormsFile) {
-  AddTestForm(ControlBlock("CommandButton", "cmd Go", {{"OnClick", "=Go()"}}),
-              {{"OnCurrent", "=Moved()"}});
-  SetCode("");
-  s_.Form().Hints = {FormCodeHint{"frmTest", ""},
-                     Hint(ControlEventKind::Button, "frmTest", "cmd Go", "cmd_Go")};
-  ProcessHints(s_, "frmTest", Actions());
-  EXPECT_EQ(Added(""),
-            Crlf("Private Sub datfrmTest_MoveComplete(ByVal adReason As ADODB.EventReasonEnum, "
-                 "ByVal pError As ADODB.Error, adStatus As ADODB.EventStatusEnum, ByVal "
-                 "pRecordset As ADODB.Recordset)\nCall Moved()\nEnd sub\n"
-                 "\nPrivate Sub cmd_Go_Click()\nCall Go()\nEnd Sub\n"));
 }
 
 }  // namespace
