@@ -137,32 +137,16 @@ TEST(DesignStore, SubformOfADesignLoadedWithoutAStore) {
 
 TEST(DesignStore, OverASourceTreeOnDisk) {
   test::TempDir dir;
-  // UTF-16LE with a byte order mark, as Access writes; a euro sign becomes
-  // Windows-1252 0x80 on reading.
+  // UTF-16LE with a byte order mark, as Access writes.
   std::string utf16 = "\xFF\xFE";
-  std::string form =
-      "Version =20\r\nVersionRequired =20\r\nBegin Form\r\n    Caption =\"Preis \xE2\x82\xAC\"\r\n"
-      "    Begin\r\n        Begin Section\r\n            Height =100\r\n            Name "
-      "=\"Detail\"\r\n            Begin\r\n                Begin Subform\r\n"
-      "                    Name =\"sub\"\r\n                    SourceObject =\"Form.frmChild\"\r\n"
-      "                End\r\n            End\r\n        End\r\n    End\r\nEnd\r\n";
-  for (size_t i = 0; i < form.size(); ++i) {
-    unsigned char c = static_cast<unsigned char>(form[i]);
-    char16_t u = c;
-    if (c == 0xE2) {  // the euro sign's three UTF-8 bytes
-      u = 0x20AC;
-      i += 2;
-    }
-    utf16 += static_cast<char>(u & 0xFF);
-    utf16 += static_cast<char>(u >> 8);
-  }
+  for (char c : test::Crlf(test::kOrdersForm)) utf16 += {c, '\0'};
   test::WriteFile(dir / "Form_frmParent.txt", utf16);
   // The child keeps its code in a file of its own; the report's stub names a
   // code file that is not there. Either way the stub is no code.
-  test::WriteFile(dir / "Form_frmChild.txt",
+  test::WriteFile(dir / "Form_frmOrderLines.txt",
                   test::Crlf("Version =20\nBegin Form\n    Caption =\"Child\"\nEnd\n"
-                             "CodeBehindForm\n' See \"Form_frmChild.cls\"\n"));
-  test::WriteFile(dir / "Form_frmChild.cls",
+                             "CodeBehindForm\n' See \"Form_frmOrderLines.cls\"\n"));
+  test::WriteFile(dir / "Form_frmOrderLines.cls",
                   "Attribute VB_GlobalNameSpace = False\nAttribute VB_Creatable = True\n"
                   "Attribute VB_PredeclaredId = True\nAttribute VB_Exposed = False\n"
                   "Option Explicit\nPrivate Sub Form_Load()\nEnd Sub\n");
@@ -174,9 +158,8 @@ TEST(DesignStore, OverASourceTreeOnDisk) {
   DesignStore store(*tree);
   const FormDesign* parent = store.OpenForm("frmParent", &err);
   ASSERT_NE(parent, nullptr) << err;
-  EXPECT_EQ(parent->Text("Caption"), "Preis \x80");
-  EXPECT_EQ(parent->Section(0)->Number("Height"), 100);
-  const FormDesign* child = parent->Control("sub")->Form(&err);
+  EXPECT_EQ(parent->Number("DefaultView"), 2);
+  const FormDesign* child = parent->Control("subLines")->Form(&err);
   ASSERT_NE(child, nullptr) << err;
   EXPECT_EQ(child->Text("Caption"), "Child");
   EXPECT_EQ(child->Code().back(), "End Sub");
