@@ -52,19 +52,6 @@ TEST(InsertLine, AMissingAnchorLeavesTheFileAsItWas) {
   EXPECT_EQ(f.Text(), before);
 }
 
-TEST(InsertLine, TheMdiParentHeaderLinesGoToTheTop) {
-  FileFixture f(
-      "Begin VB.MDIForm MDIParent\n   Caption = \"Orders\"\nEnd\n"
-      "Attribute VB_Name = \"MDIParent\"\n");
-  InsertLine(f.file, " ", "VERSION 5.00", 1);
-  InsertLine(f.file, "VERSION 5.00",
-             "Object = \"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0\"; \"MSCOMCTL.OCX\"", 1);
-  EXPECT_EQ(f.Text().substr(0, 100),
-            Crlf("VERSION 5.00\nObject = \"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0\"; "
-                 "\"MSCOMCTL.OCX\"\nBegin VB.MDIForm MDIParent\n")
-                .substr(0, 100));
-}
-
 TEST(ChangeLine, ReplacesTheFirstMatchingLine) {
   FileFixture f("Private Sub lstA_AfterUpdate()\nEnd Sub\nTab(1)\n");
   ChangeLine2(f.file, "Tab(1)", "Tab(2)");
@@ -85,20 +72,13 @@ TEST(AddToCtlArray, FoldsALabelIntoTheArray) {
                            "      Index = 1\n      Caption = \"B\"\n   End\nEnd\n"));
 }
 
-TEST(AddDataCtlEntry, CollectsLinesInTheDataControlsMoveEvent) {
+TEST(AddDataCtlEntry, TheDaoDataControlCollectsInReposition) {
+  // The ADO data control's MoveComplete is in the golden forms.
   FileFixture f("Private Sub Form_Load()\nEnd Sub\n");
-  AddDataCtlEntry2(f.file, "datOrders", "");
-  AddDataCtlEntry2(f.file, "datOrders", "datLines.Recordset.MoveFirst");
-  AddDataCtlEntry2(f.file, "datOrders", "txtTotal.value =[Qty]*[Price]");
-  const std::string header =
-      "Private Sub datOrders_MoveComplete(ByVal adReason As ADODB.EventReasonEnum, ByVal pError "
-      "As ADODB.Error, adStatus As ADODB.EventStatusEnum, ByVal pRecordset As "
-      "ADODB.Recordset20)";
-  EXPECT_EQ(f.Text(), Crlf("Private Sub Form_Load()\nEnd Sub\n" + header +
-                           "\nOn Error Resume Next\ndatLines.Recordset.MoveFirst\n"
-                           "txtTotal.value =[Qty]*[Price]\nEnd Sub\n"));
+  AddDataCtlEntry(f.file, "datOld", "");
   AddDataCtlEntry(f.file, "datOld", "x");
-  EXPECT_EQ(IsDuplicateLine(f.file, "Private Sub datOld_Reposition()"), 1);
+  EXPECT_EQ(f.Text(), Crlf("Private Sub Form_Load()\nEnd Sub\nPrivate Sub datOld_Reposition()\n"
+                           "On Error Resume Next\nx\nEnd Sub\n"));
 }
 
 struct IndentCase {
@@ -118,12 +98,6 @@ TEST(SilentIndent, LaysOutCodeAsTheEditorDoes) {
        "            Debug.Print i\n        ElseIf i = 1 Then\n            Beep\n        Else\n"
        "            Do While n > 0\n                n = n - 1\n            Loop\n        End If\n"
        "    Next i\nEnd Sub\n"},
-      {"select and with",
-       "Function F(x)\nSelect Case x\nCase 1\nWith Me\n.Caption = \"a\"\nEnd With\n"
-       "Case Else\nF = 0\nEnd Select\nEnd Function\n",
-       "Function F(x)\n    Select Case x\n        Case 1\n            With Me\n"
-       "                .Caption = \"a\"\n            End With\n        Case Else\n"
-       "            F = 0\n    End Select\nEnd Function\n"},
       {"single-line if, labels, continuation, comments",
        "Sub B()\nOn Error GoTo B_Err\nIf x Then y = 1 Else y = 2\nIf a And _\nb Then ' both\n"
        "s = \"If x Then\"\nEnd If\n' done\nB_Err:\n10 Beep\nEnd Sub\n",
@@ -138,15 +112,6 @@ TEST(SilentIndent, LaysOutCodeAsTheEditorDoes) {
       {"unbalanced input stays at column 0 or above",
        "End If\nNext\nLoop\nSub D()\nEnd If\nEnd Sub\nEnd Sub\nx = 1\n",
        "End If\nNext\nLoop\nSub D()\n    End If\nEnd Sub\nEnd Sub\nx = 1\n"},
-      {"form designer block and code",
-       "VERSION 5.00\nBegin VB.Form frmA\nCaption = \"A\"\nBegin VB.TextBox txt\n"
-       "BeginProperty Font\nName = \"Tahoma\"\nEndProperty\nEnd\nEnd\n"
-       "Attribute VB_Name = \"frmA\"\nPrivate Sub Form_Load()\n'MORVANE DoCmd.Echo\n"
-       "frmB.Show\t'MORVANE DoCmd.OpenForm \"frmB\"\nEnd Sub\n",
-       "VERSION 5.00\nBegin VB.Form frmA\n   Caption = \"A\"\n   Begin VB.TextBox txt\n"
-       "      BeginProperty Font\n         Name = \"Tahoma\"\n      EndProperty\n   End\nEnd\n"
-       "Attribute VB_Name = \"frmA\"\nPrivate Sub Form_Load()\n    'MORVANE DoCmd.Echo\n"
-       "    frmB.Show\t'MORVANE DoCmd.OpenForm \"frmB\"\nEnd Sub\n"},
       {"class header",
        "VERSION 1.0 CLASS\nBEGIN\nMultiUse = -1  'True\nEND\nAttribute VB_Name = \"c\"\n"
        "Property Get N() As String\nN = \"x\"\nEnd Property\n",
