@@ -119,28 +119,6 @@ TEST(ProcessHints, FormFlagsCountsGridsAndAnalysisRows) {
   EXPECT_EQ(rows[0].CodeLine, "ctlChart");
 }
 
-TEST(ProcessHints, DataControlCodeAndTheFinalRecordsetName) {
-  Fixture f;
-  Recorder r;
-  f.Process({DataControlEntryHint{"datOrders", ""},
-             DataControlEntryHint{"datOrders", "txtTotal.value =[a]+[b]"},
-             DataMoveHint{"Orders", "datOrders"}, DataMoveHint{"Orders", "datLines"}},
-            r);
-  const std::string text = f.Text();
-  EXPECT_EQ(text.find("ADODB.Recordset20"), std::string::npos);
-  EXPECT_NE(text.find("ByVal pRecordset As ADODB.Recordset)\r\nOn Error Resume Next\r\n"
-                      "txtTotal.value =[a]+[b]\r\nEnd Sub\r\n"),
-            std::string::npos)
-      << text;
-  EXPECT_NE(text.find("Private Function InitialDataCtlCaptions()\r\nOn Error Resume Next\r\n"
-                      "datOrders.Recordset.movenext\r\ndatOrders.Recordset.moveFirst\r\n"
-                      "datLines.Recordset.movenext\r\ndatLines.Recordset.moveFirst\r\n"
-                      "End Function"),
-            std::string::npos)
-      << text;
-  EXPECT_TRUE(f.s.Form().InitCalls[2]);
-}
-
 TEST(ProcessHints, AContinuousSubformsRecordsAreProcessedInTurn) {
   Fixture f;
   Recorder r;
