@@ -1,5 +1,6 @@
-// Randomly damaged form and report texts through the loader, from a fixed
-// seed: each loads or gives a "file:line:" message, and every property of a
+// Randomly damaged form and report texts through the parser and the loader,
+// from a fixed seed, sometimes damage on damage: each loads or gives a
+// "file:line:" message on a line of the input, and every property of a
 // loaded design reads without a crash.
 #include <gtest/gtest.h>
 
@@ -28,13 +29,20 @@ void ReadEverything(const DesignObject& object) {
 TEST(DesignLoaderFuzz, DamagedDesignsLoadOrFailCleanly) {
   std::mt19937 rng(7);
   const char* seeds[] = {test::kCustomersForm, test::kSalesReport, test::kLaterForm};
-  int loaded = 0;
-  for (int round = 0; round < 600; ++round) {
-    std::string text = test::MutateExport(seeds[round % 3], &rng);
+  int loaded = 0, failed = 0;
+  std::string text;
+  for (int round = 0; round < 1500; ++round) {
+    if (round % 4 != 3) text = seeds[round % 3];
+    for (int e = 1 + static_cast<int>(rng() % 3); e > 0; --e) text = test::MutateExport(text, &rng);
+    const auto lines = SplitLines(text);
     std::string err;
-    auto design = LoadDesign(SplitLines(text), "fuzz.txt", "fuzz", &err);
+    auto design = LoadDesign(lines, "fuzz.txt", "fuzz", &err);
     if (!design) {
+      ++failed;
       ASSERT_EQ(err.rfind("fuzz.txt:", 0), 0u) << err;
+      const int line = std::atoi(err.c_str() + 9);
+      ASSERT_GE(line, 1) << err;
+      ASSERT_LE(line, static_cast<int>(std::max<size_t>(lines.size(), 1))) << err;
       continue;
     }
     ++loaded;
@@ -50,7 +58,9 @@ TEST(DesignLoaderFuzz, DamagedDesignsLoadOrFailCleanly) {
     }
     (void)design->EmbeddedMacros();
   }
+  // Both ends are exercised.
   EXPECT_GT(loaded, 100);
+  EXPECT_GT(failed, 200);
 }
 
 }  // namespace
