@@ -101,6 +101,14 @@ std::optional<std::string> BlockStandIn(const std::string& code, const std::stri
   return std::nullopt;
 }
 
+// The line number in front of a statement ("70" of "70  End If"), or nothing.
+std::string LineNumberOf(const std::string& code) {
+  size_t end = 0;
+  while (end < code.size() && code[end] >= '0' && code[end] <= '9') ++end;
+  if (end == 0 || end == code.size() || (code[end] != ' ' && code[end] != '\t')) return {};
+  return code.substr(0, end);
+}
+
 // A procedure header or a declaration.
 bool Declares(const ModuleTranslation& t, const std::string& code) {
   if (t.InTypeBlock) return true;
@@ -114,11 +122,16 @@ bool Declares(const ModuleTranslation& t, const std::string& code) {
 
 std::optional<std::string> KeepBlock(ModuleTranslation& t, const std::string& original,
                                      const std::string& marked) {
-  const std::string code = CodePart(original);
+  std::string code = CodePart(original);
   if (code.empty()) return std::nullopt;
   const std::string s = std::string(kNotTranslatedCall) + "(\"" + t.ModuleName + "\", " +
                         std::to_string(t.CodeLines) + ")";
+  // A numbered line ("50  If ... Then") keeps its number before the stand-in,
+  // so that a Resume or GoTo to it still finds it.
+  const std::string number = LineNumberOf(code);
+  if (!number.empty()) code = TrimBlanks(std::string_view(code).substr(number.size()));
   if (auto standIn = BlockStandIn(code, s)) {
+    if (!number.empty()) *standIn = number + " " + *standIn;
     ReportRule(t, kReasonBlockKept, original, *standIn);
     return *standIn + "\t" + marked;
   }

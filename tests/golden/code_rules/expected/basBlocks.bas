@@ -65,3 +65,15 @@ Public Function Continued(strTable As String) As Long
     'MORVANE Me.RecordsetClone.RecordCount
     Rem// A comment: after Rem
 End Function
+
+' Numbered lines keep their numbers, also in front of a stand-in.
+Public Function Numbered(frm As Form) As Boolean
+10  On Error GoTo 80
+20 If NotTranslated("basBlocks", 65) Then	'MORVANE 20  If frm.RecordsetClone.RecordCount = 0 Then
+30      Exit Function
+40  Else
+50      Numbered = True
+60  End If
+70  Exit Function
+80  Numbered = False
+End Function
