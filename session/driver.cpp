@@ -92,6 +92,36 @@ struct PropertyBlock {
   std::vector<std::string> get;
 };
 
+// Filter and OrderBy: the text is kept and the record source reread with it
+// behind `clause` (" Where ", " Order By ").
+PropertyBlock ClauseBlock(bool FormState::*flag, const char* declaration, const std::string& name,
+                          const std::string& field, const std::string& typeCase,
+                          const std::string& clause, const std::string& dat) {
+  return {flag,
+          declaration,
+          {"Property Let " + name + "(ByVal sNew" + name + " As String)",
+           "    " + field + "=sNew" + name,
+           dat + ".RecordSource = RECORD_SOURCE & \"" + clause + "\" & sNew" + name,
+           dat + ".Refresh", "End Property"},
+          {"Property Get " + name + "() as " + typeCase, "    " + name + " = " + field,
+           "End Property"}};
+}
+
+// FilterOn and OrderByOn: the record source is reread with the kept text
+// (`textField`) behind `clause`, or without it.
+PropertyBlock SwitchBlock(bool FormState::*flag, const char* declaration, const std::string& name,
+                          const std::string& field, const std::string& textField,
+                          const std::string& clause, const std::string& dat) {
+  return {flag,
+          declaration,
+          {"Property Let " + name + "(bNewValue as boolean)", "    " + field + "=bNewValue",
+           "    If bNewValue Then",
+           "    " + dat + ".RecordSource = RECORD_SOURCE & \"" + clause + "\" & " + textField,
+           "    " + dat + ".Refresh", "    Else", "    " + dat + ".RecordSource = RECORD_SOURCE",
+           "    " + dat + ".Refresh", "    End If", "End Property"},
+          {"Property Get " + name + "() as Boolean", "    " + name + "=" + field, "End Property"}};
+}
+
 std::vector<PropertyBlock> PropertyBlocks(const std::string& n) {
   const std::string dat = "    dat" + n;
   return {
@@ -99,34 +129,14 @@ std::vector<PropertyBlock> PropertyBlocks(const std::string& n) {
        "Private msOpenArgs as string",
        {"Property Let OpenArgs(sOpenArgs as string)", "    msOpenArgs=sOpenArgs", "End Property"},
        {"Property Get OpenArgs() as string", "    OpenArgs=msOpenArgs", "End Property"}},
-      {&FormState::UsesFilter,
-       "Private msFilter as string",
-       {"Property Let Filter(ByVal sNewFilter As String)", "    msFilter=sNewFilter",
-        dat + ".RecordSource = RECORD_SOURCE & \" Where \" & sNewFilter", dat + ".Refresh",
-        "End Property"},
-       {"Property Get Filter() as string", "    Filter = msFilter", "End Property"}},
-      {&FormState::UsesFilterOn,
-       "Private mbFilterOn As Boolean",
-       {"Property Let FilterOn(bNewValue as boolean)", "    mbFilterOn=bNewValue",
-        "    If bNewValue Then",
-        "    " + dat + ".RecordSource = RECORD_SOURCE & \" Where \" & msFilter",
-        "    " + dat + ".Refresh", "    Else", "    " + dat + ".RecordSource = RECORD_SOURCE",
-        "    " + dat + ".Refresh", "    End If", "End Property"},
-       {"Property Get FilterOn() as Boolean", "    FilterOn=mbFilterOn", "End Property"}},
-      {&FormState::UsesOrderBy,
-       "Private msOrderBy as string",
-       {"Property Let OrderBy(ByVal sNewOrderBy As String)", "    msOrderBy=sNewOrderBy",
-        dat + ".RecordSource = RECORD_SOURCE & \" Order By \" & sNewOrderBy", dat + ".Refresh",
-        "End Property"},
-       {"Property Get OrderBy() as string", "    OrderBy = msOrderBy", "End Property"}},
-      {&FormState::UsesOrderByOn,
-       "Private mbOrderByOn As Boolean",
-       {"Property Let OrderByOn(bNewValue as boolean)", "    mbOrderByOn=bNewValue",
-        "    If bNewValue Then",
-        "    " + dat + ".RecordSource = RECORD_SOURCE & \" Order By \" & msOrderBy",
-        "    " + dat + ".Refresh", "    Else", "    " + dat + ".RecordSource = RECORD_SOURCE",
-        "    " + dat + ".Refresh", "    End If", "End Property"},
-       {"Property Get OrderByOn() as Boolean", "    OrderByOn=mbOrderByOn", "End Property"}},
+      ClauseBlock(&FormState::UsesFilter, "Private msFilter as string", "Filter", "msFilter",
+                  "string", " Where ", dat),
+      SwitchBlock(&FormState::UsesFilterOn, "Private mbFilterOn As Boolean", "FilterOn",
+                  "mbFilterOn", "msFilter", " Where ", dat),
+      ClauseBlock(&FormState::UsesOrderBy, "Private msOrderBy as string", "OrderBy", "msOrderBy",
+                  "string", " Order By ", dat),
+      SwitchBlock(&FormState::UsesOrderByOn, "Private mbOrderByOn As Boolean", "OrderByOn",
+                  "mbOrderByOn", "msOrderBy", " Order By ", dat),
   };
 }
 

@@ -89,9 +89,7 @@ struct Act {
     actions.ExportModuleText(s, h.FormName, h.AsForm ? 1 : 2);
   }
   void operator()(const ReportRowHint& h) {
-    if (s.SupportDb)
-      s.SupportDb->AddReportOutput(
-          {h.ModuleName, h.ReasonID, h.CodeLine, h.LineNumber, h.TranslatedLine, h.Routine});
+    if (s.SupportDb) s.SupportDb->AddReportOutput(h);
   }
   void operator()(const FormCodeHint& h) {
     actions.FormEvents(s, h.FormName, hintForm, h.SubformControl);

@@ -7,6 +7,8 @@
 #include <string>
 #include <variant>
 
+#include "platform/support_db.h"
+
 namespace morvane {
 
 class ControlDesign;
@@ -59,15 +61,8 @@ struct OutputCodeHint {
   bool AsForm = false;
 };
 
-// A row of the analysis (tblReportOutput).
-struct ReportRowHint {
-  std::string ModuleName;
-  long ReasonID = 0;
-  std::string CodeLine;
-  int LineNumber = 0;
-  std::string TranslatedLine;
-  std::string Routine;
-};
+// A row of the analysis (tblReportOutput), added when the hints are processed.
+using ReportRowHint = ReportOutputRow;
 
 // The event code of a form, or of a subform shown by `SubformControl`.
 struct FormCodeHint {

@@ -158,25 +158,6 @@ std::optional<size_t> FindThen(std::string_view code) {
   return std::nullopt;
 }
 
-// The letters of Windows-1252 above the ASCII range.
-bool IsHighLetter(unsigned char u) {
-  switch (u) {
-    case 0x8A:
-    case 0x8C:
-    case 0x8E:
-    case 0x9A:
-    case 0x9C:
-    case 0x9E:
-    case 0x9F:
-    case 0xAA:
-    case 0xB5:
-    case 0xBA:
-      return true;
-    default:
-      return u >= 0xC0 && u != 0xD7 && u != 0xF7;
-  }
-}
-
 bool IsVbNameLine(std::string_view line) {
   line = Trim(line);
   constexpr std::string_view kStart = "Attribute VB_Name = \"";
@@ -974,10 +955,10 @@ std::vector<std::string> CheckVb6Structure(const std::string& fileName, const st
 bool IsVb6Identifier(std::string_view name) {
   if (name.empty() || name.size() > kMaxNameLength) return false;
   const auto first = static_cast<unsigned char>(name.front());
-  if (!(std::isalpha(first) && first < 128) && !IsHighLetter(first)) return false;
+  if (!IsNameLetter(first)) return false;
   for (char c : name) {
     const auto u = static_cast<unsigned char>(c);
-    if (!((u < 128 && (std::isalnum(u) || c == '_')) || IsHighLetter(u))) return false;
+    if (!IsNameLetter(u) && !(u >= '0' && u <= '9') && c != '_') return false;
   }
   return true;
 }
