@@ -227,8 +227,10 @@ class Translator {
       *approximate_ = true;
       return Emit(out, "IIf(IsNull(" + value + "), " + other + ", " + value + ")");
     }
-    // A function of Visual Basic or of the project (a module's function the
-    // translation keeps) is called as it stands.
+    // A function of Visual Basic or of the conversion code is called as it
+    // stands; any other (a module's own, or one only Access has) too, for the
+    // user to review.
+    if (!In(name, kFunctions)) *approximate_ = true;
     pos_ = open;
     return Emit(out, name);
   }
