@@ -318,7 +318,7 @@ TEST(Convert, FormsTheRunCannotConvertAreSaidSo) {
                 labels + "End\nEnd\nEnd\nEnd\n");
   WriteFile(dir / "src" / "forms" / "frmSmall.txt",
             "Version =20\nBegin Form\nBegin\nBegin Section\nHeight =300\nName =\"Detail\"\n"
-            "Begin\nBegin ListBox\nName =\"lstPick\"\nEnd\nEnd\nEnd\nEnd\nEnd\n");
+            "Begin\nBegin Attachment\nName =\"attPhoto\"\nEnd\nEnd\nEnd\nEnd\nEnd\n");
   auto r = RunMorvane(
       {"convert", (dir / "src").string(), "-o", (dir / "out").string(), "--no-mdi", "--yes"});
   // The run finished, but a form stayed out of the project.
@@ -333,7 +333,7 @@ TEST(Convert, FormsTheRunCannotConvertAreSaidSo) {
   EXPECT_EQ(vbp.find("frmBig"), std::string::npos) << vbp;
   EXPECT_NE(vbp.find("Form=frmSmall.frm"), std::string::npos) << vbp;
   // What a converter could not do closes the run's summary.
-  EXPECT_NE(r.out.find("Not done: frmSmall: list box lstPick is not converted yet\n"),
+  EXPECT_NE(r.out.find("Not done: frmSmall: Attachment attPhoto is not converted\n"),
             std::string::npos)
       << r.out;
 }
