@@ -7,9 +7,9 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/line_editor.h"
 #include "platform/project_model.h"
 #include "platform/text_file.h"
+#include "platform/text_fold.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
 
@@ -114,6 +114,26 @@ bool HoldsTemplate(std::string_view text, const std::string& templateText) {
   return !lines.empty() && HoldsLine(text, lines.front());
 }
 
+// Adds `line` at the end of the form's initialiser `header`; false when the
+// form has none yet. The initialiser is appended when the form's first list
+// needs it and stays near the end of the text while the form's records are
+// processed, so it is looked for from the end: a form of many lists is not
+// read through once per list.
+bool AddToInitialiser(TextDocument& form, std::string_view header, const std::string& line) {
+  std::vector<std::string>& lines = form.Lines();
+  for (size_t i = lines.size(); i-- > 0;) {
+    if (!text::IEquals(text::Trim(lines[i]), header)) continue;
+    for (size_t end = i + 1; end < lines.size(); ++end) {
+      if (!text::IEquals(text::Trim(lines[end]), "End Function")) continue;
+      lines.insert(lines.begin() + static_cast<long>(end), line);
+      form.CloseLastLine();
+      return true;
+    }
+    return true;  // a header without its end: nothing to add to
+  }
+  return false;
+}
+
 void WriteListInit(ConversionSession& s, const std::string& header,
                    std::span<const ListHelper> helpers, int type, int initCall,
                    const std::string& rowSource, const std::string& controlName, bool isValueList) {
@@ -134,11 +154,8 @@ void WriteListInit(ConversionSession& s, const std::string& header,
                                ", \"" + (isValueList ? "String" : "Jet") + "\")";
 
   TextDocument& form = s.Form().Text;
-  if (IsDuplicateLine(form, header, 0) > 0) {
-    InsertLine(form, header, callLine, 1);
-  } else {
+  if (!AddToInitialiser(form, header, callLine))
     AppendLines(form, {header, callLine, "End Function"});
-  }
   s.Form().InitCalls[initCall] = true;
 }
 
