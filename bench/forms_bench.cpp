@@ -3,7 +3,9 @@
 // converts it through the driver the command line uses (form writer, hint
 // records, event code, translation of the form modules), and prints forms per
 // second, controls per second and the peak memory. Run it with 50, 100 and
-// 200 controls to see that the time grows with the controls linearly.
+// 200 controls to see that the time grows with the controls linearly. With a
+// third argument "combos", every third control is a combo box, its rows from
+// a SELECT statement, a table or a value list in turn.
 #include <unistd.h>
 
 #include <cstdio>
@@ -20,8 +22,9 @@ using namespace morvane;
 int main(int argc, char** argv) {
   const int forms = argc > 1 ? std::atoi(argv[1]) : 300;
   const int controls = argc > 2 ? std::atoi(argv[2]) : 100;
+  const bool combos = argc > 3 && std::string(argv[3]) == "combos";
   const fs::path root = fs::temp_directory_path() / ("morvane-fbench-" + std::to_string(getpid()));
-  bench::WriteForms(root, forms, controls);
+  bench::WriteForms(root, forms, controls, combos);
 
   bench::BenchRun run;
   Selection formsOnly;
@@ -30,10 +33,10 @@ int main(int argc, char** argv) {
   double seconds = 0;
   const RunSummary summary = run.Run(&seconds);
   std::printf(
-      "%d forms of %d controls converted in %.2f s: %.1f forms/s, %.0f controls/s; "
+      "%d forms of %d controls%s converted in %.2f s: %.1f forms/s, %.0f controls/s; "
       "peak memory %ld KiB; %d forms in the project\n",
-      forms, controls, seconds, forms / seconds, forms * controls / seconds, bench::PeakKiB(),
-      summary.Forms);
+      forms, controls, combos ? " (a third combo boxes)" : "", seconds, forms / seconds,
+      forms * controls / seconds, bench::PeakKiB(), summary.Forms);
   fs::remove_all(root);
   return summary.Forms == forms ? 0 : 1;
 }

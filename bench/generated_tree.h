@@ -5,6 +5,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -14,30 +15,47 @@ namespace morvane::bench {
 
 inline std::string N(int i) { return std::to_string(i); }
 
+// The row sources of the combo boxes, in turn.
+inline constexpr const char* kRowSources[][2] = {
+    {"Table/Query", "SELECT CustomerID, CompanyName FROM tblCustomers ORDER BY CompanyName;"},
+    {"Table/Query", "tblCustomers"},
+    {"Value List", "1;North;2;South;3;East;4;West"},
+};
+
 // One control of the generated form; a quarter are text boxes with an
-// attached label, the rest labels, buttons and check boxes in turn.
-inline void AddControl(std::vector<std::string>& t, int i, bool withEvent) {
+// attached label, the rest labels, buttons and check boxes in turn. With
+// `combos`, every third control is a combo box instead.
+inline void AddControl(std::vector<std::string>& t, int i, bool withEvent, bool combos) {
   const std::string top = N(200 + (i % 40) * 300), left = N(100 + (i / 40) * 2000);
   const char* kinds[] = {"TextBox", "Label", "CommandButton", "CheckBox"};
-  const std::string kind = kinds[i % 4];
+  const std::string kind = combos && i % 3 == 2 ? "ComboBox" : kinds[i % 4];
   t.push_back("                Begin " + kind);
   t.push_back("                    Left =" + left);
   t.push_back("                    Top =" + top);
   t.push_back("                    Width =1500");
   t.push_back("                    Height =255");
   t.push_back("                    Name =\"ctl" + N(i) + "\"");
-  if (kind == "TextBox")
+  if (kind == "TextBox" || kind == "ComboBox")
     t.push_back("                    ControlSource =\"Field" + N(i % 10) + "\"");
+  if (kind == "ComboBox") {
+    const auto& source = kRowSources[(i / 3) % std::size(kRowSources)];
+    t.push_back("                    RowSourceType =\"" + std::string(source[0]) + "\"");
+    t.push_back("                    RowSource =\"" + std::string(source[1]) + "\"");
+    t.push_back("                    ColumnCount =2");
+    t.push_back("                    ColumnWidths =\"0;1440\"");
+    t.push_back("                    LimitToList = NotDefault");
+  }
   if (kind == "Label" || kind == "CommandButton")
     t.push_back("                    Caption =\"Control " + N(i) + "\"");
   if (withEvent) t.push_back("                    OnClick =\"[Event Procedure]\"");
   t.push_back("                End");
 }
 
-
 // `forms` forms "frmBench<i>" of `controls` controls each, 20 of them with a
-// click procedure in the form's module, in `root`/src/forms.
-inline void WriteForms(const std::filesystem::path& root, int forms, int controls) {
+// click procedure in the form's module, in `root`/src/forms; with `combos`
+// a third of the controls are combo boxes.
+inline void WriteForms(const std::filesystem::path& root, int forms, int controls,
+                       bool combos = false) {
   constexpr int kEvents = 20;
   const int every = controls >= kEvents ? controls / kEvents : 1;
   std::filesystem::create_directories(root / "src" / "forms");
@@ -53,7 +71,7 @@ inline void WriteForms(const std::filesystem::path& root, int forms, int control
                                   "            Height =12000",
                                   "            Name =\"Detail\"",
                                   "            Begin"};
-    for (int c = 0; c < controls; ++c) AddControl(t, c, c % every == 0);
+    for (int c = 0; c < controls; ++c) AddControl(t, c, c % every == 0, combos);
     for (const char* l : {"            End", "        End", "    End", "End", "CodeBehindForm",
                           "Attribute VB_GlobalNameSpace = False", "Attribute VB_Creatable = True",
                           "Attribute VB_PredeclaredId = True", "Attribute VB_Exposed = False",

@@ -7,6 +7,7 @@
 #include "events/form_events.h"
 #include "platform/support_db.h"
 #include "session/conversion_session.h"
+#include "translator/conversion_code.h"
 
 namespace morvane {
 
@@ -65,6 +66,16 @@ void EventHintActions::FormEvents(ConversionSession& s, const std::string& formN
   }
   const EventCode code(s, formName, formName, hintForm);
   FormCode(code, *form, hint, formName != hintForm);
+}
+
+void EventHintActions::WriteListBoxInit(ConversionSession& s, const std::string& rowSource,
+                                        const std::string& controlName, bool isValueList) {
+  morvane::WriteListBoxInit(s, rowSource, controlName, isValueList);
+}
+
+void EventHintActions::WriteComboBoxInit(ConversionSession& s, const std::string& rowSource,
+                                         const std::string& controlName, bool isValueList) {
+  morvane::WriteComboBoxInit(s, rowSource, controlName, isValueList);
 }
 
 }  // namespace morvane

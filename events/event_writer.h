@@ -12,8 +12,8 @@ namespace morvane {
 
 class DesignStore;
 
-// The hint actions of the event writers; the other records keep the base
-// behaviour until their converters exist.
+// The hint actions of the event writers and the list initialisers; the
+// other records keep the base behaviour until their converters exist.
 class EventHintActions : public HintActions {
  public:
   explicit EventHintActions(DesignStore& store) : store_(store) {}
@@ -21,6 +21,11 @@ class EventHintActions : public HintActions {
                      const ControlCodeHint& control) override;
   void FormEvents(ConversionSession& s, const std::string& formName, const std::string& hintForm,
                   const std::string& subformControl) override;
+  // The list initialisers of the conversion code.
+  void WriteListBoxInit(ConversionSession& s, const std::string& rowSource,
+                        const std::string& controlName, bool isValueList) override;
+  void WriteComboBoxInit(ConversionSession& s, const std::string& rowSource,
+                         const std::string& controlName, bool isValueList) override;
 
  protected:
   DesignStore& store_;

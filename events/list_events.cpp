@@ -23,6 +23,14 @@ constexpr std::string_view kListMouseAndKeyEvents[][2] = {
     {"OnKeyUp", "_KeyUp(KeyCode As Integer, Shift As Integer)"},
 };
 
+// The key events of a combo box: the property, and its header around the
+// type of the key argument.
+constexpr std::string_view kComboKeyEvents[][3] = {
+    {"OnKeyDown", "_KeyDown(KeyCode As ", "Integer, Shift As Integer)"},
+    {"OnKeyPress", "_KeyPress(KeyAscii As ", "Integer)"},
+    {"OnKeyUp", "_KeyUp(KeyCode As ", "Integer, Shift As Integer)"},
+};
+
 // ListboxType and ComboboxType: the Sheridan Data Widgets 2.0 and 3.0.
 bool IsSheridan(int listType) { return listType == 2 || listType == 3; }
 
@@ -129,17 +137,26 @@ void ComboBoxCode(const ControlEventWriter& w, int comboKind) {
     const std::string header =
         w.Header(comboKind == kTwoColumnCombo ? "_DblClick(Area as Integer)"
                                               : "_DblClick(Cancel As MSForms.ReturnBoolean)");
-    if (ClassifyEvent(dblClick) == EventValue::EventProcedure)
+    // The module holds the Access header, whose Cancel argument the two
+    // combo boxes take in a type of their own.
+    if (ClassifyEvent(dblClick) == EventValue::EventProcedure) {
+      code.RenameProcLine(w.AccessHeader("_DblClick(Cancel As Integer)"), header);
       code.RenameProcLine(w.AccessHeader("_DblClick()"), header);
-    else
+    } else
       code.AppendProc(header, {code.EventLine(dblClick, "")});
   }
 
-  // The Microsoft Forms combo box passes its key codes by reference objects.
+  // The Microsoft Forms combo box passes its key codes by reference objects;
+  // a procedure of the module takes that signature, or it would not match
+  // the event.
   const std::string by = comboKind == kFormsCombo ? "MSForms.Return" : "";
-  w.Plain("OnKeyDown", "_KeyDown(KeyCode As " + by + "Integer, Shift As Integer)");
-  w.Plain("OnKeyPress", "_KeyPress(KeyAscii As " + by + "Integer)");
-  w.Plain("OnKeyUp", "_KeyUp(KeyCode As " + by + "Integer, Shift As Integer)");
+  for (const auto& [property, head, tail] : kComboKeyEvents) {
+    const std::string suffix = std::string(head) + by + std::string(tail);
+    if (comboKind == kFormsCombo && ClassifyEvent(w.Value(property)) == EventValue::EventProcedure)
+      code.RenameProcLine(w.AccessHeader(std::string(head) + std::string(tail)), w.Header(suffix));
+    else
+      w.Plain(property, suffix);
+  }
   w.Validate(!w.Session().Options.IsVb5);
   w.Plain("OnChange", "_Change()");
   w.GotFocusWithEnter();

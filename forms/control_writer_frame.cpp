@@ -32,7 +32,7 @@ void PutText(FormWriter& w, std::string text) {
   w.PutControlText(text);
 }
 
-void AddControlHint(FormWriter& w, const ControlDesign& c, ControlEventKind kind) {
+void AddControlHint(FormWriter& w, const ControlDesign& c, ControlEventKind kind, int comboKind) {
   ConversionSession& s = w.Session();
   const FormTextSet& t = w.Text();
   ControlCodeHint hint;
@@ -40,6 +40,7 @@ void AddControlHint(FormWriter& w, const ControlDesign& c, ControlEventKind kind
   hint.FormName = t.OwnerFormName;
   hint.AccessName = c.Name();
   hint.VbName = s.Form().CurrentControlName;
+  hint.ComboKind = comboKind;
   hint.SubformControl = t.ParentControlName;
   hint.Design = &c;
   AddHint(s, std::move(hint));

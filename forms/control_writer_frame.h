@@ -24,8 +24,10 @@ const ControlDesign* BeginControl(FormWriter& w);
 // last line end.
 void PutText(FormWriter& w, std::string text);
 // The control's event record: OwnerFormName, the control's Access name and
-// design, CurrentControlName and ParentControlName.
-void AddControlHint(FormWriter& w, const ControlDesign& c, ControlEventKind kind);
+// design, CurrentControlName and ParentControlName; `comboKind` for a combo
+// box.
+void AddControlHint(FormWriter& w, const ControlDesign& c, ControlEventKind kind,
+                    int comboKind = 0);
 // The analysis row of a control that is converted only in part: the owner
 // form, the reason and CurrentControlName.
 void AddReportHint(FormWriter& w, long reason);

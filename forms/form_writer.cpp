@@ -79,12 +79,6 @@ void WriteStandAloneOption(FormWriter& w) {
   if (c && c->Parent().Name() == w.Text().CurrentForm->Name()) WriteOptionButton(w);
 }
 
-void WriteListLater(FormWriter& w) {
-  const ControlDesign& c = *w.Text().CurrentControl;
-  NotConvertedYet(w, c,
-                  std::string(c.ControlType() == kListBox ? "list box " : "combo box ") + c.Name());
-}
-
 void WriteSubformLater(FormWriter& w) {
   const ControlDesign& c = *w.Text().CurrentControl;
   auto source = c.Text("SourceObject");
@@ -122,8 +116,8 @@ constexpr ControlWriterRow kControlWriters[] = {
     {kCustomControl, WriteCustomControl},
     {kOptionButton, WriteStandAloneOption},
     {kToggleButton, WriteStandAloneOption},
-    {kListBox, WriteListLater},
-    {kComboBox, WriteListLater},
+    {kListBox, WriteListBox},
+    {kComboBox, WriteComboBox},
     {kSubform, WriteSubformLater},
     {kUnboundObjectFrame, ReportUnboundObject},
 };

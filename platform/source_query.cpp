@@ -29,10 +29,14 @@ struct OperationType {
   int Type;  // DaoQueryType
 };
 
+constexpr int kPassThroughOperation = 8;
+
 constexpr OperationType kOperationTypes[] = {
-    {1, kDbQSelect}, {2, kDbQMakeTable},      {3, kDbQAppend},
-    {4, kDbQUpdate}, {5, kDbQDelete},         {6, kDbQCrosstab},
-    {7, kDbQDDL},    {8, kDbQSQLPassThrough}, {9, kDbQSetOperation},
+    {1, kDbQSelect},       {2, kDbQMakeTable},
+    {3, kDbQAppend},       {4, kDbQUpdate},
+    {5, kDbQDelete},       {6, kDbQCrosstab},
+    {7, kDbQDDL},          {kPassThroughOperation, kDbQSQLPassThrough},
+    {9, kDbQSetOperation},
 };
 
 struct VerbType {
@@ -345,10 +349,17 @@ QueryExport QueryFromExport(const std::vector<std::string>& lines, std::string* 
   QueryExport out;
   Grid g;
   bool hasGrid = false;
+  std::string connect;
   for (size_t i = 0; i < lines.size(); ++i) {
     std::string_view t = Trim(lines[i]);
     if (IStartsWith(t, "dbMemo \"SQL\"")) {
       out.Sql = QuotedValueAt(lines, &i);
+      continue;
+    }
+    // A query that carries an ODBC connection is a pass-through query; its
+    // export has no grid to say so.
+    if (IStartsWith(t, "dbMemo \"Connect\"")) {
+      connect = QuotedValueAt(lines, &i);
       continue;
     }
     if (IStartsWith(t, "Begin ")) {
@@ -364,6 +375,8 @@ QueryExport QueryFromExport(const std::vector<std::string>& lines, std::string* 
     if (key == "Having") g.Having = QuotedValueAt(lines, &i);
   }
   out.Operation = g.Operation;
+  if (out.Operation == 0 && IStartsWith(Trim(connect), "ODBC;"))
+    out.Operation = kPassThroughOperation;
   while (!out.Sql.empty() && (out.Sql.back() == '\n' || out.Sql.back() == '\r')) out.Sql.pop_back();
   if (!out.Sql.empty() || !hasGrid) return out;
   if (g.Operation == 1 || g.Operation == 0) {

@@ -5,13 +5,15 @@
 #include <algorithm>
 #include <span>
 #include <string_view>
+#include <utility>
 #include <vector>
 
-#include "platform/line_editor.h"
 #include "platform/project_model.h"
 #include "platform/text_file.h"
+#include "platform/text_fold.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
+#include "translator/analysis_writers.h"
 
 namespace morvane {
 
@@ -114,6 +116,51 @@ bool HoldsTemplate(std::string_view text, const std::string& templateText) {
   return !lines.empty() && HoldsLine(text, lines.front());
 }
 
+// A row source too long for one line of code is built in this variable of
+// the initialiser, a piece of about kPieceBytes a line; a doubled quote is
+// never cut apart.
+constexpr std::string_view kRowsDim = "Dim strRowSource As String";
+constexpr size_t kPieceBytes = 800;
+
+std::vector<std::string> RowSourcePieces(const std::string& rowSource) {
+  std::vector<std::string> out;
+  std::string piece;
+  for (size_t i = 0; i < rowSource.size(); ++i) {
+    piece += rowSource[i];
+    if (rowSource[i] == '"' && i + 1 < rowSource.size() && rowSource[i + 1] == '"')
+      piece += rowSource[++i];
+    if (piece.size() >= kPieceBytes) out.push_back(std::exchange(piece, {}));
+  }
+  if (!piece.empty()) out.push_back(piece);
+  return out;
+}
+
+// Adds `add` at the end of the form's initialiser `header`, with the
+// variable's declaration ahead of them when `withRows` and the initialiser
+// has none yet; false when the form has no initialiser. The initialiser is
+// appended when the form's first list needs it and stays near the end of the
+// text while the form's records are processed, so it is looked for from the
+// end: a form of many lists is not read through once per list.
+bool AddToInitialiser(TextDocument& form, std::string_view header, std::vector<std::string> add,
+                      bool withRows) {
+  std::vector<std::string>& lines = form.Lines();
+  for (size_t i = lines.size(); i-- > 0;) {
+    if (!text::IEquals(text::Trim(lines[i]), header)) continue;
+    bool declared = false;
+    for (size_t end = i + 1; end < lines.size(); ++end) {
+      const std::string_view line = text::Trim(lines[end]);
+      declared = declared || text::IEquals(line, kRowsDim);
+      if (!text::IEquals(line, "End Function")) continue;
+      if (withRows && !declared) add.insert(add.begin(), std::string(kRowsDim));
+      lines.insert(lines.begin() + static_cast<long>(end), add.begin(), add.end());
+      form.CloseLastLine();
+      return true;
+    }
+    return true;  // a header without its end: nothing to add to
+  }
+  return false;
+}
+
 void WriteListInit(ConversionSession& s, const std::string& header,
                    std::span<const ListHelper> helpers, int type, int initCall,
                    const std::string& rowSource, const std::string& controlName, bool isValueList) {
@@ -130,14 +177,28 @@ void WriteListInit(ConversionSession& s, const std::string& header,
 
   const std::string procedure =
       s.Form().PlainListControl ? std::string("AddItemsMS") : "AddItems" + std::string(suffix);
-  const std::string callLine = "Call " + procedure + "(\"" + rowSource + "\", me!" + controlName +
-                               ", \"" + (isValueList ? "String" : "Jet") + "\")";
+  const std::string rest =
+      ", me!" + controlName + ", \"" + (isValueList ? "String" : "Jet") + "\")";
+  std::vector<std::string> lines;
+  const bool withRows = rowSource.size() > kPieceBytes;
+  if (withRows) {
+    for (const std::string& piece : RowSourcePieces(rowSource))
+      lines.push_back(lines.empty() ? "strRowSource = \"" + piece + "\""
+                                    : "strRowSource = strRowSource & \"" + piece + "\"");
+    lines.push_back("Call " + procedure + "(strRowSource" + rest);
+    ReportLine(s, s.Form().Name, kReasonKeptChoice,
+               "Call " + procedure + "(\"" + rowSource.substr(0, 200) + "...\"" + rest, 0,
+               lines.back(), header.substr(17));
+  } else {
+    lines.push_back("Call " + procedure + "(\"" + rowSource + "\"" + rest);
+  }
 
   TextDocument& form = s.Form().Text;
-  if (IsDuplicateLine(form, header, 0) > 0) {
-    InsertLine(form, header, callLine, 1);
-  } else {
-    AppendLines(form, {header, callLine, "End Function"});
+  if (!AddToInitialiser(form, header, lines, withRows)) {
+    if (withRows) lines.insert(lines.begin(), std::string(kRowsDim));
+    lines.insert(lines.begin(), header);
+    lines.push_back("End Function");
+    AppendLines(form, lines);
   }
   s.Form().InitCalls[initCall] = true;
 }

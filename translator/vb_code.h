@@ -59,9 +59,9 @@ std::string WithoutContinuation(std::string_view line);
 inline constexpr size_t kMaxLineLength = 1023;
 inline constexpr size_t kMaxContinuations = 24;
 
-// A logical line cut into physical lines of at most kMaxLineLength bytes at
-// blanks of the code, joined by " _". A line that fits, or that has no place
-// to cut, comes back as it is.
+// A logical line cut into physical lines at blanks of the code, joined by
+// " _", each short enough to stay within kMaxLineLength bytes once indented.
+// A line that fits, or that has no place to cut, comes back as it is.
 std::vector<std::string> FitLineLength(const std::string& line);
 
 }  // namespace morvane

@@ -147,6 +147,15 @@ const ListCase kComboBoxCases[] = {
      "",
      "\nPrivate Sub cbo_DblClick(Cancel As MSForms.ReturnBoolean)\nCall D()\nEnd Sub\n"
      "\nPrivate Sub cbo_KeyPress(KeyAscii As MSForms.ReturnInteger)\nCall mcrBeep\nEnd Sub\n"},
+    {"FormsComboTakesTheModulesKeyAndDoubleClickProceduresWithItsSignatures",
+     4,
+     5,
+     "cbo",
+     {{"OnDblClick", "[Event Procedure]"}, {"OnKeyDown", "[Event Procedure]"}},
+     "Private Sub cbo_DblClick(Cancel As Integer)\nEnd Sub\n"
+     "Private Sub cbo_KeyDown(KeyCode As Integer, Shift As Integer)\nEnd Sub\n",
+     "Private Sub cbo_DblClick(Cancel As MSForms.ReturnBoolean)\nEnd Sub\n"
+     "Private Sub cbo_KeyDown(KeyCode As MSForms.ReturnInteger, Shift As Integer)\nEnd Sub\n"},
     {"SheridanComboAsksOnLeavingWhetherItsTextIsInTheList",
      2,
      2,

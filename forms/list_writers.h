@@ -1,0 +1,98 @@
+// The list and combo box writers: each Access list box and combo box becomes
+// the substitute the run's options choose (GreenTree, Sheridan, the standard
+// Visual Basic controls, the own list box, the Microsoft Forms combo box or
+// the list view). This header holds what the writers share: the control in
+// hand with its columns, widths and row source, and the recurring blocks
+// (bindings, the tag naming the row source, the row source's data control).
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace morvane {
+
+class ControlDesign;
+class FormWriter;
+
+// The head of a DataList.GTList: name, page, component and the lines up to
+// the fonts. With `gridName` (a datasheet subform shown as a GreenTree grid)
+// the Bindings line names the data control of that subform's form.
+std::string WriteGreenTreeHead(FormWriter& w, const std::string& gridName);
+
+// Registers the Sheridan Data Widgets of list type `type` (2 or 3).
+void AddSheridanComponent(FormWriter& w, int type);
+
+// A list or combo box in hand, read once for its writer.
+struct ListControl {
+  ListControl(FormWriter& writer, const ControlDesign& control) : w(writer), c(control) {}
+
+  FormWriter& w;
+  const ControlDesign& c;
+  bool IsList = true;
+  bool Bound = false;       // ListboxBound or ComboboxBound
+  bool TableQuery = false;  // RowSourceType is "Table/Query"
+  std::string RowSource;
+  std::optional<long> Columns;  // ColumnCount, n
+  std::string Widths;           // ColumnWidths, twips between ";"
+  std::string Name;             // CurrentControlName
+  std::string DataName;         // the row source's data control, when bound
+  bool HasData = true;          // the writer gives a bound list a data control
+
+  // A bound list of a table or query has a data control of its own.
+  bool RowData() const { return HasData && Bound && TableQuery; }
+  long N() const { return Columns.value_or(0); }
+  // The name of the row source's field at `index` from 0; empty when the
+  // row source cannot be read or has no such field.
+  const std::string& Field(long index) const;
+  // Field i (from 1) of ColumnWidths; empty past the last.
+  std::string WidthField(long i) const;
+  // The width of column i (from 1): the control's Width for one column,
+  // else the field of ColumnWidths; nullopt when that is no number.
+  std::optional<double> ColumnWidth(long i) const;
+
+  mutable std::vector<std::optional<std::string>> fields_;
+};
+
+// Step 1 of each list writer: the control's unique name and page, and its
+// list properties. Null when the walk has no control in hand. `withData`:
+// the writer gives a bound list a data control for its rows.
+std::optional<ListControl> BeginList(FormWriter& w, bool isList, bool withData = true);
+
+// "Bindings = "{form}.frx":{offset}" with a bindings record for `dataName`.
+void AddBindingsLine(std::string& text, FormWriter& w, const std::string& dataName, bool isList);
+// The tag that names a saved query as the row source for the run-time fill.
+void AddListTagLine(std::string& text, const ListControl& l);
+// The data control of a bound list's table or query, behind its text.
+void AddRowDataControl(std::string& text, const ListControl& l);
+// `head` + value + a closing quote; a line longer than the form text holds
+// is left out, and the value is set from Form_Load to `member` instead.
+void AddStringProperty(std::string& text, const ListControl& l, std::string_view head,
+                       const std::string& value, std::string_view member);
+// "Text = "{d}"" of a combo's default value, or the Form_Load line of one
+// that is an expression.
+void AddComboDefault(std::string& text, const ListControl& l);
+// "DataSource ="dat{form}"" and "DataField ="{ControlSource}"" when the
+// form has a record source.
+void AddFormBinding(std::string& text, const ListControl& l);
+// An analysis row for a choice made where the plain rule would not load.
+void ReportListChoice(const ListControl& l, const std::string& codeLine,
+                      const std::string& written);
+// "Left = {Left}" and "Top = {Top}".
+std::optional<long> LeftOf(const ListControl& l);
+std::optional<long> TopOf(const ListControl& l);
+
+// The writers, each on the control the walk stands on.
+void WriteGreenTreeList(FormWriter& w);
+void WriteGreenTreeCombo(FormWriter& w);
+void WriteSheridanList(FormWriter& w);
+void WriteSheridanCombo(FormWriter& w);
+void WriteStandardList(FormWriter& w, bool isList);
+void WriteOwnList(FormWriter& w);
+void WriteFormsCombo(FormWriter& w);
+void WriteListView(FormWriter& w);
+
+inline constexpr const char* kFontGuid = "{0BE35203-8F91-11CE-9DE3-00AA004BB851}";
+
+}  // namespace morvane

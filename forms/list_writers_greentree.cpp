@@ -1,0 +1,233 @@
+// The GreenTree DataList writers: DataList.GTList for list boxes (whose head
+// the GreenTree grid of a datasheet subform shares) and DataList.GTCombo for
+// combo boxes.
+#include <algorithm>
+
+#include "design/form_design.h"
+#include "forms/control_writer_frame.h"
+#include "forms/form_writer.h"
+#include "forms/frm_text.h"
+#include "forms/list_writers.h"
+#include "session/conversion_session.h"
+#include "session/hint_processor.h"
+
+namespace morvane {
+
+namespace {
+
+constexpr const char* kGreenTreeGuid = "{98460712-9149-11CF-BADB-00201802BB87}#1.1#0";
+constexpr const char* kGreenTreeFile = "GTLIST32.OCX";
+constexpr long kReasonKeptChoice = 16;
+
+std::string FontHead(const std::string& property) {
+  return "BeginProperty " + property + " " + kFontGuid;
+}
+
+// The caption, default, scroll tip and extended tip fonts.
+void AddDataListFonts(std::string& text) {
+  for (const char* font : {"DefColCaptionFont", "DefFont", "ScrollTipFont", "ExtendTipFont"})
+    AddFixedFontLines(text, FontHead(font), "MS Sans Serif", "8.25");
+}
+
+// A GreenTree control stands on the page where the walk found it only on a
+// page-broken form's detail section; elsewhere its page is the first.
+void ResetPage(FormWriter& w, const ControlDesign& c) {
+  FormTextSet& t = w.Text();
+  if (t.HasPageBreaks && c.Section() == 0) return;
+  t.Place.PageIndex = 0;
+  t.Place.PageLeft = 0;
+}
+
+std::optional<std::string> ExtentOf(const ControlDesign& c, std::string_view property) {
+  auto v = c.Real(property);
+  if (!v) return std::nullopt;
+  return Extent(*v);
+}
+
+// The component, with the analysis row of the column fonts once a form.
+void RegisterGreenTree(FormWriter& w) {
+  const auto& files = w.Text().ComponentFiles;
+  if (std::find(files.begin(), files.end(), kGreenTreeFile) != files.end()) return;
+  w.AddComponent(kGreenTreeGuid, kGreenTreeFile);
+  AddHint(w.Session(),
+          ReportRowHint{w.Text().OwnerFormName, kReasonKeptChoice, "BeginProperty CDs.CD(0).Font",
+                        0, "columns take DefFont and DefColCaptionFont", ""});
+}
+
+// The head's lines; `bindingsData` names the data control of the Bindings
+// line, none when empty.
+std::string HeadLines(FormWriter& w, const ControlDesign& c, const std::string& bindingsData) {
+  RegisterGreenTree(w);
+  std::string text;
+  AddLine(text, "Begin DataList.GTList " + w.Session().Form().CurrentControlName);
+  if (!bindingsData.empty()) AddBindingsLine(text, w, bindingsData, false);
+  AddLine(text, "Height = ", ValueText(c, "Height"));
+  AddLine(text, "Left = ", w.ControlLeft(c));
+  AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));
+  AddTabStopLine(text, c);
+  AddLine(text, "Top = ", w.ControlTop(c));
+  AddLine(text, "Width = ", ValueText(c, "Width"));
+  AddLine(text, "_Version =   65536");
+  AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
+  AddLine(text, "AllowColumnDragDrop = 0");
+  AddLine(text, "DefColCaptionBorderStyle = 3");
+  AddLine(text, "MultiSelect = ", ValueText(c, "MultiSelect"));
+  AddEnabledLine(text, c);
+  if (auto heads = c.Flag("ColumnHeads"))
+    AddLine(text, *heads ? "ColumnCaptions =-1" : "ColumnCaptions =0");
+  AddDataListFonts(text);
+  return text;
+}
+
+// The width lines of column k. A column's own font would be a property
+// block named "CDs.CD(k).Font", a name the form file's property blocks do not
+// take; each column shows the list's default fonts instead, which are the
+// same (MS Sans Serif, 8.25).
+void AddColumnLook(std::string& text, const std::string& cd, const std::optional<double>& width) {
+  if (!width) return;
+  AddLine(text, cd + ".Width = " + Extent(*width));
+  if (*width == 0) AddLine(text, cd + ".Visible = 0");
+}
+
+void AddColumnHead(std::string& text, const std::string& cd, long k) {
+  AddLine(text, cd + ".SubItemSource = " + std::to_string(k));
+  if (k != 0) AddLine(text, cd + ".SubColumn = " + std::to_string(k));
+  AddLine(text, cd + ".WordWrap = 0");
+  AddLine(text, cd + ".CaptionWordWrap = 0");
+}
+
+void AddColors(std::string& text, const ControlDesign& c) {
+  AddLine(text, "BackColor= &H", Hex(c, "BackColor"), "&");
+  AddLine(text, "ForeColor= &H", Hex(c, "ForeColor"), "&");
+}
+
+}  // namespace
+
+std::string WriteGreenTreeHead(FormWriter& w, const std::string& gridName) {
+  if (gridName.empty()) {
+    auto l = BeginList(w, true);
+    if (!l) return {};
+    ResetPage(w, l->c);
+    return HeadLines(w, l->c, l->RowData() ? l->DataName : "");
+  }
+  const ControlDesign* c = BeginControl(w);
+  if (!c) return {};
+  ResetPage(w, *c);
+  // A subform control has no row source: it is bound to its form's data
+  // control.
+  auto type = c->Text("RowSourceType");
+  const bool bound = !type || *type == "Table/Query";
+  return HeadLines(w, *c, bound ? w.Session().Names.DataControl(gridName) : "");
+}
+
+void WriteGreenTreeList(FormWriter& w) {
+  auto begun = BeginList(w, true);
+  if (!begun) return;
+  const ListControl& l = *begun;
+  const ControlDesign& c = l.c;
+  ResetPage(w, c);
+  std::string text = HeadLines(w, c, l.RowData() ? l.DataName : "");
+  AddLine(text, "CDs.Count = ", l.Columns);
+  // A width that cannot be read is the width of the column before.
+  double width = 0;
+  for (long k = 0; k < l.N(); ++k) {
+    if (auto cw = l.ColumnWidth(k + 1)) width = *cw;
+    const std::string cd = "CDs.CD(" + std::to_string(k) + ")";
+    AddColumnHead(text, cd, k);
+    if (l.Bound) {
+      AddLine(text, cd + ".DataField=\"" + l.Field(k) + "\"");
+      AddLine(text, cd + ".Caption=\"" + l.Field(k) + "\"");
+    } else if (l.TableQuery) {
+      AddLine(text, cd + ".Caption=\"" + l.Field(k) + "\"");
+    } else {
+      AddLine(text, cd + ".Caption = \"Col " + std::to_string(k) + "\"");
+    }
+    AddColumnLook(text, cd, width);
+    AddLine(text, cd + ".KEY = \"\"");
+  }
+  AddLine(text, "LImgs.Count = 1");
+  AddLine(text, "GridLineType = 2");
+  AddLine(text, "_ExtentX = ", ExtentOf(c, "Width"));
+  AddLine(text, "_ExtentY = ", ExtentOf(c, "Height"));
+  AddLine(text, "_StockProps = 81");
+  AddLine(text, "BackColor = -2147483643");
+  AddLine(text, "TabStop =", ValueText(c, "TabStop"));
+  AddColors(text, c);
+  AddListTagLine(text, l);
+  AddTipLine(text, c);
+  AddVisibleLine(text, c);
+  AddLine(text, "End");
+  AddRowDataControl(text, l);
+  PutText(w, std::move(text));
+  CountControl(w);
+}
+
+void WriteGreenTreeCombo(FormWriter& w) {
+  auto begun = BeginList(w, false);
+  if (!begun) return;
+  const ListControl& l = *begun;
+  const ControlDesign& c = l.c;
+  RegisterGreenTree(w);
+  std::string text;
+  AddLine(text, "Begin DataList.GTCombo " + l.Name);
+  if (l.RowData()) AddBindingsLine(text, w, l.DataName, false);
+  AddLine(text, "Height = ", ValueText(c, "Height"));
+  AddLine(text, "Left = ", LeftOf(l));
+  AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));
+  AddTabStopLine(text, c);
+  AddLine(text, "Top = ", TopOf(l));
+  AddLine(text, "Width = ", ValueText(c, "Width"));
+  AddLine(text, "_Version = 65536");
+  AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
+  AddLine(text, "AllowColumnDragDrop = 0");
+  AddLine(text, "DefColCaptionBorderStyle = 3");
+  AddEnabledLine(text, c);
+  AddFormBinding(text, l);
+  AddDataListFonts(text);
+  AddLine(text, "CDs.Count = ", l.Columns);
+  if (l.RowData()) {
+    const long bound = c.Number("BoundColumn").value_or(0) - 1;
+    if (bound >= 0 && bound < l.N()) AddLine(text, "DataFieldList=\"" + l.Field(bound) + "\"");
+    // The first column with a width shows the text.
+    long shown = 1;
+    while (shown <= l.N()) {
+      const std::string field = l.WidthField(shown);
+      auto v = NumberOfText(field);
+      if (!field.empty() && (!v || *v != 0)) break;
+      ++shown;
+    }
+    AddLine(text, "DataFieldDisplay=\"" + l.Field(shown - 1) + "\"");
+  }
+  for (long k = 0; k < l.N(); ++k) {
+    const std::string cd = "CDs.CD(" + std::to_string(k) + ")";
+    AddColumnHead(text, cd, k);
+    AddColumnLook(text, cd, l.ColumnWidth(k + 1));
+    if (l.Bound) {
+      AddLine(text, cd + ".Caption = \"" + l.Field(k) + "\"");
+      AddLine(text, cd + ".DataField = \"" + l.Field(k) + "\"");
+    } else if (l.TableQuery) {
+      AddLine(text, cd + ".Caption = \"" + l.Field(k) + "\"");
+    } else {
+      AddLine(text, cd + ".Caption = \"Col " + std::to_string(k) + "\"");
+    }
+    AddLine(text, cd + ".KEY = \"\"");
+  }
+  AddLine(text, "LImgs.Count = 1");
+  if (auto limit = c.Flag("LimitToList"))
+    AddLine(text, *limit ? "ComboStyle = 2" : "ComboStyle = 0");
+  AddLine(text, "_ExtentX = ", ExtentOf(c, "Width"));
+  AddLine(text, "_ExtentY = ", ExtentOf(c, "Height"));
+  AddLine(text, "_StockProps = 81");
+  AddLine(text, "BackColor = -2147483643");
+  AddLine(text, "ForeColor= &H", Hex(c, "ForeColor"), "&");
+  AddListTagLine(text, l);
+  AddTipLine(text, c);
+  AddVisibleLine(text, c);
+  AddComboDefault(text, l);
+  AddLine(text, "End");
+  AddRowDataControl(text, l);
+  PutText(w, std::move(text));
+  CountControl(w);
+}
+
+}  // namespace morvane
