@@ -131,19 +131,29 @@ void WriteFormDataControl(FormWriter& w) {
           : WriteDataControl(w, name, t.Place.SubformLeft, type, source, top, visible, formName);
   // The control's text ends with its line end; the next control brings its own.
   if (text.ends_with("\r\n")) text.resize(text.size() - 2);
-  t.BodyText += "\r\n" + text;
-  if (!t.InSubform) return;
+  // Inside a subform's frame the data control stands in the frame too.
+  if (t.Place.Bucket >= 0)
+    w.PutInBucket(t.Place.Bucket, text);
+  else
+    t.BodyText += "\r\n" + text;
+  if (!t.InSubform || !t.CurrentControl) return;
 
-  // The parent's data control moves and refreshes the subform's, and its
-  // current row restricts what the subform shows.
-  const std::string parent = s.Names.DataControl(t.OwnerFormName);
+  // The data control of the form that holds the subform control moves and
+  // refreshes the subform's, and its current row restricts what the subform
+  // shows. A parent without a record source has no data control.
+  const ControlDesign& control = *t.CurrentControl;
+  const FormDesign& holder = control.Owner();
+  if (holder.Text("RecordSource").value_or("").empty()) return;
+  const std::string parent = s.Names.DataControl(holder.Name());
   const std::string d = DataControlName(name);
   AddHint(s, DataControlEntryHint{parent, d + ".Recordset.MoveFirst"});
   AddHint(s, DataControlEntryHint{parent, d + ".Recordset.Movelast"});
   AddHint(s, DataControlEntryHint{parent, d + ".refresh"});
-  std::string link;
-  if (t.CurrentControl) link = SubformLinkSql(w, recordSource, *t.CurrentControl);
-  AddHint(s, DataControlEntryHint{parent, d + ".RecordSource=\"" + link});
+  if (control.Text("LinkMasterFields").value_or("").empty() &&
+      control.Text("LinkChildFields").value_or("").empty())
+    return;
+  AddHint(s, DataControlEntryHint{
+                 parent, d + ".RecordSource=\"" + SubformLinkSql(w, recordSource, control)});
 }
 
 std::string WriteDataControl(FormWriter& w, const std::string& name, long left, int type,

@@ -107,6 +107,7 @@ struct Act {
       form.DatasheetForms.assign(1, h.FormName);
     else
       form.DatasheetForms.push_back(h.FormName);
+    form.DatasheetGrids.push_back(h);
   }
   void operator()(const FormLoadLineHint& h) { form.FormLoadCode += "\r\n" + h.Line; }
   void operator()(const ControlCountsHint& h) {
@@ -124,7 +125,7 @@ struct Act {
     form.LabelCaptionCode += "\r\nMe." + h.ControlName + ".Caption = \"" + h.Caption + "\"";
   }
   void operator()(const RenameControlClassHint& h) {
-    const std::string prefix = "Name = \"" + VbIdentifier(s.ProjectName) + "_CF.";
+    const std::string prefix = "Name = \"" + ControlProjectName(s.ProjectName) + ".";
     ChangeLine2(form.Text, prefix + h.OldName + "\"", prefix + h.NewName + "\"");
   }
 };

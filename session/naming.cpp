@@ -100,20 +100,28 @@ std::string DataControlName(std::string_view formVbName) {
   return name;
 }
 
+std::string ControlProjectName(std::string_view projectName) {
+  // A class name is at most 39 characters with its project's name and the
+  // point between them: a short project name leaves room for the class.
+  return VbIdentifier(projectName, "a", 17) + "_CF";
+}
+
 bool IsReservedWord(std::string_view name) {
   static constexpr std::string_view kWords[] = {
-      "And",      "As",      "Boolean", "ByRef",    "Byte",    "ByVal",   "Call",    "Case",
-      "Const",    "Currency", "Date",   "Declare",  "Dim",     "Do",      "Double",  "Each",
-      "Else",     "ElseIf",  "Empty",   "End",      "Enum",    "Eqv",     "Erase",   "Event",
-      "Exit",     "False",   "For",     "Friend",   "Function", "Get",    "Global",  "GoSub",
-      "GoTo",     "If",      "Imp",     "Implements", "In",    "Integer", "Is",      "Let",
-      "Like",     "Long",    "Loop",    "LSet",     "Me",      "Mod",     "New",     "Next",
-      "Not",      "Nothing", "Null",    "Object",   "On",      "Option",  "Optional", "Or",
-      "ParamArray", "Preserve", "Private", "Property", "Public", "RaiseEvent", "ReDim", "Resume",
-      "Return",   "RSet",    "Select",  "Set",      "Single",  "Static",  "Step",    "Stop",
-      "String",   "Sub",     "Then",    "To",       "True",    "Type",    "TypeOf",  "Until",
-      "Variant",  "Wend",    "While",   "With",     "WithEvents", "Xor",  "Form",    "Forms",
-      "App",      "Screen",  "Printer", "Clipboard", "Debug", "Err",     "VB",      "VBA",
+      "And",        "As",       "Boolean",  "ByRef",    "Byte",    "ByVal",      "Call",
+      "Case",       "Const",    "Currency", "Date",     "Declare", "Dim",        "Do",
+      "Double",     "Each",     "Else",     "ElseIf",   "Empty",   "End",        "Enum",
+      "Eqv",        "Erase",    "Event",    "Exit",     "False",   "For",        "Friend",
+      "Function",   "Get",      "Global",   "GoSub",    "GoTo",    "If",         "Imp",
+      "Implements", "In",       "Integer",  "Is",       "Let",     "Like",       "Long",
+      "Loop",       "LSet",     "Me",       "Mod",      "New",     "Next",       "Not",
+      "Nothing",    "Null",     "Object",   "On",       "Option",  "Optional",   "Or",
+      "ParamArray", "Preserve", "Private",  "Property", "Public",  "RaiseEvent", "ReDim",
+      "Resume",     "Return",   "RSet",     "Select",   "Set",     "Single",     "Static",
+      "Step",       "Stop",     "String",   "Sub",      "Then",    "To",         "True",
+      "Type",       "TypeOf",   "Until",    "Variant",  "Wend",    "While",      "With",
+      "WithEvents", "Xor",      "Form",     "Forms",    "App",     "Screen",     "Printer",
+      "Clipboard",  "Debug",    "Err",      "VB",       "VBA",
   };
   for (std::string_view w : kWords)
     if (text::IEquals(w, name)) return true;

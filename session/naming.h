@@ -32,6 +32,9 @@ std::string VbIdentifier(std::string_view name, std::string_view prefix = "a",
 // The data control of a form: "dat" and the form's Visual Basic name, cut
 // to 40 characters.
 std::string DataControlName(std::string_view formVbName);
+// The name of the project of a run's user controls: the project's name as
+// an identifier of at most 17 characters and "_CF".
+std::string ControlProjectName(std::string_view projectName);
 // Whether Visual Basic keeps the word for itself (a component cannot take
 // it as its name).
 bool IsReservedWord(std::string_view name);

@@ -73,6 +73,9 @@ constexpr Entry kEnglish[] = {
     {kMsgObjectNotRead, "it could not be read; nothing was written for it"},
     {kMsgObjectKeptOut, "it was kept out of the project"},
     {kMsgSummaryControls, "Controls not converted: %1; each is named in the analysis."},
+    {kMsgControlsReduced,
+     "The form \"%1\" had %2 controls, over Visual Basic's limit of 254: %3 control arrays of "
+     "labels bring it to %4."},
     {kCapStartTranslation, "Start &Translation"},
     {kCapProject, "&Project"},
     {kCapListControls, "List &Controls"},

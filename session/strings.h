@@ -41,6 +41,7 @@ enum StringId : int {
   kMsgObjectNotRead = 147,
   kMsgObjectKeptOut = 148,
   kMsgSummaryControls = 149,
+  kMsgControlsReduced = 150,
   // Captions of the main window.
   kCapStartTranslation = 201,
   kCapProject = 202,

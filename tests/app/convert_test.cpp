@@ -307,15 +307,16 @@ TEST(Convert, ModulesSelectedByName) {
 
 TEST(Convert, FormsTheRunCannotConvertAreSaidSo) {
   TempDir dir;
-  std::string labels;
+  // Text boxes, which no control array gathers.
+  std::string boxes;
   for (int i = 0; i < 255; ++i)
-    labels += "Begin Label\nLeft =0\nTop =" + std::to_string(i * 10) +
-              "\nWidth =100\nHeight =100\nName =\"l" + std::to_string(i) + "\"\nEnd\n";
+    boxes += "Begin TextBox\nLeft =0\nTop =" + std::to_string(i * 10) +
+             "\nWidth =100\nHeight =100\nName =\"t" + std::to_string(i) + "\"\nEnd\n";
   fs::create_directories(dir / "src" / "forms");
   WriteFile(dir / "src" / "forms" / "frmBig.txt",
             "Version =20\nBegin Form\nBegin\nBegin Section\nHeight =3000\nName =\"Detail\"\n"
             "Begin\n" +
-                labels + "End\nEnd\nEnd\nEnd\n");
+                boxes + "End\nEnd\nEnd\nEnd\n");
   WriteFile(dir / "src" / "forms" / "frmSmall.txt",
             "Version =20\nBegin Form\nBegin\nBegin Section\nHeight =300\nName =\"Detail\"\n"
             "Begin\nBegin ListBox\nName =\"lstPick\"\nEnd\nEnd\nEnd\nEnd\nEnd\n");
@@ -323,7 +324,8 @@ TEST(Convert, FormsTheRunCannotConvertAreSaidSo) {
       {"convert", (dir / "src").string(), "-o", (dir / "out").string(), "--no-mdi", "--yes"});
   // The run finished, but a form stayed out of the project.
   ASSERT_EQ(r.status, 3) << r.err;
-  EXPECT_NE(r.err.find("morvane: error: frmBig: it was kept out of the project"), std::string::npos);
+  EXPECT_NE(r.err.find("morvane: error: frmBig: it was kept out of the project"),
+            std::string::npos);
   EXPECT_NE(r.out.find("The form \"frmBig\" has 255 controls.  Visual Basic has a limit of 254 "
                        "controls, and Morvane was unable to find a way to reduce the control "
                        "count.  The form will not be converted."),
