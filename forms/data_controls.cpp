@@ -114,7 +114,9 @@ void WriteFormDataControl(FormWriter& w) {
   const std::string recordSource = form->Text("RecordSource").value_or("");
   if (recordSource.empty()) return;
   const std::string formName = form->Name();
-  const std::string name = s.Names.Name(ComponentRole::Form, formName).VbName;
+  // "dat" and the form's name, or the name of this showing of a form shown
+  // twice.
+  const std::string name = w.DataControlOf(formName).substr(3);
   const int type = form->Number("RecordsetType") == 2 ? 2 : 1;
   const std::string source = EscapeQuotes(JoinLines(recordSource));
   // On a page-broken form the client area is the first page's height.
@@ -144,7 +146,7 @@ void WriteFormDataControl(FormWriter& w) {
   const ControlDesign& control = *t.CurrentControl;
   const FormDesign& holder = control.Owner();
   if (holder.Text("RecordSource").value_or("").empty()) return;
-  const std::string parent = s.Names.DataControl(holder.Name());
+  const std::string parent = w.DataControlOf(holder.Name());
   const std::string d = DataControlName(name);
   AddHint(s, DataControlEntryHint{parent, d + ".Recordset.MoveFirst"});
   AddHint(s, DataControlEntryHint{parent, d + ".Recordset.Movelast"});

@@ -215,7 +215,7 @@ void FormWriter::WriteForm(const std::string& formName, bool isSubform, int pass
     WriteFormHeader(*form);
     NoteRecordListView(*this, *form);
   }
-  AddHint(s_, FormCodeHint{formName, t_.ParentControlName});
+  if (!t_.WithoutCode) AddHint(s_, FormCodeHint{formName, t_.ParentControlName});
   if (auto source = form->Text("RecordSource"); source && !source->empty())
     WriteFormDataControl(*this);
   if (formHasBreaks) OpenPageBreakTab(*this);
@@ -340,6 +340,12 @@ void FormWriter::WriteComponentLines(bool finish) {
 
 void FormWriter::MakeControlName(const ControlDesign& c) {
   s_.Form().CurrentControlName = UniqueControlName(SafeName(c.Name()));
+}
+
+std::string FormWriter::DataControlOf(const std::string& formName) const {
+  for (auto it = t_.DataControls.rbegin(); it != t_.DataControls.rend(); ++it)
+    if (EqualsNoCase(it->first, formName)) return it->second;
+  return s_.Names.DataControl(formName);
 }
 
 std::string FormWriter::UniqueControlName(const std::string& safeName) {

@@ -85,9 +85,14 @@ struct FormTextSet {
   // The forms a walk is inside of, the top form first: a subform that shows
   // one of them again would never end.
   std::vector<std::string> FormChain;
-  // Forms whose controls this form already holds, and the subform control
-  // that shows each.
-  std::vector<std::pair<std::string, std::string>> EmbeddedForms;
+  // The data control of each form a walk is inside of, innermost last; a
+  // form shown a second time has a data control of its own.
+  std::vector<std::pair<std::string, std::string>> DataControls;
+  // The forms (lower case) whose data control the form holds already.
+  std::set<std::string> WalkedForms;
+  // The walk writes controls whose module stays behind (a form shown a
+  // second time, a repeated form's header): no event code is asked for.
+  bool WithoutCode = false;
 };
 
 // Keeps the placement of a walk for as long as it lives and puts it back when
@@ -129,6 +134,9 @@ class FormWriter {
 
   // Sets the session's CurrentControlName to a name unique in the form.
   void MakeControlName(const ControlDesign& c);
+  // The name of the data control of `formName` in the walk: its own, or the
+  // one of this showing of a form shown twice.
+  std::string DataControlOf(const std::string& formName) const;
   // A name unique in the form for a control the writers make themselves (a
   // grid's data control); registered like a control's.
   std::string UniqueControlName(const std::string& name);

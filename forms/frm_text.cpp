@@ -138,7 +138,7 @@ void AddBindingLines(std::string& text, FormWriter& w, const ControlDesign& c) {
   if (!source || source->empty() || (*source)[0] == '=') return;
   const FormDesign* form = w.Text().CurrentForm;
   const std::string formName = form ? form->Name() : w.Text().OwnerFormName;
-  AddLine(text, "DataSource =\"" + w.Session().Names.DataControl(formName) + "\"");
+  AddLine(text, "DataSource =\"" + w.DataControlOf(formName) + "\"");
   AddLine(text, "DataField =\"" + *source + "\"");
 }
 

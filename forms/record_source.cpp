@@ -68,7 +68,7 @@ std::string SubformLinkSql(FormWriter& w, const std::string& source,
   // The parent is the form that holds the subform control: the top form,
   // or for a nested subform the subform around it.
   const FormDesign& holder = subformControl.Owner();
-  const std::string parentData = s.Names.DataControl(holder.Name());
+  const std::string parentData = w.DataControlOf(holder.Name());
   const std::string joinName = "qry" + parentData;
 
   // Child side: a SELECT statement is saved as a query the join can name.

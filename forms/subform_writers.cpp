@@ -161,7 +161,7 @@ void AddLinkHints(FormWriter& w, const ControlDesign& c, const std::string& reco
   ConversionSession& s = w.Session();
   const FormDesign& parent = c.Owner();
   if (parent.Text("RecordSource").value_or("").empty() || recordSource.empty()) return;
-  const std::string parentData = s.Names.DataControl(parent.Name());
+  const std::string parentData = w.DataControlOf(parent.Name());
   AddHint(s, DataControlEntryHint{parentData, dataControl + ".Recordset.MoveFirst"});
   AddHint(s, DataControlEntryHint{parentData, dataControl + ".Recordset.Movelast"});
   AddHint(s, DataControlEntryHint{parentData, dataControl + ".refresh"});
@@ -462,13 +462,13 @@ struct WalkState {
   bool HeaderOnly;
   bool HasPageBreaks;
   bool InTabControl;
+  bool WithoutCode;
   Placement Place;
 };
 
 WalkState Save(const FormTextSet& t) {
-  return {t.CurrentForm,       t.CurrentControl, t.ParentFormName,
-          t.ParentControlName, t.InSubform,      t.HeaderOnly,
-          t.HasPageBreaks,     t.InTabControl,   t.Place};
+  return {t.CurrentForm, t.CurrentControl, t.ParentFormName, t.ParentControlName, t.InSubform,
+          t.HeaderOnly,  t.HasPageBreaks,  t.InTabControl,   t.WithoutCode,       t.Place};
 }
 
 void Restore(FormTextSet& t, WalkState saved) {
@@ -480,6 +480,7 @@ void Restore(FormTextSet& t, WalkState saved) {
   t.HeaderOnly = saved.HeaderOnly;
   t.HasPageBreaks = saved.HasPageBreaks;
   t.InTabControl = saved.InTabControl;
+  t.WithoutCode = saved.WithoutCode;
   t.Place = std::move(saved.Place);
 }
 
@@ -505,12 +506,28 @@ std::string FrameHead(FormWriter& w, const ControlDesign& c, const FormDesign& f
   return text;
 }
 
+// Whether the form's controls stand on this form already: a second
+// showing gets a data control of its own, and its module stays with the
+// first.
+bool ShownBefore(const FormTextSet& t, const FormDesign& f) {
+  return t.WalkedForms.count(ToLower(f.Name())) > 0;
+}
+
 // Walks the subform's form inside the frame: every control of it goes into
-// the frame's text, placed from the frame's corner. Returns that text.
+// the frame's text, placed from the frame's corner. Returns that text, and
+// the name of the form's data control in `dataControl`.
 std::string WalkInsideFrame(FormWriter& w, const ControlDesign& c, const FormDesign& f,
-                            bool headerOnly) {
+                            bool headerOnly, std::string* dataControl = nullptr) {
   FormTextSet& t = w.Text();
+  ConversionSession& s = w.Session();
   const int bucket = w.ControlBucket();
+  const bool again = !t.WalkedForms.insert(ToLower(f.Name())).second;
+  std::string data = s.Names.DataControl(f.Name());
+  if (again)
+    data = w.UniqueControlName(data);
+  else
+    t.UsedControlNames.push_back(data);
+  if (dataControl) *dataControl = data;
   WalkState saved = Save(t);
   t.ParentFormName = t.CurrentForm->Name();
   t.ParentControlName = c.Name();
@@ -524,7 +541,10 @@ std::string WalkInsideFrame(FormWriter& w, const ControlDesign& c, const FormDes
   t.Place.TabPage = -1;
   t.HasPageBreaks = false;
   t.InTabControl = false;
+  // The header of a repeated form stands here, its code does not.
+  t.WithoutCode = t.WithoutCode || headerOnly || again;
   t.FormChain.push_back(f.Name());
+  t.DataControls.emplace_back(f.Name(), data);
   std::string& out = w.BucketText(bucket);
   const size_t mark = out.size();
   w.WriteForm(f.Name(), true, 2, headerOnly);
@@ -534,6 +554,7 @@ std::string WalkInsideFrame(FormWriter& w, const ControlDesign& c, const FormDes
   while (inner.starts_with("\r\n")) inner.erase(0, 2);
   while (inner.ends_with("\r\n")) inner.resize(inner.size() - 2);
   t.FormChain.pop_back();
+  t.DataControls.pop_back();
   Restore(t, std::move(saved));
   return inner;
 }
@@ -541,14 +562,6 @@ std::string WalkInsideFrame(FormWriter& w, const ControlDesign& c, const FormDes
 void WriteEmbedded(FormWriter& w, const ControlDesign& c, const FormDesign& f) {
   ConversionSession& s = w.Session();
   FormTextSet& t = w.Text();
-  for (const auto& [form, control] : t.EmbeddedForms)
-    if (EqualsNoCase(form, f.Name())) {
-      NotConverted(w, c,
-                   "its form " + f.Name() + " already stands on this form in " + control +
-                       ", and a Visual Basic form holds its controls and code once");
-      return;
-    }
-  t.EmbeddedForms.emplace_back(f.Name(), c.Name());
   BeginControl(w);
   const std::string name = s.Form().CurrentControlName;
   CountControl(w);
@@ -557,7 +570,13 @@ void WriteEmbedded(FormWriter& w, const ControlDesign& c, const FormDesign& f) {
                     "the continuous form " + f.Name() +
                         " can be edited, so it is shown one record at a time with its data "
                         "control");
-  AddHint(s, OutputCodeHint{f.Name(), true});
+  if (ShownBefore(t, f))
+    PartlyConverted(w, name,
+                    "the form " + f.Name() +
+                        " is shown a second time: its controls stand here again over a data "
+                        "control of their own, its module's code serves the first only");
+  else if (!t.WithoutCode)
+    AddHint(s, OutputCodeHint{f.Name(), true});
   std::string text = FrameHead(w, c, f, name);
   const std::string inner = WalkInsideFrame(w, c, f, false);
   if (!inner.empty()) text += inner + "\r\n";
@@ -593,14 +612,14 @@ void WriteRepeater(FormWriter& w, const ControlDesign& c, const FormDesign& f) {
   // The header and footer of the subform and its data control stand in the
   // frame, above and below the repeated rows.
   std::string text = FrameHead(w, c, f, frame);
-  const std::string inner = WalkInsideFrame(w, c, f, true);
+  std::string data;
+  const std::string inner = WalkInsideFrame(w, c, f, true, &data);
   t.CurrentControl = &c;
   const std::string name = w.UniqueControlName(SafeName(f.Name()));
   CountControl(w);
   const long header = f.Section(1) ? f.Section(1)->Number("Height").value_or(0) : 0;
   const long footer = f.Section(2) ? f.Section(2)->Number("Height").value_or(0) : 0;
   const long height = std::max(0L, c.Number("Height").value_or(0) - header - footer);
-  const std::string data = s.Names.DataControl(f.Name());
 
   std::string repeater;
   AddLine(repeater, "Begin MSDataRepeaterLib.DataRepeater " + name);
