@@ -34,8 +34,10 @@ ContinuousForms::ContinuousForms(DesignStore& store) : store_(store) {}
 ContinuousForms::~ContinuousForms() = default;
 
 std::string ContinuousForms::UniqueProgId(const std::string& name, const std::string& project) {
+  // A class name that does not begin with a letter takes one ahead of it
+  // (behind it, it would still be no name Visual Basic takes).
   std::string safe = SafeName(name);
-  if (!StartsWithLetter(safe)) safe += "a";
+  if (!StartsWithLetter(safe)) safe = "a" + safe;
   std::string full = (project + "." + safe).substr(0, kProgIdLength);
   int n = 0;
   while (usedProgIds_.count(ToLower(full))) {

@@ -148,30 +148,31 @@ void RetargetTabLine(TextDocument& text, const std::string& oldName, const std::
 void AddDatasheetGrids(ConversionSession& s, const ProjectComponent& component) {
   if (!component.Text) return;
   std::vector<std::string>& lines = component.Text->Lines();
+  std::vector<std::string> columns;
   for (const DatasheetGridHint& grid : s.Form().DatasheetGrids) {
+    columns.insert(columns.end(), grid.ColumnLines.begin(), grid.ColumnLines.end());
+    if (grid.ControlText.empty()) continue;
     // The grid stands on the form itself: ahead of the End that closes the
     // form's designer block.
-    if (!grid.ControlText.empty()) {
-      size_t end = CodeStart(lines);
-      while (end > 0 && !EqualsNoCase(TrimBlanks(lines[end - 1]), "End")) --end;
-      if (end > 0) {
-        std::vector<std::string> add = SplitLines(grid.ControlText);
-        while (!add.empty() && add.back().empty()) add.pop_back();
-        lines.insert(lines.begin() + static_cast<long>(end - 1), add.begin(), add.end());
-      }
-    }
-    if (grid.ColumnLines.empty()) continue;
+    size_t end = CodeStart(lines);
+    while (end > 0 && !EqualsNoCase(TrimBlanks(lines[end - 1]), "End")) --end;
+    if (end == 0) continue;
+    std::vector<std::string> add = SplitLines(grid.ControlText);
+    while (!add.empty() && add.back().empty()) add.pop_back();
+    lines.insert(lines.begin() + static_cast<long>(end - 1), add.begin(), add.end());
+  }
+  // The columns are set first thing when the form loads.
+  if (!columns.empty()) {
     const std::string header = "Private Sub Form_Load()";
     size_t at = lines.size();
-    for (size_t i = CodeStart(lines); i < lines.size(); ++i)
+    for (size_t i = CodeStart(lines); i < lines.size() && at == lines.size(); ++i)
       if (EqualsNoCase(TrimBlanks(lines[i]), header)) at = i + 1;
     if (at < lines.size()) {
-      lines.insert(lines.begin() + static_cast<long>(at), grid.ColumnLines.begin(),
-                   grid.ColumnLines.end());
+      lines.insert(lines.begin() + static_cast<long>(at), columns.begin(), columns.end());
     } else {
       lines.emplace_back();
       lines.push_back(header);
-      lines.insert(lines.end(), grid.ColumnLines.begin(), grid.ColumnLines.end());
+      lines.insert(lines.end(), columns.begin(), columns.end());
       lines.push_back("End Sub");
     }
   }

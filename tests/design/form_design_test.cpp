@@ -170,7 +170,8 @@ TEST_F(CustomersForm, FormProperties) {
   EXPECT_EQ(f.Flag("NavigationButtons"), true);
   EXPECT_EQ(f.Flag("AllowEdits"), true);
   EXPECT_EQ(f.Number("BorderStyle"), 2);
-  EXPECT_EQ(f.Number("DefaultView"), 0);
+  // A form that writes no DefaultView shows continuous forms.
+  EXPECT_EQ(f.Number("DefaultView"), 1);
   // MinMaxButtons =1: a minimise button only.
   EXPECT_EQ(f.Flag("MinButton"), true);
   EXPECT_EQ(f.Flag("MaxButton"), false);
