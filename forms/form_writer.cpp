@@ -357,7 +357,8 @@ std::string FormWriter::UniqueControlName(const std::string& safeName) {
       name = name.substr(0, 38) + "A";
       counter = 0;
     }
-    if (t_.UsedControlNames[i] == name) {
+    // Visual Basic tells names apart without regard to case.
+    if (EqualsNoCase(t_.UsedControlNames[i], name)) {
       name += static_cast<char>(65 + counter);
       ++counter;
       i = static_cast<size_t>(-1);

@@ -9,6 +9,7 @@
 #include "session/conversion_session.h"
 #include "session/naming.h"
 #include "session/strings.h"
+#include "session/subform_code.h"
 #include "session/user_interface.h"
 
 namespace morvane {
@@ -171,6 +172,7 @@ void ProcessHints(ConversionSession& s, const std::string& formName, HintActions
   const std::vector<HintRecord> records = std::move(form.Hints);
   form.Hints.clear();
   ProcessRecords(s, formName, actions, records);
+  SeparateSubformProcedures(s, formName);
   FinishFormText(s);
   CloseOpenedSubforms(s, actions);
 }

@@ -891,6 +891,9 @@ Private Sub Form_Click()
     Me.sfrmLines.Visible = True
     Call sfrmCustomer_SubForm_Click()
 End Sub
+Private Sub ShowTotals()
+    Me.datfrmOrders.recordset.Fields("OrderID").SetFocus
+End Sub
 Private Function InitialDataCtlCaptions()
     On Error Resume Next
     datfrmOrders.Recordset.movenext
@@ -932,6 +935,11 @@ End Sub
 
 Private Sub Form_Load()
     mLoaded = True
+    sfrmCustomer_ShowTotals
+End Sub
+
+Private Sub sfrmCustomer_ShowTotals()
+    Me.datsfrmCustomer.recordset.Fields("CustomerName").Visible = mLoaded
 End Sub
 
 Private Sub sfrmCustomer_SubForm_Click()

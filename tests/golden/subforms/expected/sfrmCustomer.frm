@@ -373,6 +373,11 @@ Private mLoaded As Boolean
 
 Private Sub Form_Load()
     mLoaded = True
+    ShowTotals
+End Sub
+
+Private Sub ShowTotals()
+    Me.datsfrmCustomer.recordset.Fields("CustomerName").Visible = mLoaded
 End Sub
 
 Private Sub Form_Click()
