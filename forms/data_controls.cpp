@@ -79,11 +79,23 @@ int AdoCommandType(const FormWriter& w, const std::string& source,
   return 2;
 }
 
-void AddAdoRecordSource(std::string& text, const FormWriter& w, const std::string& source,
-                        const std::optional<std::string>& formName) {
+// Visual Basic reads a designer line of at most 1023 bytes: a longer
+// record source is set by the form's load code, where a line continues.
+constexpr size_t kDesignerLineLimit = 1023;
+
+void AddRecordSourceLine(std::string& text, FormWriter& w, const std::string& dat,
+                         const std::string& line) {
+  if (line.size() <= kDesignerLineLimit)
+    AddLine(text, line);
+  else
+    AddHint(w.Session(), FormLoadLineHint{dat + "." + line});
+}
+
+void AddAdoRecordSource(std::string& text, FormWriter& w, const std::string& source,
+                        const std::optional<std::string>& formName, const std::string& dat) {
   const bool subform = ForSubform(w, formName);
   if (IsSelectStatement(source)) {
-    AddLine(text, "RecordSource = \"" + source + "\"");
+    AddRecordSourceLine(text, w, dat, "RecordSource = \"" + source + "\"");
   } else if (source.find(' ') != std::string::npos) {
     AddLine(text, subform ? "RecordSource = \"Select * From [" + source + "]\""
                           : "RecordSource = \"[" + source + "]\"");
@@ -176,7 +188,7 @@ std::string WriteDataControl(FormWriter& w, const std::string& name, long left, 
   AddLine(text, "Options = 0");
   AddLine(text, "ReadOnly = " + std::to_string(type - 1));
   AddLine(text, "RecordsetType = " + std::to_string(type));
-  if (!source.empty()) AddLine(text, "RecordSource = \"" + source + "\"");
+  if (!source.empty()) AddRecordSourceLine(text, w, dat, "RecordSource = \"" + source + "\"");
   AddLine(text, "Top = " + std::to_string(top));
   if (formName) {
     AddHint(s, DataControlEntryHint{dat, ""});
@@ -244,7 +256,7 @@ std::string WriteAdoDataControl(FormWriter& w, const std::string& name, long lef
   AddLine(text, "UserName = \"\"");
   AddLine(text, "Password = \"\"");
   AddLine(text, visible ? "Visible = -1" : "Visible = 0");
-  AddAdoRecordSource(text, w, source, formName);
+  AddAdoRecordSource(text, w, source, formName, dat);
   AddLine(text, "Caption = \"" + dat + "\"");
   AddFixedFontLines(text, kStdFontHead, "MS Sans Serif", "8.25");
   AddLine(text, "_Version = 393216");

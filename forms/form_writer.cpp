@@ -359,6 +359,8 @@ std::string FormWriter::UniqueControlName(const std::string& safeName) {
     }
     // Visual Basic tells names apart without regard to case.
     if (EqualsNoCase(t_.UsedControlNames[i], name)) {
+      // A letter more must leave a name of at most 40 characters.
+      if (name.size() >= 40) name.resize(39);
       name += static_cast<char>(65 + counter);
       ++counter;
       i = static_cast<size_t>(-1);

@@ -192,7 +192,9 @@ TEST_F(FormWriterTest, ControlNamesAreUniqueInTheForm) {
   const ControlDesign& longOne = g->Controls()[2];
   w.MakeControlName(longOne);
   w.MakeControlName(longOne);
-  EXPECT_EQ(s_.Form().CurrentControlName, std::string(40, 'n') + "A");
+  // The letter takes the place of the 40th character: a name stays within
+  // the 40 characters Visual Basic reads.
+  EXPECT_EQ(s_.Form().CurrentControlName, std::string(39, 'n') + "A");
   // Past 27 collisions the name is cut to 38 characters and gets an "A".
   for (int i = 0; i < 30; ++i) w.MakeControlName(text1);
   EXPECT_EQ(w.Text().UsedControlNames.size(), 36u);
