@@ -4,6 +4,7 @@
 // binding and empty picture records of a form's .frx file.
 #include "forms/data_controls.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -83,19 +84,37 @@ int AdoCommandType(const FormWriter& w, const std::string& source,
 // record source is set by the form's load code, where a line continues.
 constexpr size_t kDesignerLineLimit = 1023;
 
+// The source as a string expression of pieces joined over continued lines,
+// each piece cut where no doubled quote is parted.
+std::string ContinuedString(const std::string& source) {
+  constexpr size_t kPiece = 800;
+  std::string out;
+  size_t at = 0;
+  while (at < source.size()) {
+    size_t end = std::min(at + kPiece, source.size());
+    while (end < source.size() && end > at + 1 && (source[end - 1] == '"' || source[end] == '"'))
+      --end;
+    if (!out.empty()) out += " & _\r\n";
+    out += "\"" + source.substr(at, end - at) + "\"";
+    at = end;
+  }
+  return out.empty() ? "\"\"" : out;
+}
+
 void AddRecordSourceLine(std::string& text, FormWriter& w, const std::string& dat,
-                         const std::string& line) {
+                         const std::string& source) {
+  const std::string line = "RecordSource = \"" + source + "\"";
   if (line.size() <= kDesignerLineLimit)
     AddLine(text, line);
   else
-    AddHint(w.Session(), FormLoadLineHint{dat + "." + line});
+    AddHint(w.Session(), FormLoadLineHint{dat + ".RecordSource = " + ContinuedString(source)});
 }
 
 void AddAdoRecordSource(std::string& text, FormWriter& w, const std::string& source,
                         const std::optional<std::string>& formName, const std::string& dat) {
   const bool subform = ForSubform(w, formName);
   if (IsSelectStatement(source)) {
-    AddRecordSourceLine(text, w, dat, "RecordSource = \"" + source + "\"");
+    AddRecordSourceLine(text, w, dat, source);
   } else if (source.find(' ') != std::string::npos) {
     AddLine(text, subform ? "RecordSource = \"Select * From [" + source + "]\""
                           : "RecordSource = \"[" + source + "]\"");
@@ -188,7 +207,7 @@ std::string WriteDataControl(FormWriter& w, const std::string& name, long left, 
   AddLine(text, "Options = 0");
   AddLine(text, "ReadOnly = " + std::to_string(type - 1));
   AddLine(text, "RecordsetType = " + std::to_string(type));
-  if (!source.empty()) AddRecordSourceLine(text, w, dat, "RecordSource = \"" + source + "\"");
+  if (!source.empty()) AddRecordSourceLine(text, w, dat, source);
   AddLine(text, "Top = " + std::to_string(top));
   if (formName) {
     AddHint(s, DataControlEntryHint{dat, ""});
