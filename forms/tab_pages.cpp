@@ -109,6 +109,9 @@ void WriteTabControl(FormWriter& w, const ControlDesign& tab) {
   for (size_t i = 0; i < pages.size(); ++i) {
     AddLine(head, "TabCaption(" + std::to_string(i) + ") = \"" + PageCaption(*pages[i]) + "\"");
     AddTabPicture(head, w, i);
+    // A page Access hides is a tab the control hides.
+    if (!pages[i]->Flag("Visible").value_or(true))
+      AddLine(head, "TabVisible(" + std::to_string(i) + ") = 0");
   }
 
   // The pages' controls, each page's names listed as they are written. The

@@ -98,6 +98,7 @@ Begin VB.Form frmTabs
       TabPicture(1)  = "frmTabs.frx":001C
       TabCaption(2) = "Customer"
       TabPicture(2)  = "frmTabs.frx":0038
+      TabVisible(2) = 0
       Tab(0).ControlEnabled =-1
       Tab(0).Control(0)="OrderDate"
       Tab(0).Control(1)="OrderDate_Label"
