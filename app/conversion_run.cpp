@@ -3,8 +3,9 @@
 
 #include <cstdlib>
 
+#include "app/form_actions.h"
+#include "cforms/continuous_forms.h"
 #include "design/design_store.h"
-#include "events/event_writer.h"
 #include "forms/form_converter.h"
 #include "macros/macro_converter.h"
 #include "platform/encoding.h"
@@ -51,7 +52,8 @@ bool ConversionRun::Open(const SourceChoice& source, std::string* err) {
   store_ = std::make_unique<DesignStore>(*link_.Tree());
   code_ = std::make_unique<TranslatorCodeConverter>();
   macros_ = std::make_unique<MacroConverterImpl>(store_.get());
-  hints_ = std::make_unique<EventHintActions>(*store_);
+  continuous_ = std::make_unique<ContinuousForms>(*store_);
+  hints_ = std::make_unique<FormHintActions>(*store_, *continuous_);
   forms_ = std::make_unique<DesignFormConverter>(*store_, *hints_);
   reports_ = std::make_unique<DesignReportConverter>(*store_);
   converters_.Code = code_.get();

@@ -22,7 +22,8 @@ class DesignStore;
 class UserInterface;
 class TranslatorCodeConverter;
 class MacroConverterImpl;
-class EventHintActions;
+class FormHintActions;
+class ContinuousForms;
 class DesignFormConverter;
 class DesignReportConverter;
 
@@ -74,7 +75,8 @@ class ConversionRun {
   std::unique_ptr<DesignStore> store_;
   std::unique_ptr<TranslatorCodeConverter> code_;
   std::unique_ptr<MacroConverterImpl> macros_;
-  std::unique_ptr<EventHintActions> hints_;
+  std::unique_ptr<ContinuousForms> continuous_;
+  std::unique_ptr<FormHintActions> hints_;
   std::unique_ptr<DesignFormConverter> forms_;
   std::unique_ptr<DesignReportConverter> reports_;
   Converters converters_;

@@ -155,6 +155,15 @@ class FormEventWriter {
   void InsertAtEnd(const std::string& header, const std::vector<std::string>& lines) const {
     for (const auto& line : lines) code_.InsertLine(header, line, kEndOfProcedure);
   }
+  // A new procedure; a subform whose procedure another form on the same
+  // form wrote already joins its lines to that one, since a module takes a
+  // procedure name once.
+  void AppendOrJoin(const std::string& header, const std::vector<std::string>& lines) const {
+    if (isSubform_ && code_.IsDuplicateLine(header) > 0)
+      InsertAtEnd(header, lines);
+    else
+      code_.AppendProc(header, lines);
+  }
   // The macro's call or the expression's: an event value that is neither
   // empty nor "[Event Procedure]".
   std::string CallLine(const std::string& value) const {
@@ -214,13 +223,13 @@ class FormEventWriter {
         std::vector<std::string> body = OpenLines(open, false);
         if (!open.empty()) body.emplace_back();
         body.push_back(code_.EventLine(load, ""));
-        code_.AppendProc(header, body);
+        AppendOrJoin(header, body);
       }
     } else if (loadKind == EventValue::Empty && !open.empty()) {
       if (merging)
         InsertAtEnd(header, OpenLines(open, true));
       else
-        code_.AppendProc(header, OpenLines(open, false));
+        AppendOrJoin(header, OpenLines(open, false));
     } else if (loadKind == EventValue::EventProcedure && !open.empty()) {
       if (merging) {
         forwardLoad();
@@ -271,7 +280,7 @@ class FormEventWriter {
       } else {
         std::vector<std::string> body{code_.EventLine(unload, "")};
         if (!close.empty()) body.push_back(closeLine());
-        code_.AppendProc(header, body);
+        AppendOrJoin(header, body);
       }
     } else if (unloadKind == EventValue::EventProcedure && !close.empty()) {
       if (merging) {
@@ -284,7 +293,7 @@ class FormEventWriter {
       if (merging)
         InsertAtEnd(header, MergedCloseLines(close, true));
       else
-        code_.AppendProc(header, {closeLine()});
+        AppendOrJoin(header, {closeLine()});
     } else if (merging && unloadKind == EventValue::EventProcedure) {
       forwardUnload();
     }
@@ -293,14 +302,14 @@ class FormEventWriter {
   void Resize() const {
     const std::string value = Value("OnResize");
     if (IsMacroOrExpression(value))
-      code_.AppendProc("Private Sub Form_Resize()", {code_.EventLine(value, "")});
+      AppendOrJoin("Private Sub Form_Resize()", {code_.EventLine(value, "")});
   }
 
   // The form writer names the form's timer control Timer1.
   void Timer() const {
     const std::string value = Value("OnTimer");
     if (!value.empty())
-      code_.AppendProc("Private Sub Timer1_Timer()", {code_.EventLine(value, "Call Form_Timer")});
+      AppendOrJoin("Private Sub Timer1_Timer()", {code_.EventLine(value, "Call Form_Timer")});
   }
 
   // The data control's Error event; the form's Form_Error answers the

@@ -259,13 +259,10 @@ class Translator {
                            ? scope_.DataControl + ".Recordset.AbsolutePosition"
                            : "(" + scope_.DataControl + ".Recordset.AbsolutePosition + 1)");
     }
-    if (n.size() == 1) {
-      // A control of the form, else a field of its records.
-      if (scope_.Form && scope_.Form->Control(n[0])) return Emit(out, "Me!" + Bang(n[0]));
-      if (scope_.DataControl.empty()) return false;
-      *approximate_ = true;
-      return Emit(out, scope_.DataControl + ".Recordset.Fields(\"" + n[0] + "\").Value");
-    }
+    if (n.size() == 1) return ControlOrField(out, scope_.Form, scope_.DataControl, n[0]);
+    // The form that holds a subform, which stands on the same Visual Basic form.
+    if (n.size() == 2 && EqualsNoCase(n[0], "Parent") && scope_.Parent)
+      return ControlOrField(out, scope_.Parent, scope_.ParentDataControl, n[1]);
     // Forms!Form!Control: a form of the run by its Visual Basic name.
     if (n.size() == 3 && EqualsNoCase(n[0], "Forms") && scope_.Session) {
       const ComponentName* form = scope_.Session->Names.Find(ComponentRole::Form, n[1]);
@@ -273,6 +270,23 @@ class Translator {
       return Emit(out, form->VbName + "!" + Bang(n[2]));
     }
     return false;
+  }
+
+  // A control of `form`, else a field of its records. A subform's control
+  // may have been renamed where it joined its parent's form, so there a
+  // bound control is read through its field.
+  bool ControlOrField(std::string& out, const FormDesign* form, const std::string& dataControl,
+                      const std::string& name) {
+    std::string field = name;
+    if (const ControlDesign* c = form ? form->Control(name) : nullptr) {
+      const std::string source = c->Text("ControlSource").value_or("");
+      const bool bound = !source.empty() && source[0] != '=';
+      if (!bound || dataControl.empty() || !scope_.Parent) return Emit(out, "Me!" + Bang(name));
+      field = source;
+    }
+    if (dataControl.empty()) return false;
+    *approximate_ = true;
+    return Emit(out, dataControl + ".Recordset.Fields(\"" + field + "\").Value");
   }
 
   static std::string Bang(const std::string& name) {

@@ -19,6 +19,10 @@ struct ExpressionScope {
   const ConversionSession* Session = nullptr;
   const FormDesign* Form = nullptr;  // whose controls a bare name may mean
   std::string DataControl;           // the form's data control; empty when it has none
+  // A subform standing on its parent's form: the parent (what "Parent!x"
+  // means) and its data control.
+  const FormDesign* Parent = nullptr;
+  std::string ParentDataControl;
   bool UseAdo = true;
 };
 

@@ -35,6 +35,7 @@ void PutText(FormWriter& w, std::string text) {
 void AddControlHint(FormWriter& w, const ControlDesign& c, ControlEventKind kind, int comboKind) {
   ConversionSession& s = w.Session();
   const FormTextSet& t = w.Text();
+  if (t.WithoutCode) return;
   ControlCodeHint hint;
   hint.Kind = kind;
   hint.FormName = t.OwnerFormName;
@@ -68,7 +69,7 @@ const FormDesign* CurrentFormOf(const FormWriter& w) { return w.Text().CurrentFo
 
 std::string DataControlName(const FormWriter& w) {
   const FormDesign* form = CurrentFormOf(w);
-  return w.Session().Names.DataControl(form ? form->Name() : w.Text().OwnerFormName);
+  return w.DataControlOf(form ? form->Name() : w.Text().OwnerFormName);
 }
 
 bool ParentIsCurrentForm(const FormWriter& w, const ControlDesign& c) {

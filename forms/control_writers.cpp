@@ -58,7 +58,10 @@ bool LabelBelongsToControl(const FormWriter& w, const ControlDesign& c) {
   const ControlDesign* parent = c.ParentControl();
   if (!parent) return false;
   if (parent->ControlType() == kOptionGroup) return true;
-  return parent->ControlType() == kOptionButton && parent->ParentControl() == nullptr;
+  if (parent->ControlType() != kOptionButton) return false;
+  // A button that stands on the form or on a tab page writes its label.
+  const ControlDesign* holder = parent->ParentControl();
+  return holder == nullptr || holder->ControlType() == kPage;
 }
 
 // The picture of a command button is looked up on the top form, or in a

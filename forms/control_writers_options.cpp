@@ -75,7 +75,9 @@ void AddLabelLines(std::string& text, const ControlDesign* label, const std::str
 }
 
 long BreakTop(const FormTextSet& t) {
-  if (t.Place.PageIndex < 0 || static_cast<size_t>(t.Place.PageIndex) >= t.Place.PageBreakTops.size()) return 0;
+  if (t.Place.PageIndex < 0 ||
+      static_cast<size_t>(t.Place.PageIndex) >= t.Place.PageBreakTops.size())
+    return 0;
   return t.Place.PageBreakTops[static_cast<size_t>(t.Place.PageIndex)];
 }
 
@@ -186,16 +188,16 @@ class GroupMembers {
     AddLine(text_, "_Version =131072");
     auto left = k.Number("Left"), groupLeft = group_.Number("Left");
     if (left && groupLeft)
-      AddLine(text_,
-              "Left = " + std::to_string(*left - *groupLeft + t_.Place.SubformLeft + t_.Place.PageLeft + 50));
+      AddLine(text_, "Left = " + std::to_string(*left - *groupLeft + t_.Place.SubformLeft +
+                                                t_.Place.PageLeft + 50));
     AddLine(text_, "Index = " + std::to_string(n_));
     AddLine(text_, "TabIndex = 94");
     const long o =
         (group_.Section() == 0 || t_.InSubform || t_.InTabControl) ? t_.Place.SectionOffset : 0;
     auto top = k.Number("Top"), groupTop = group_.Number("Top");
     if (top && groupTop)
-      AddLine(text_,
-              "Top = " + std::to_string(*top - *groupTop + o + 150 + t_.Place.SubformTop - t_.Place.TabShift));
+      AddLine(text_, "Top = " + std::to_string(*top - *groupTop + o + 150 + t_.Place.SubformTop -
+                                               t_.Place.TabShift));
     AddVisibleLine(text_, k);
   }
 

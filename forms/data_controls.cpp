@@ -4,6 +4,7 @@
 // binding and empty picture records of a form's .frx file.
 #include "forms/data_controls.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -79,16 +80,45 @@ int AdoCommandType(const FormWriter& w, const std::string& source,
   return 2;
 }
 
+// Visual Basic reads a designer line of at most 1023 bytes: a longer
+// record source is set by the form's load code, where a line continues.
+constexpr size_t kDesignerLineLimit = 1023;
+
+// The source as a string expression of pieces joined over continued lines,
+// each piece cut where no doubled quote is parted.
+std::string ContinuedString(const std::string& source) {
+  constexpr size_t kPiece = 800;
+  std::string out;
+  size_t at = 0;
+  while (at < source.size()) {
+    size_t end = std::min(at + kPiece, source.size());
+    while (end < source.size() && end > at + 1 && (source[end - 1] == '"' || source[end] == '"'))
+      --end;
+    if (!out.empty()) out += " & _\r\n";
+    out += "\"" + source.substr(at, end - at) + "\"";
+    at = end;
+  }
+  return out.empty() ? "\"\"" : out;
+}
+
+void AddRecordSourceLine(std::string& text, FormWriter& w, const std::string& dat,
+                         const std::string& source) {
+  const std::string line = "RecordSource = \"" + source + "\"";
+  if (line.size() <= kDesignerLineLimit)
+    AddLine(text, line);
+  else
+    AddHint(w.Session(), FormLoadLineHint{dat + ".RecordSource = " + ContinuedString(source)});
+}
+
 // A statement goes as it is; a table or query is named for a command of
 // table type, and read through a statement where the command is text (a
 // filtered or sorted form, a subform), since a bare name is no command text.
-void AddAdoRecordSource(std::string& text, const FormWriter& w, const std::string& source,
-                        const std::optional<std::string>& formName) {
+void AddAdoRecordSource(std::string& text, FormWriter& w, const std::string& source,
+                        const std::optional<std::string>& formName, const std::string& dat) {
   if (source.empty()) return;
+  if (IsSelectStatement(source)) return AddRecordSourceLine(text, w, dat, source);
   const std::string name = source.find(' ') != std::string::npos ? "[" + source + "]" : source;
-  if (IsSelectStatement(source))
-    AddLine(text, "RecordSource = \"" + source + "\"");
-  else if (AdoCommandType(w, source, formName) == 1)
+  if (AdoCommandType(w, source, formName) == 1)
     AddLine(text, "RecordSource = \"Select * From " + name + "\"");
   else
     AddLine(text, "RecordSource = \"" + name + "\"");
@@ -112,7 +142,9 @@ void WriteFormDataControl(FormWriter& w) {
   const std::string recordSource = form->Text("RecordSource").value_or("");
   if (recordSource.empty()) return;
   const std::string formName = form->Name();
-  const std::string name = s.Names.Name(ComponentRole::Form, formName).VbName;
+  // "dat" and the form's name, or the name of this showing of a form shown
+  // twice.
+  const std::string name = w.DataControlOf(formName).substr(3);
   const int type = form->Number("RecordsetType") == 2 ? 2 : 1;
   const std::string source = EscapeQuotes(JoinLines(recordSource));
   // On a page-broken form the client area is the first page's height.
@@ -129,19 +161,29 @@ void WriteFormDataControl(FormWriter& w) {
           : WriteDataControl(w, name, t.Place.SubformLeft, type, source, top, visible, formName);
   // The control's text ends with its line end; the next control brings its own.
   if (text.ends_with("\r\n")) text.resize(text.size() - 2);
-  t.BodyText += "\r\n" + text;
-  if (!t.InSubform) return;
+  // Inside a subform's frame the data control stands in the frame too.
+  if (t.Place.Bucket >= 0)
+    w.PutInBucket(t.Place.Bucket, text);
+  else
+    t.BodyText += "\r\n" + text;
+  if (!t.InSubform || !t.CurrentControl) return;
 
-  // The parent's data control moves and refreshes the subform's, and its
-  // current row restricts what the subform shows.
-  const std::string parent = s.Names.DataControl(t.OwnerFormName);
+  // The data control of the form that holds the subform control moves and
+  // refreshes the subform's, and its current row restricts what the subform
+  // shows. A parent without a record source has no data control.
+  const ControlDesign& control = *t.CurrentControl;
+  const FormDesign& holder = control.Owner();
+  if (holder.Text("RecordSource").value_or("").empty()) return;
+  const std::string parent = w.DataControlOf(holder.Name());
   const std::string d = DataControlName(name);
   AddHint(s, DataControlEntryHint{parent, d + ".Recordset.MoveFirst"});
   AddHint(s, DataControlEntryHint{parent, d + ".Recordset.Movelast"});
   AddHint(s, DataControlEntryHint{parent, d + ".refresh"});
-  std::string link;
-  if (t.CurrentControl) link = SubformLinkSql(w, recordSource, *t.CurrentControl);
-  AddHint(s, DataControlEntryHint{parent, d + ".RecordSource=\"" + link});
+  if (control.Text("LinkMasterFields").value_or("").empty() &&
+      control.Text("LinkChildFields").value_or("").empty())
+    return;
+  AddHint(s, DataControlEntryHint{
+                 parent, d + ".RecordSource=\"" + SubformLinkSql(w, recordSource, control)});
 }
 
 std::string WriteDataControl(FormWriter& w, const std::string& name, long left, int type,
@@ -162,7 +204,7 @@ std::string WriteDataControl(FormWriter& w, const std::string& name, long left, 
   AddLine(text, "Options = 0");
   AddLine(text, "ReadOnly = " + std::to_string(type - 1));
   AddLine(text, "RecordsetType = " + std::to_string(type));
-  if (!source.empty()) AddLine(text, "RecordSource = \"" + source + "\"");
+  if (!source.empty()) AddRecordSourceLine(text, w, dat, source);
   AddLine(text, "Top = " + std::to_string(top));
   if (formName) {
     AddHint(s, DataControlEntryHint{dat, ""});
@@ -230,7 +272,7 @@ std::string WriteAdoDataControl(FormWriter& w, const std::string& name, long lef
   AddLine(text, "UserName = \"\"");
   AddLine(text, "Password = \"\"");
   AddLine(text, visible ? "Visible = -1" : "Visible = 0");
-  AddAdoRecordSource(text, w, source, formName);
+  AddAdoRecordSource(text, w, source, formName, dat);
   AddLine(text, "Caption = \"" + dat + "\"");
   AddFixedFontLines(text, kStdFontHead, "MS Sans Serif", "8.25");
   AddLine(text, "_Version = 393216");

@@ -3,8 +3,10 @@
 
 #include "design/design_store.h"
 #include "forms/form_writer.h"
+#include "platform/project_model.h"
 #include "platform/support_db.h"
 #include "session/conversion_session.h"
+#include "session/form_finishing.h"
 #include "session/hint_processor.h"
 
 namespace morvane {
@@ -25,10 +27,10 @@ void DesignFormConverter::ProcessHints(ConversionSession& s, const std::string& 
 }
 
 void DesignFormConverter::AddDatasheetGrids(ConversionSession& s, const std::string& name) {
-  if (!s.SupportDb) return;
-  for (const auto& grid : s.Form().DatasheetForms)
-    if (!grid.empty())
-      s.SupportDb->AddRunNote(name, "the datasheet subform " + grid + " is not converted yet");
+  if (!s.ActiveProject) return;
+  const ComponentName& names = s.Names.Name(ComponentRole::Form, name);
+  if (const ProjectComponent* component = s.ActiveProject->Find(names.VbName))
+    morvane::AddDatasheetGrids(s, *component);
 }
 
 std::string DesignFormConverter::RecordSource(ConversionSession&, const std::string& name) {

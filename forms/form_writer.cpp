@@ -2,6 +2,8 @@
 // names, routing of control text, section frames and the final assembly.
 #include "forms/form_writer.h"
 
+#include <algorithm>
+
 #include "design/control_types.h"
 #include "design/design_store.h"
 #include "design/form_design.h"
@@ -10,6 +12,8 @@
 #include "forms/frm_text.h"
 #include "forms/long_properties.h"
 #include "forms/picture_extraction.h"
+#include "forms/subform_writers.h"
+#include "forms/tab_pages.h"
 #include "platform/support_db.h"
 #include "platform/text_file.h"
 #include "session/conversion_session.h"
@@ -26,12 +30,6 @@ std::string LocationOf(const ControlDesign& c) {
   for (const ControlDesign* p = c.ParentControl(); p; p = p->ParentControl())
     if (p->ControlType() == kPage) return " (on the page " + p->Name() + ")";
   return "";
-}
-
-bool IsTabOrPage(const DesignObject& o) {
-  if (o.Kind() != DesignKind::Control) return false;
-  int type = static_cast<const ControlDesign&>(o).ControlType();
-  return type == kTabControl || type == kPage;
 }
 
 std::optional<long> SectionHeight(const FormDesign& f, int n) {
@@ -79,15 +77,6 @@ void WriteStandAloneOption(FormWriter& w) {
   if (c && c->Parent().Name() == w.Text().CurrentForm->Name()) WriteOptionButton(w);
 }
 
-void WriteSubformLater(FormWriter& w) {
-  const ControlDesign& c = *w.Text().CurrentControl;
-  auto source = c.Text("SourceObject");
-  if (source && !source->empty())
-    NotConvertedYet(w, c, "subform " + c.Name());
-  else
-    NotConvertedYet(w, c, "subform " + c.Name() + " (it shows no form)");
-}
-
 // An unbound object frame has no Visual Basic counterpart; the analysis
 // names it.
 void ReportUnboundObject(FormWriter& w) {
@@ -118,7 +107,7 @@ constexpr ControlWriterRow kControlWriters[] = {
     {kToggleButton, WriteStandAloneOption},
     {kListBox, WriteListBox},
     {kComboBox, WriteComboBox},
-    {kSubform, WriteSubformLater},
+    {kSubform, WriteSubform},
     {kUnboundObjectFrame, ReportUnboundObject},
 };
 
@@ -154,7 +143,8 @@ bool FormWriter::ConvertForm(const std::string& formName, std::string* err) {
   for (int n = 1; n <= 4; ++n)
     if (!t_.SectionText[n].empty()) text += "\r\n" + t_.SectionText[n] + "\r\nEnd";
   if (!t_.PageTabHead.empty()) text += "\r\n" + t_.PageTabHead;
-  if (!t_.PageTabBody.empty()) text += "\r\n" + t_.PageTabBody + "\r\nEnd";
+  if (!t_.PageTabBody.empty()) text += "\r\n" + t_.PageTabBody;
+  if (!t_.PageTabHead.empty()) text += "\r\nEnd";
   text += "\r\nEnd\r\n";
   state.Text = TextDocument::FromBytes(text);
   MoveLongProperties(s_, formName, state.Text.Lines());
@@ -207,25 +197,30 @@ void FormWriter::WriteForm(const std::string& formName, bool isSubform, int pass
   totalValid_ = !overflow;
 
   t_.Place.PageBreakTops.assign(1, 0);
+  bool formHasBreaks = false;
   if (pass == 1) {
     for (const ControlDesign& c : form->Controls())
       if (c.ControlType() == kPageBreak && c.Section() == 0) {
-        // The page-break tab control is not built yet: the form is written
-        // as one page and the analysis says so.
-        NotConvertedYet(*this, c, "page break " + c.Name());
+        formHasBreaks = true;
+        t_.Accounted.insert(&c);
+        t_.Place.PageBreakTops.push_back(c.Number("Top").value_or(0));
       }
+    std::sort(t_.Place.PageBreakTops.begin() + 1, t_.Place.PageBreakTops.end());
   }
-  if (!isSubform) WriteFormHeader(*form);
-  AddHint(s_, FormCodeHint{formName, t_.ParentControlName});
+  if (!isSubform) {
+    WriteFormHeader(*form);
+    NoteRecordListView(*this, *form);
+  }
+  if (!t_.WithoutCode) AddHint(s_, FormCodeHint{formName, t_.ParentControlName});
   if (auto source = form->Text("RecordSource"); source && !source->empty())
     WriteFormDataControl(*this);
-  if (!isSubform) {
-    for (const ControlDesign& c : form->Controls())
-      if (c.ControlType() == kTabControl) NotConvertedYet(*this, c, "tab control " + c.Name());
-  }
+  if (formHasBreaks) OpenPageBreakTab(*this);
+  WalkTabControls(*this);
   WalkControls();
+  if (formHasBreaks) ClosePageBreakTab(*this);
   for (const ControlDesign& c : form->Controls()) {
-    if (c.ControlType() != kRectangle) continue;
+    if (c.ControlType() != kRectangle || OnTabPage(c)) continue;
+    if (headerOnly && c.Section() != 1 && c.Section() != 2) continue;
     t_.CurrentControl = &c;
     SetSectionOffset(c, false);
     WriteShape(*this);
@@ -248,12 +243,14 @@ void FormWriter::WriteForm(const std::string& formName, bool isSubform, int pass
 }
 
 void FormWriter::AccountForControls(const FormDesign& form) {
+  const std::string where =
+      form.Name() == t_.OwnerFormName ? "" : " (in the subform " + form.Name() + ")";
   for (const ControlDesign& c : form.Controls()) {
     if (t_.Accounted.count(&c) || WrittenWithHolder(t_.Accounted, c)) continue;
     ++s_.Form().ControlsNotConverted;
     if (s_.SupportDb)
-      s_.SupportDb->AddRunNote(t_.OwnerFormName,
-                               c.TypeName() + " " + c.Name() + LocationOf(c) + " is not converted");
+      s_.SupportDb->AddRunNote(t_.OwnerFormName, c.TypeName() + " " + c.Name() + LocationOf(c) +
+                                                     where + " is not converted");
   }
 }
 
@@ -273,8 +270,15 @@ void FormWriter::WriteFormHeader(const FormDesign& form) {
     line("Caption =\"", Escaped(caption && !caption->empty() ? caption : std::optional(name)),
          "\"");
   }
+  // A page-broken form shows its first page: the detail is a tab control
+  // of that page's height.
   std::optional<std::string> height;
-  if (totalValid_) height = std::to_string(t_.Place.Total);
+  long client = t_.Place.Total;
+  if (t_.Place.PageBreakTops.size() > 1) {
+    const long detail = SectionHeight(form, 0).value_or(0);
+    client = t_.Place.Total - detail + t_.Place.PageBreakTops[1] + 520;
+  }
+  if (totalValid_) height = std::to_string(client);
   line("ClientHeight = ", height);
   b += "\r\nClientLeft = 250 \r\nClientTop = 500 ";
   line("ClientWidth = ", ValueText(form, "Width"));
@@ -332,9 +336,20 @@ void FormWriter::WriteComponentLines(bool finish) {
 }
 
 void FormWriter::MakeControlName(const ControlDesign& c) {
+  s_.Form().CurrentControlName = UniqueControlName(c.Name());
+}
+
+std::string FormWriter::DataControlOf(const std::string& formName) const {
+  for (auto it = t_.DataControls.rbegin(); it != t_.DataControls.rend(); ++it)
+    if (EqualsNoCase(it->first, formName)) return it->second;
+  return s_.Names.DataControl(formName);
+}
+
+std::string FormWriter::UniqueControlName(const std::string& wanted) {
   // A Visual Basic name: a character that cannot stand in one becomes "_",
   // and a name that does not start with a letter gets an "A".
-  const std::string base = VbIdentifier(c.Name(), "A", 40);
+  const std::string base = VbIdentifier(wanted, "A", 40);
+  // Visual Basic tells names apart without regard to case.
   auto taken = [this](const std::string& candidate) {
     for (const auto& used : t_.UsedControlNames)
       if (EqualsNoCase(used, candidate)) return true;
@@ -350,28 +365,69 @@ void FormWriter::MakeControlName(const ControlDesign& c) {
     name = base.substr(0, std::min(base.size(), 40 - suffix.size())) + suffix;
   }
   t_.UsedControlNames.push_back(name);
-  s_.Form().CurrentControlName = name;
+  return name;
 }
 
 void FormWriter::PutControlText(const std::string& text) {
+  const int bucket = ControlBucket();
+  if (bucket > 4 + 20) {
+    if (s_.Ui) s_.Ui->ShowMessage("unhandled select file!", MessageIcon::Stop);
+    return;
+  }
+  if (t_.Place.TabPage >= 0) ListOnTabPage(text);
+  PutInBucket(bucket, text);
+  if (bucket != 0 && !t_.InTabControl) {
+    t_.Place.PageIndex = 0;
+    t_.Place.PageLeft = 0;
+  }
+}
+
+int FormWriter::ControlBucket() const {
   const ControlDesign* c = t_.CurrentControl;
   const int section = c ? c->Section() : 0;
-  if (t_.InTabControl) {
+  if (t_.Place.Bucket >= 0) return t_.Place.Bucket;
+  if (t_.InTabControl) return 1;
+  if (t_.HasPageBreaks && section == 0) return 0;
+  if (!t_.InSubform && section > 0) return 20 + section;
+  return 1;
+}
+
+std::string& FormWriter::BucketText(int bucket) {
+  if (bucket == 0) return t_.PageTabBody;
+  if (bucket >= 21 && bucket <= 24) return t_.SectionText[bucket - 20];
+  return t_.BodyText;
+}
+
+void FormWriter::PutInBucket(int bucket, const std::string& text) {
+  if (bucket == 1)
     t_.BodyText += "\r\n" + text;
-  } else if (t_.HasPageBreaks && section == 0) {
-    t_.PageTabBody += text + "\r\n";
-  } else if (!t_.InSubform && section > 0) {
-    t_.Place.PageIndex = 0;
-    t_.Place.PageLeft = 0;
-    if (section > 4) {
-      if (s_.Ui) s_.Ui->ShowMessage("unhandled select file!", MessageIcon::Stop);
-      return;
+  else
+    BucketText(bucket) += text + "\r\n";
+}
+
+void FormWriter::ListOnTabPage(const std::string& text) {
+  // Each control that stands directly on the page: the Begin lines at the
+  // outer level of the text.
+  const size_t page = static_cast<size_t>(t_.Place.TabPage);
+  if (t_.TabPageNames.size() <= page) t_.TabPageNames.resize(page + 1);
+  int depth = 0;
+  size_t start = 0;
+  while (start <= text.size()) {
+    size_t end = text.find("\r\n", start);
+    if (end == std::string::npos) end = text.size();
+    std::string_view line(text.data() + start, end - start);
+    while (!line.empty() && line.front() == ' ') line.remove_prefix(1);
+    if (line.starts_with("Begin ")) {
+      if (depth == 0) {
+        const size_t blank = line.find(' ', 6);
+        if (blank != std::string_view::npos)
+          t_.TabPageNames[page].emplace_back(line.substr(blank + 1));
+      }
+      ++depth;
+    } else if (line == "End") {
+      --depth;
     }
-    t_.SectionText[section] += text + "\r\n";
-  } else {
-    t_.BodyText += "\r\n" + text;
-    t_.Place.PageIndex = 0;
-    t_.Place.PageLeft = 0;
+    start = end + 2;
   }
 }
 
@@ -425,13 +481,18 @@ void FormWriter::LocatePage() {
     t_.Place.PageLeft = page == 0 ? 0 : -75000;
     return;
   }
-  if (!t_.InTabControl) t_.Place.PageLeft = 0;
+  // A control off the page-broken detail stands on no page; inside a tab
+  // control the tab's page stays.
+  if (!t_.InTabControl) {
+    t_.Place.PageLeft = 0;
+    t_.Place.PageIndex = 0;
+  }
 }
 
 std::optional<long> FormWriter::ControlLeft(const ControlDesign& c) const {
   auto left = c.Number("Left");
   if (!left) return std::nullopt;
-  return *left + t_.Place.PageLeft + t_.Place.SubformLeft;
+  return *left + t_.Place.PageLeft + t_.Place.SubformLeft - t_.Place.TabLeft;
 }
 
 std::optional<long> FormWriter::ControlTop(const ControlDesign& c) const {
@@ -485,14 +546,7 @@ void FormWriter::WalkControls() {
   for (const ControlDesign& c : form.Controls()) {
     t_.CurrentControl = &c;
     // Controls on tab pages belong to the tab walk.
-    const DesignObject& parent = c.Parent();
-    if (parent.Name() != formName) {
-      if (IsTabOrPage(parent)) continue;
-      if (const ControlDesign* pc = c.ParentControl()) {
-        const DesignObject& grand = pc->Parent();
-        if (grand.Name() != formName && IsTabOrPage(grand)) continue;
-      }
-    }
+    if (OnTabPage(c)) continue;
     // A pass over the header of a form shown in a subform keeps its header
     // and places its footer at the foot of the subform control.
     const int section = c.Section();

@@ -27,6 +27,9 @@ struct Placement {
   long SubformTop = 0;
   long SubformLeft = 0;
   long TabShift = 0;
+  // The left of the tab control being walked: the controls of its pages
+  // stand in its client area.
+  long TabLeft = 0;
   int PageIndex = 0;
   long PageLeft = 0;
   std::vector<long> PageBreakTops{0};
@@ -36,6 +39,12 @@ struct Placement {
   long PageFooterTop = 0;
   long FormFooterTop = 0;
   long Total = 0;
+  // Inside a container (a subform's frame, a tab control) every control's
+  // text goes to the container's bucket; -1 routes by section.
+  int Bucket = -1;
+  // The page of the tab control whose controls are being written, -1 when
+  // none: the names of its controls are listed on that page.
+  int TabPage = -1;
 };
 
 // The state of one form under construction; one record for the whole walk,
@@ -71,6 +80,19 @@ struct FormTextSet {
   std::vector<std::string> ComponentGuids;
   std::array<int, 4> AlignmentMap{3, 0, 2, 1};
   std::string PictureReference;
+  // The names written on each page of the tab control being walked.
+  std::vector<std::vector<std::string>> TabPageNames;
+  // The forms a walk is inside of, the top form first: a subform that shows
+  // one of them again would never end.
+  std::vector<std::string> FormChain;
+  // The data control of each form a walk is inside of, innermost last; a
+  // form shown a second time has a data control of its own.
+  std::vector<std::pair<std::string, std::string>> DataControls;
+  // The forms (lower case) whose data control the form holds already.
+  std::set<std::string> WalkedForms;
+  // The walk writes controls whose module stays behind (a form shown a
+  // second time, a repeated form's header): no event code is asked for.
+  bool WithoutCode = false;
 };
 
 // Keeps the placement of a walk for as long as it lives and puts it back when
@@ -112,9 +134,22 @@ class FormWriter {
 
   // Sets the session's CurrentControlName to a name unique in the form.
   void MakeControlName(const ControlDesign& c);
+  // The name of the data control of `formName` in the walk: its own, or the
+  // one of this showing of a form shown twice.
+  std::string DataControlOf(const std::string& formName) const;
+  // A name unique in the form for a control the writers make themselves (a
+  // grid's data control); registered like a control's.
+  std::string UniqueControlName(const std::string& name);
   // Routes a control's finished text to the body, a section frame or the
   // page-break tab control.
   void PutControlText(const std::string& text);
+  // The bucket PutControlText would choose for the current control, and the
+  // text of a bucket (0 the page-break tab, 1 the body, 21..24 the section
+  // frames).
+  int ControlBucket() const;
+  std::string& BucketText(int bucket);
+  // Appends a control's text to a bucket, in that bucket's way.
+  void PutInBucket(int bucket, const std::string& text);
   // Opens the frame of section n (1..4) of the top form.
   void CreateSection(const FormDesign& form, int n);
   // Page of a page-broken form that holds the current control.
@@ -128,10 +163,16 @@ class FormWriter {
 
  private:
   void WriteFormHeader(const FormDesign& form);
-  void AccountForControls(const FormDesign& form);
   void WalkControls();
+  void ListOnTabPage(const std::string& text);
+
+ public:
+  // Names in the analysis each control of `form` that no writer took.
+  void AccountForControls(const FormDesign& form);
+  // Sends a control to the writer of its type.
   void WriteControl(const ControlDesign& c);
 
+ private:
   ConversionSession& s_;
   DesignStore& store_;
   FormTextSet t_;

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cstdio>
 
+#include "design/design_store.h"
 #include "design/form_design.h"
 #include "forms/access_expression.h"
 #include "forms/control_writer_frame.h"
@@ -144,7 +145,7 @@ void AddBindingLines(std::string& text, FormWriter& w, const ControlDesign& c) {
   if (!source || source->empty() || (*source)[0] == '=') return;
   const FormDesign* form = w.Text().CurrentForm;
   const std::string formName = form ? form->Name() : w.Text().OwnerFormName;
-  AddLine(text, "DataSource =\"" + w.Session().Names.DataControl(formName) + "\"");
+  AddLine(text, "DataSource =\"" + w.DataControlOf(formName) + "\"");
   AddLine(text, "DataField =\"" + EscapeQuotes(*source) + "\"");
 }
 
@@ -163,9 +164,17 @@ std::string ExpressionStatement(FormWriter& w, const std::string& target,
   ExpressionScope scope;
   scope.Session = &s;
   scope.Form = w.Text().CurrentForm;
-  if (const FormDesign* form = w.Text().CurrentForm)
-    if (auto source = form->Text("RecordSource"); source && !source->empty())
-      scope.DataControl = DataControlName(w);
+  auto dataControlOf = [&w](const FormDesign& form) {
+    auto source = form.Text("RecordSource");
+    return source && !source->empty() ? w.DataControlOf(form.Name()) : std::string();
+  };
+  if (const FormDesign* form = w.Text().CurrentForm) {
+    scope.DataControl = dataControlOf(*form);
+    const std::string& parent = w.Text().ParentFormName;
+    if (!parent.empty() && !EqualsNoCase(form->Name(), w.Text().OwnerFormName))
+      scope.Parent = w.Store().OpenForm(parent, nullptr);
+    if (scope.Parent) scope.ParentDataControl = dataControlOf(*scope.Parent);
+  }
   scope.UseAdo = s.Options.UseAdo;
   bool approximate = false;
   const auto vb = VbExpression(expression, scope, &approximate);

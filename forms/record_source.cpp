@@ -65,7 +65,10 @@ std::string SubformLinkSql(FormWriter& w, const std::string& source,
                            const ControlDesign& subformControl) {
   ConversionSession& s = w.Session();
   Catalog* db = s.SourceDb;
-  const std::string parentData = s.Names.DataControl(w.Text().OwnerFormName);
+  // The parent is the form that holds the subform control: the top form,
+  // or for a nested subform the subform around it.
+  const FormDesign& holder = subformControl.Owner();
+  const std::string parentData = w.DataControlOf(holder.Name());
   const std::string joinName = "qry" + parentData;
 
   // Child side: a SELECT statement is saved as a query the join can name.
@@ -76,9 +79,7 @@ std::string SubformLinkSql(FormWriter& w, const std::string& source,
   }
 
   // Parent side: the record source of the top form, likewise.
-  std::string parentSource;
-  if (const FormDesign* owner = w.Store().OpenForm(w.Text().OwnerFormName, nullptr))
-    parentSource = owner->Text("RecordSource").value_or("");
+  const std::string parentSource = holder.Text("RecordSource").value_or("");
   std::string master = parentSource;
   if (IsSelectStatement(parentSource)) {
     master = joinName + "2";
@@ -110,8 +111,8 @@ std::string SubformLinkSql(FormWriter& w, const std::string& source,
     const std::string field = at(masterNames, i);
     const std::string q = NeedsQuotes(masterFields, field) ? "\"\"" : "";
     result += i == 0 ? " Where [" : " & \" AND [";
-    result +=
-        master + "].[" + field + "]=" + q + "\" & " + parentData + ".Recordset.Fields(\"" + field + "\")";
+    result += master + "].[" + field + "]=" + q + "\" & " + parentData + ".Recordset.Fields(\"" +
+              field + "\")";
     if (!q.empty()) result += " & " + q + q;
   }
   return result;

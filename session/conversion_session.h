@@ -42,6 +42,9 @@ struct ConversionSession {
   ProjectModel* ActiveProject = nullptr;
   UserInterface* Ui = nullptr;
   OutputDirectory* Output = nullptr;  // every file of the run is written through it
+  // The ActiveX control project of the run's continuous forms, once the
+  // first one is converted; written with the main project at the end.
+  ProjectModel* ControlProject = nullptr;
 
   // Paths and names. OutputPath always ends in the path separator.
   std::string OutputPath;

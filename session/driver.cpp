@@ -309,6 +309,21 @@ void RegisterNames(ConversionSession& s) {
     s.SupportDb->AddRenaming({r.Object, r.Name.VbName, r.Name.File, r.Why});
 }
 
+// The user controls of the continuous forms make a project of their own;
+// a project group opens it with the main project, ahead of it, so that the
+// main project finds the controls.
+void WriteControlProject(ConversionSession& s, RunSummary& summary, const fs::path& vbp) {
+  const ProjectModel* controls = s.ControlProject;
+  if (!controls || controls->Components().empty()) return;
+  const std::string file = controls->Name + ".vbp";
+  const fs::path path = vbp.parent_path() / Windows1252ToUtf8(file);
+  WriteOutput(s, summary, controls->Name, path, controls->VbpText(path.parent_path()));
+  const std::string group = "VBGROUP 5.0\r\nProject=" + file +
+                            "\r\nStartupProject=" + Utf8ToWindows1252(vbp.filename().string()) +
+                            "\r\n";
+  WriteOutput(s, summary, s.ProjectName, vbp.parent_path() / (vbp.stem().string() + ".vbg"), group);
+}
+
 void CountLines(ConversionSession& s, RunSummary& summary) {
   if (!s.SupportDb) return;
   for (const auto& row : s.SupportDb->Stats()) {
@@ -354,6 +369,7 @@ RunSummary RunTranslation(ConversionSession& s, AccessLink& link, Converters& c,
   s.OutputPath = WithSeparator(request.OutputDir);
   OutputDirectory output(s.OutputPath);
   s.Output = &output;
+  s.ControlProject = nullptr;
   s.FormList.assign(1, "");  // 6
   s.ModuleList.assign(1, "");
   s.ReportList.assign(1, "");
@@ -434,6 +450,7 @@ void RunConversion(ConversionSession& s, AccessLink& link, Converters& c, RunSum
 
   const fs::path vbp = fs::path(s.OutputPath) / s.ProjectFile;
   WriteOutput(s, summary, s.ProjectName, vbp, s.ActiveProject->VbpText(vbp.parent_path()));
+  WriteControlProject(s, summary, vbp);
   if (s.Ui) s.Ui->ProgressEnd();  // E2
   CountLines(s, summary);
   CheckConversionOutput(s);

@@ -33,6 +33,8 @@ struct FormState {
   bool UsesOrderByOn = false;
   std::array<bool, 3> InitCalls{};
   std::vector<std::string> DatasheetForms{""};
+  // The grids of DatasheetForms, in the same order.
+  std::vector<DatasheetGridHint> DatasheetGrids;
   std::vector<std::string> OpenedSubforms{""};
   int ControlCount = 0;
   int PartialControlCount = 0;

@@ -9,6 +9,7 @@
 #include "session/conversion_session.h"
 #include "session/naming.h"
 #include "session/strings.h"
+#include "session/subform_code.h"
 #include "session/user_interface.h"
 
 namespace morvane {
@@ -105,6 +106,7 @@ struct Act {
       form.DatasheetForms.assign(1, h.FormName);
     else
       form.DatasheetForms.push_back(h.FormName);
+    form.DatasheetGrids.push_back(h);
   }
   void operator()(const FormLoadLineHint& h) { form.FormLoadCode += "\r\n" + h.Line; }
   void operator()(const ControlCountsHint& h) {
@@ -122,7 +124,7 @@ struct Act {
     form.LabelCaptionCode += "\r\nMe." + h.ControlName + ".Caption = \"" + h.Caption + "\"";
   }
   void operator()(const RenameControlClassHint& h) {
-    const std::string prefix = "Name = \"" + VbIdentifier(s.ProjectName) + "_CF.";
+    const std::string prefix = "Name = \"" + ControlProjectName(s.ProjectName) + ".";
     ChangeLine2(form.Text, prefix + h.OldName + "\"", prefix + h.NewName + "\"");
   }
 };
@@ -168,6 +170,7 @@ void ProcessHints(ConversionSession& s, const std::string& formName, HintActions
   const std::vector<HintRecord> records = std::move(form.Hints);
   form.Hints.clear();
   ProcessRecords(s, formName, actions, records);
+  SeparateSubformProcedures(s, formName);
   FinishFormText(s);
   CloseOpenedSubforms(s, actions);
 }

@@ -6,6 +6,7 @@
 
 #include <string>
 #include <variant>
+#include <vector>
 
 #include "platform/support_db.h"
 
@@ -83,9 +84,13 @@ struct ContinuousFormHint {
   std::string ControlName;
 };
 
-// A datasheet subform that becomes a grid once the form is complete.
+// A datasheet subform that becomes a grid once the form is complete: the
+// grid's control text (empty when the walk wrote it in place, inside a
+// container), and the lines that give it its columns when the form loads.
 struct DatasheetGridHint {
   std::string FormName;
+  std::string ControlText;
+  std::vector<std::string> ColumnLines;
 };
 
 // A line for the form's Form_Load.

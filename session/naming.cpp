@@ -131,6 +131,12 @@ std::string DataControlName(std::string_view formVbName) {
   return name;
 }
 
+std::string ControlProjectName(std::string_view projectName) {
+  // A class name is at most 39 characters with its project's name and the
+  // point between them: a short project name leaves room for the class.
+  return VbIdentifier(projectName, "a", 17) + "_CF";
+}
+
 bool IsReservedWord(std::string_view name) {
   static constexpr std::string_view kWords[] = {
       "And",        "As",       "Boolean",  "ByRef",    "Byte",    "ByVal",      "Call",

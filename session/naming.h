@@ -37,6 +37,9 @@ std::string DataControlName(std::string_view formVbName);
 // break a blank, and a text too long for one line of code (Visual Basic
 // reads 1,023 bytes) cut into pieces joined by "& _" on lines of their own.
 std::vector<std::string> VbStringLines(std::string_view text);
+// The name of the project of a run's user controls: the project's name as
+// an identifier of at most 17 characters and "_CF".
+std::string ControlProjectName(std::string_view projectName);
 // Whether Visual Basic keeps the word for itself (a component cannot take
 // it as its name).
 bool IsReservedWord(std::string_view name);

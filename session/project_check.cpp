@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <system_error>
 
 #include "platform/encoding.h"
@@ -124,6 +125,81 @@ void CheckProjectFile(const fs::path& file, const std::string& name, const Direc
       [](const ProjectFinding& a, const ProjectFinding& b) { return a.Line < b.Line; });
 }
 
+// The classes of the directory's control projects: "<project>.<control>"
+// in lower case, for each user control a project of Type=Control lists.
+std::set<std::string> ControlClasses(const std::vector<fs::path>& paths,
+                                     const DirectoryIndex& files) {
+  std::set<std::string> classes;
+  for (const auto& path : paths) {
+    if (ToLower(path.extension().string()) != ".vbp") continue;
+    std::vector<std::string> lines;
+    if (!ReadTextLines(path, &lines, nullptr)) continue;
+    std::string project;
+    std::vector<std::string> controls;
+    for (const auto& line : lines) {
+      const size_t eq = line.find('=');
+      if (eq == std::string::npos) continue;
+      const std::string key = TrimBlanks(std::string_view(line).substr(0, eq));
+      const std::string value = TrimBlanks(std::string_view(line).substr(eq + 1));
+      if (key == "Name") project = Unquoted(value);
+      if (key != "UserControl") continue;
+      const auto hit = files.find(ToLower(value));
+      std::vector<std::string> text;
+      if (hit != files.end() && ReadTextLines(hit->second, &text, nullptr))
+        controls.push_back(VbName(text));
+    }
+    for (const auto& c : controls) classes.insert(ToLower(project + "." + c));
+  }
+  return classes;
+}
+
+// What a designer block names in other files: the binary file and offset of
+// a property ("Picture = "x.frx":001C"), which must be there, and the user
+// control a data repeater repeats, which a control project of the directory
+// must hold.
+void CheckReferences(const std::string& name, const std::vector<std::string>& lines,
+                     const DirectoryIndex& files, const std::set<std::string>& classes,
+                     std::vector<ProjectFinding>* out) {
+  bool repeated = false;
+  for (size_t i = 0; i < lines.size(); ++i) {
+    const std::string t = TrimBlanks(lines[i]);
+    if (StartsWithNoCase(t, "Attribute ")) break;
+    if (StartsWithNoCase(t, "BeginProperty RepeatedControlName")) repeated = true;
+    if (StartsWithNoCase(t, "EndProperty")) repeated = false;
+    const size_t eq = t.find('=');
+    if (eq == std::string::npos) continue;
+    const std::string key = TrimBlanks(std::string_view(t).substr(0, eq));
+    const std::string value = TrimBlanks(std::string_view(t).substr(eq + 1));
+    if (repeated && key == "Name") {
+      if (!classes.count(ToLower(Unquoted(value))))
+        out->push_back({name, i + 1,
+                        "the data repeater repeats " + Unquoted(value) +
+                            ", which no control project of the directory holds",
+                        lines[i], false});
+      continue;
+    }
+    // "file":offset
+    if (value.size() < 4 || value.front() != '"') continue;
+    const size_t close = value.find('"', 1);
+    if (close == std::string::npos || close + 1 >= value.size() || value[close + 1] != ':')
+      continue;
+    const std::string file = value.substr(1, close - 1);
+    const std::string offset = value.substr(close + 2);
+    if (offset.empty() || offset.find_first_not_of("0123456789ABCDEFabcdef") != std::string::npos)
+      continue;
+    const auto hit = files.find(ToLower(file));
+    std::error_code ec;
+    const auto size = hit == files.end() ? 0 : fs::file_size(hit->second, ec);
+    if (hit == files.end() || ec) {
+      out->push_back({name, i + 1, key + " names " + file + ", which the directory does not hold",
+                      lines[i], false});
+    } else if (std::stoull(offset, nullptr, 16) >= size) {
+      out->push_back(
+          {name, i + 1, key + " names a record past the end of " + file, lines[i], false});
+    }
+  }
+}
+
 }  // namespace
 
 bool CheckProject(const fs::path& dir, std::vector<ProjectFinding>* findings, std::string* err) {
@@ -144,6 +220,7 @@ bool CheckProject(const fs::path& dir, std::vector<ProjectFinding>* findings, st
     return false;
   }
   std::sort(paths.begin(), paths.end());
+  const std::set<std::string> classes = ControlClasses(paths, files);
   for (const auto& path : paths) {
     const std::string ext = ToLower(path.extension().string());
     const std::string name = SystemName(path);
@@ -161,10 +238,15 @@ bool CheckProject(const fs::path& dir, std::vector<ProjectFinding>* findings, st
       continue;
     }
     const std::vector<std::string> lines = SplitLines(bytes);
+    const size_t first = findings->size();
     for (auto& f : CheckVb6File(name, bytes)) {
       const std::string text = f.Line >= 1 && f.Line <= lines.size() ? lines[f.Line - 1] : "";
       findings->push_back({name, f.Line, std::move(f.Problem), text, f.Loads});
     }
+    if (ext != ".bas" && ext != ".cls") CheckReferences(name, lines, files, classes, findings);
+    std::stable_sort(
+        findings->begin() + static_cast<long>(first), findings->end(),
+        [](const ProjectFinding& a, const ProjectFinding& b) { return a.Line < b.Line; });
   }
   return true;
 }

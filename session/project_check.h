@@ -1,7 +1,10 @@
 // The check of a generated project before it goes to Visual Basic 6: every
 // generated file of the output directory (.bas, .cls, .frm, .ctl, .dsr) as
 // the development environment loads and compiles it (vb6_check.h), and each
-// project file (.vbp): its name, the files it lists, one name per component.
+// project file (.vbp): its name, the files it lists, one name per component;
+// and what a designer block names elsewhere: the binary records its
+// properties point to (.frx, .ctx, .dsx) and the user control a data
+// repeater repeats, which a control project of the directory must hold.
 // Run as `morvane check OUTDIR` and at the end of every conversion, where
 // each finding becomes a row of the analysis.
 #pragma once

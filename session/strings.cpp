@@ -97,6 +97,9 @@ constexpr Entry kEnglish[] = {
     {kMsgSourceWarnings,
      "The source tree has these problems; the objects they name may not come across as they "
      "should:"},
+    {kMsgControlsReduced,
+     "The form \"%1\" had %2 controls, over Visual Basic's limit of 254: %3 control arrays of "
+     "labels bring it to %4."},
     {kCapStartTranslation, "Start &Translation"},
     {kCapProject, "&Project"},
     {kCapListControls, "List &Controls"},

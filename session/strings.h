@@ -55,6 +55,7 @@ enum StringId : int {
   kMsgAnotherInstance = 160,
   kMsgSourceWarnings = 161,
   kMsgNoSourceTreeWindow = 162,
+  kMsgControlsReduced = 163,
   // Captions of the main window.
   kCapStartTranslation = 201,
   kCapProject = 202,

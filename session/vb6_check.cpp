@@ -188,6 +188,7 @@ const std::vector<Library>& Libraries() {
       {"SSDataWidgets_A", {"SSDW3A32.OCX", "SSDATA32.OCX"}},
       {"SSDataWidgets_B", {"SSDW3B32.OCX", "SSDATB32.OCX"}},
       {"SSDataWidgets_B_OLEDB", {"SSDW3BO.OCX"}},
+      {"MSDataRepeaterLib", {"MSDATREP.OCX"}},
       {"DataList", {"GTLIST32.OCX"}},
       {"Kestrel", {"KESTREL.OCX"}},
       {"MSDataListLib", {"MSDATLST.OCX"}},

@@ -118,13 +118,16 @@ void MoveDeclarationBlocks(ConversionSession& s, const std::string& name) {
   }
 
   // A line that two generators put into the declarations keeps its first
-  // copy. The bound is read once, as the section stood before the deletions.
-  const int declarations = code.CountOfDeclarationLines();
+  // copy. Each deletion moves the section's end up by a line, so that the
+  // search never reaches into the procedures behind it (where a repeated
+  // "End Sub" is no declaration).
+  int declarations = code.CountOfDeclarationLines();
   lines = ReadCode(code, code.CountOfLines());
   for (int i = 1; i <= declarations && i <= static_cast<int>(lines.size());) {
     if (RepeatsDeclaration(lines, static_cast<size_t>(i - 1))) {
       code.DeleteLines(i, 1);
       lines.erase(lines.begin() + (i - 1));
+      --declarations;
     } else {
       ++i;
     }

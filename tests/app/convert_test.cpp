@@ -143,8 +143,17 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   EXPECT_NE(statistics.find("frmOrders!txtCount = DCount("), std::string::npos);
   EXPECT_NE(statistics.find("varResult = SysCmdVB(4, "), std::string::npos);
 
-  EXPECT_NE(r.out.find("Converted 8 object(s): 2 form(s), 2 report(s)"), std::string::npos)
+  EXPECT_NE(r.out.find("Converted 11 object(s): 5 form(s), 2 report(s)"), std::string::npos)
       << r.out;
+  // The order book's tab holds a datasheet and a repeated continuous form,
+  // whose user control is the control project's.
+  const std::string book = ReadFile(dir / "out" / "frmOrderBook.frm");
+  for (const char* wanted :
+       {"Begin TabDlg.SSTab tabBook", "Begin MSDataGridLib.DataGrid sfrmOrderList",
+        "Name = \"Orders_CF.cfsfrmOrderHistory\""})
+    EXPECT_NE(book.find(wanted), std::string::npos) << wanted;
+  EXPECT_NE(ReadFile(dir / "out" / "Orders_CF.vbp").find("UserControl=cfsfrmOrderHistory.ctl"),
+            std::string::npos);
   EXPECT_NE(r.out.find("analysis/index.html"), std::string::npos) << r.out;
   EXPECT_EQ(r.out.find("Form conversion is not available"), std::string::npos) << r.out;
 
@@ -152,20 +161,20 @@ TEST(Convert, TheSampleBecomesAProjectAndItsSourceStaysAsItWas) {
   auto db = SupportDatabase::Open(dir / "out" / "morvane.db", MORVANE_DATA_DIR, &err);
   ASSERT_TRUE(db) << err;
   auto stats = db->Stats();
-  ASSERT_EQ(stats.size(), 9u);
+  ASSERT_EQ(stats.size(), 12u);
   EXPECT_EQ(stats[0].ModuleName, "MacroCode");
   // The form rows count their controls, the section frames as one; the
   // calendar is converted in part.
   EXPECT_EQ(stats[1].ModuleName, "frmCustomers");
   EXPECT_EQ(stats[1].CtlCount, 20);
   EXPECT_EQ(stats[1].CtlsPartiallyConverted, 1);
-  EXPECT_EQ(stats[2].ModuleName, "frmOrders");
-  EXPECT_EQ(stats[2].CtlCount, 12);
+  EXPECT_EQ(stats[3].ModuleName, "frmOrders");
+  EXPECT_EQ(stats[3].CtlCount, 12);
   // The report rows count the controls that became items.
-  EXPECT_EQ(stats[3].ModuleName, "rptCustomerDirectory");
-  EXPECT_EQ(stats[3].CtlCount, 10);
-  EXPECT_EQ(stats[5].ModuleName, "basOrders");
-  EXPECT_GT(stats[5].TotalLines, 50);
+  EXPECT_EQ(stats[6].ModuleName, "rptCustomerDirectory");
+  EXPECT_EQ(stats[6].CtlCount, 10);
+  EXPECT_EQ(stats[8].ModuleName, "basOrders");
+  EXPECT_GT(stats[8].TotalLines, 50);
   EXPECT_FALSE(db->ReportOutput().empty());
 }
 
@@ -313,15 +322,16 @@ TEST(Convert, ModulesSelectedByName) {
 
 TEST(Convert, FormsTheRunCannotConvertAreSaidSo) {
   TempDir dir;
-  std::string labels;
+  // Text boxes, which no control array gathers.
+  std::string boxes;
   for (int i = 0; i < 255; ++i)
-    labels += "Begin Label\nLeft =0\nTop =" + std::to_string(i * 10) +
-              "\nWidth =100\nHeight =100\nName =\"l" + std::to_string(i) + "\"\nEnd\n";
+    boxes += "Begin TextBox\nLeft =0\nTop =" + std::to_string(i * 10) +
+             "\nWidth =100\nHeight =100\nName =\"t" + std::to_string(i) + "\"\nEnd\n";
   fs::create_directories(dir / "src" / "forms");
   WriteFile(dir / "src" / "forms" / "frmBig.txt",
             "Version =20\nBegin Form\nBegin\nBegin Section\nHeight =3000\nName =\"Detail\"\n"
             "Begin\n" +
-                labels + "End\nEnd\nEnd\nEnd\n");
+                boxes + "End\nEnd\nEnd\nEnd\n");
   WriteFile(dir / "src" / "forms" / "frmSmall.txt",
             "Version =20\nBegin Form\nBegin\nBegin Section\nHeight =300\nName =\"Detail\"\n"
             "Begin\nBegin Attachment\nName =\"attPhoto\"\nEnd\nEnd\nEnd\nEnd\nEnd\n");
@@ -489,7 +499,8 @@ TEST(List, PrintsTheCatalogInItsOrder) {
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_EQ(
       r.out,
-      "Forms:\n  frmCustomers\n  frmOrders\nModules:\n  basOrders\n  basStatistics\n  clsCustomer\n"
+      "Forms:\n  frmCustomers\n  frmOrderBook\n  frmOrders\n  sfrmOrderHistory\n  sfrmOrderList\n"
+      "Modules:\n  basOrders\n  basStatistics\n  clsCustomer\n"
       "  Date Helpers\n"
       "Reports:\n  rptCustomerDirectory\n  rptOrdersByDate\n"
       "Macros:\n  AutoExec\n  mcrOrders\n");

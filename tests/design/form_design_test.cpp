@@ -132,6 +132,8 @@ TEST_F(CustomersForm, FormProperties) {
   EXPECT_EQ(f.Text("Caption"), "Customer \"list\"");
   EXPECT_EQ(f.Flag("Modal"), false);
   EXPECT_EQ(f.Flag("NavigationButtons"), true);
+  // A form that writes no DefaultView shows continuous forms.
+  EXPECT_EQ(f.Number("DefaultView"), 1);
   // MinMaxButtons =1: a minimise button only.
   EXPECT_EQ(f.Flag("MinButton"), true);
   EXPECT_EQ(f.Text("MaxButton"), "0");

@@ -85,7 +85,8 @@ TEST_F(FormWriterTest, HeaderOfAPlainForm) {
   // name, a minimise button taken away, a help context.
   const std::string frm = Convert(
       "Orders",
-      Form("    Width =6000\n    MinMaxButtons =2\n    HelpContextId =7\n", Detail("", 2000)));
+      Form("    DefaultView =0\n    Width =6000\n    MinMaxButtons =2\n    HelpContextId =7\n",
+           Detail("", 2000)));
   EXPECT_EQ(frm.rfind("VERSION 5.00\r\nBegin VB.Form Orders\r\n", 0), 0u);
   test::ExpectLines(frm, {"Caption =\"Orders\"", "MaxButton = -1", "MinButton = 0", "MDIChild = -1",
                           "HelpContextID=7"});
@@ -179,6 +180,61 @@ TEST_F(FormWriterTest, ADesignThatCannotBeOpenedWritesNothing) {
   texts_["Here"] = Form("", Detail(""));
   EXPECT_FALSE(FormWriter(s_, store_).ConvertForm("Here"));
   EXPECT_TRUE(s_.Form().Text.Empty());
+}
+
+// Under DAO a datasheet becomes a DBGrid, whose columns only code can set:
+// on the form itself it is placed once the form is complete, inside a tab
+// it stands in place; both get their columns when the form loads.
+TEST_F(FormWriterTest, ADaoDatasheetIsADbGridWithItsColumnsSetInCode) {
+  s_.Options.UseAdo = false;
+  texts_["sfrmLines"] = Form("    DefaultView =2\n    RecordSource =\"qryLines\"\n",
+                             Detail("                Begin TextBox\n"
+                                    "                    Width =900\n"
+                                    "                    TabIndex =0\n"
+                                    "                    Name =\"Qty\"\n"
+                                    "                    ControlSource =\"Qty\"\n"
+                                    "                End\n"));
+  const std::string subform =
+      "                Begin Subform\n"
+      "                    Left =100\n                    Top =200\n"
+      "                    Width =3000\n                    Height =900\n"
+      "                    Name =\"%s\"\n"
+      "                    SourceObject =\"Form.sfrmLines\"\n"
+      "                End\n";
+  auto named = [&](const std::string& name) {
+    std::string text = subform;
+    return text.replace(text.find("%s"), 2, name);
+  };
+  const std::string tab =
+      "                Begin Tab\n                    Left =0\n"
+      "                    Top =1200\n                    Width =5000\n"
+      "                    Height =2000\n                    Name =\"tab\"\n"
+      "                    Begin\n                        Begin Page\n"
+      "                            Name =\"pg\"\n"
+      "                            Begin\n" +
+      named("sfrmInTab") +
+      "                            End\n                        End\n"
+      "                    End\n                End\n";
+  const std::string frm =
+      Convert("Main", Form("    RecordSource =\"qryMain\"\n", Detail(named("sfrmOnForm") + tab)));
+  EXPECT_NE(frm.find("Object=\"{00028C01-0000-0000-0000-000000000046}#1.0#0\"; \"DBGRID32.OCX\""),
+            std::string::npos);
+  EXPECT_EQ(frm.find("Begin MSDBGrid.DBGrid sfrmOnForm"), std::string::npos);
+  EXPECT_NE(frm.find("Begin MSDBGrid.DBGrid sfrmInTab"), std::string::npos);
+  EXPECT_NE(frm.find("Begin VB.Data datsfrmLines\r\n"), std::string::npos);
+  EXPECT_NE(frm.find("Begin VB.Data datsfrmLinesA\r\n"), std::string::npos);
+  std::vector<DatasheetGridHint> grids;
+  for (const HintRecord& h : s_.Form().Hints)
+    if (auto g = std::get_if<DatasheetGridHint>(&h)) grids.push_back(*g);
+  ASSERT_EQ(grids.size(), 2u);
+  // The tab is walked ahead of the form's other controls.
+  EXPECT_TRUE(grids[0].ControlText.empty());
+  EXPECT_EQ(grids[1].ControlText.substr(0, 34), "Begin MSDBGrid.DBGrid sfrmOnForm\r\n");
+  EXPECT_EQ(
+      grids[1].ColumnLines,
+      (std::vector<std::string>{"sfrmOnForm.Columns.Remove 1", "sfrmOnForm.Columns(0).Width = 900",
+                                "sfrmOnForm.Columns(0).Caption = \"Qty\"",
+                                "sfrmOnForm.Columns(0).DataField = \"Qty\"", "sfrmOnForm.ReBind"}));
 }
 
 }  // namespace

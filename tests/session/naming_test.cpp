@@ -1,11 +1,11 @@
 // The naming helpers and the option word.
-#include "platform/encoding.h"
-#include "session/name_registry.h"
 #include "session/naming.h"
 
 #include <gtest/gtest.h>
 
+#include "platform/encoding.h"
 #include "session/conversion_session.h"
+#include "session/name_registry.h"
 
 namespace morvane {
 namespace {
@@ -105,7 +105,10 @@ TEST(NameRegistry, NamesAreIdentifiersUniqueAndTheSameEverywhere) {
   // What Visual Basic does not take in a name.
   EXPECT_EQ(vb(ComponentRole::Form, "00_Home"), "a00_Home");
   EXPECT_EQ(file(ComponentRole::Form, "00_Home"), "a00_Home");
-  EXPECT_EQ(vb(ComponentRole::Form, "Temp\xB0" "C"), "Temp_C");
+  EXPECT_EQ(vb(ComponentRole::Form,
+               "Temp\xB0"
+               "C"),
+            "Temp_C");
   EXPECT_EQ(vb(ComponentRole::Form, "Kategorien\xFC"), "Kategorien\xFC");
   EXPECT_EQ(vb(ComponentRole::Form, "Select"), "aSelect");
   EXPECT_EQ(vb(ComponentRole::Form, "??"), "a");

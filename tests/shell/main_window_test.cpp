@@ -128,7 +128,7 @@ void MainWindowTest::runOnTheSampleWithOptionsOfEachPage() {
   // A source typed in does not propose an output path.
   const fs::path out = fs::path(dir_.path().toStdString()) / "out";
   Type(w, "txtMDB", P(Sample()));
-  QCOMPARE(Find<QListWidget>(w, "lstForms")->count(), 2);
+  QCOMPARE(Find<QListWidget>(w, "lstForms")->count(), 5);
   QCOMPARE(Find<QListWidget>(w, "lstModules")->count(), 4);
   QCOMPARE(Find<QListWidget>(w, "lstReports")->count(), 2);
   QVERIFY(Find<QLineEdit>(w, "txtPath")->text().isEmpty());
@@ -260,7 +260,7 @@ void MainWindowTest::settingsSurviveARestart() {
   std::ofstream(mdw) << "workgroup";
   Type(w, "txtMDW", P(mdw));
   Type(w, "txtMDB", P(Sample()));
-  QCOMPARE(Find<QListWidget>(w, "lstForms")->count(), 2);
+  QCOMPARE(Find<QListWidget>(w, "lstForms")->count(), 5);
 
   answerer.answers = {QMessageBox::Yes};
   Find<QAction>(w, "mnuMain_2")->trigger();
@@ -293,7 +293,7 @@ void MainWindowTest::settingsSurviveARestart() {
   recent->trigger();
   QCOMPARE(Find<QLineEdit>(w, "txtMDB")->text(), P(Sample()));
   QCOMPARE(Find<QLineEdit>(w, "txtPath")->text(), P(Sample().parent_path() / "Morvane"));
-  QCOMPARE(Find<QListWidget>(w, "lstForms")->count(), 2);
+  QCOMPARE(Find<QListWidget>(w, "lstForms")->count(), 5);
   // Nothing changed since the load: no question at the close.
   Find<QAction>(w, "mnuMain_2")->trigger();
   QCOMPARE(answerer.shown.size(), shown);

@@ -263,8 +263,8 @@ TEST_F(ModuleExport, DuplicateDeclarationsGoButEmptyLinesStay) {
                                "Private Const K = 1",
                                "#End If",
                                "Private Sub Form_Load()",
-                               // The bound is read before the deletions, so the
-                               // lines that move up into it are looked at too.
+                               // A procedure's own declaration is none of the section's.
+                               "Dim a As Integer",
                                "End Sub",
                            }));
 }

@@ -1,0 +1,417 @@
+VERSION 5.00
+Object="{67397AA1-7FB1-11D0-B148-00A0C922E820}#6.0#0"; "MSADODC.OCX"
+Begin VB.Form sfrmCustomer
+   BorderStyle = 2
+   Caption ="sfrmCustomer"
+   ClientHeight = 4000
+   ClientLeft = 250
+   ClientTop = 500
+   ClientWidth = 6800
+   Height = 4000
+   Left = 250
+   LinkTopic = ""
+   MaxButton = -1
+   MinButton = -1
+   ShowInTaskbar = 0
+   Top = 500
+   Width = 6800
+   BackColor= &HF0F0F0&
+   ControlBox=-1
+   BeginProperty Font
+      Name = "Arial"
+      charset = 0
+      weight = 400
+      Size = 8
+      underline = 0
+      italic = 0
+      strikethrough = 0
+   EndProperty
+   ForeColor=&H00000000&
+   HelpContextID=0
+   Begin MSAdodcLib.Adodc datsfrmCustomer
+      Height = 300
+      Left = 0
+      Top = 3670
+      Width = 2700
+      _ExtentX = 5212
+      _ExtentY = 767
+      ConnectMode = 0
+      CursorLocation = 3
+      IsolationLevel = -1
+      ConnectionTimeout = 15
+      CommandTimeout = 30
+      CursorType = 2
+      LockType = 3
+      CommandType = 2
+      CursorOptions = 0
+      CacheSize = 50
+      MaxRecords = 0
+      BOFAction = 0
+      EOFAction = 0
+      ConnectStringType = 1
+      Appearance = 1
+      BackColor = -2147483643
+      ForeColor = -2147483640
+      Orientation = 0
+      Enabled = -1
+      Connect = "Provider=Microsoft.Jet.OLEDB.4.0;Persist Security Info=False;Data Source=input.mdb"
+      OLEDBString = "Provider=Microsoft.Jet.OLEDB.4.0;Persist Security Info=False;Data Source=input.mdb"
+      OLEDBFile = ""
+      DataSourceName = ""
+      OtherAttributes = ""
+      UserName = ""
+      Password = ""
+      Visible = -1
+      RecordSource = "qryCustomers"
+      Caption = "datsfrmCustomer"
+      BeginProperty Font {0BE35203-8F91-11CE-9DE3-00AA004BB851}
+         Name = "MS Sans Serif"
+         charset = 0
+         weight = 400
+         Size = 8.25
+         underline = 0
+         italic = 0
+         strikethrough = 0
+      EndProperty
+      _Version = 393216
+   End
+   Begin VB.TextBox CustomerName
+      DataSource ="datsfrmCustomer"
+      DataField ="CustomerName"
+      BorderStyle=1
+      Appearance=0
+      Height = 255
+      Left = 1500
+      Top = 500
+      Width = 3000
+      Locked =0
+      ScrollBars = 0
+      HelpContextID = 0
+      TabIndex =0
+      BackColor= &H80000005&
+      ForeColor= &H80000008&
+      BeginProperty Font
+         Name = "MS Sans Serif"
+         charset = 0
+         weight = 400
+         Size = 8
+         underline = 0
+         italic = 0
+         strikethrough = 0
+      EndProperty
+   End
+   Begin VB.TextBox OrderID
+      BorderStyle=1
+      Appearance=0
+      Height = 255
+      Left = 5000
+      Top = 500
+      Width = 1000
+      Locked =0
+      ScrollBars = 0
+      HelpContextID = 0
+      TabIndex =1
+      BackColor= &H80000005&
+      ForeColor= &H80000008&
+      BeginProperty Font
+         Name = "MS Sans Serif"
+         charset = 0
+         weight = 400
+         Size = 8
+         underline = 0
+         italic = 0
+         strikethrough = 0
+      EndProperty
+   End
+   Begin VB.Frame grpgrpRating
+      Height = 850
+      Left = 100
+      TabIndex = 2
+      HelpContextID = 0
+      Top = 750
+      Width = 2500
+      Begin VB.OptionButton grpRating
+         Height = 210
+         Left = 150
+         Index = 1
+         TabIndex = 94
+         Top = 250
+      End
+      Begin VB.OptionButton grpRating
+         Height = 210
+         Left = 1150
+         Index = 2
+         TabIndex = 94
+         Top = 250
+      End
+   End
+   Begin VB.PictureBox sfrmContacts
+      BackColor= &HFFFFFF&
+      ClipControls = -1
+      Height = 2200
+      Left = 100
+      TabIndex = 3
+      TabStop = 0
+      Top = 1700
+      Width = 6500
+      Begin MSAdodcLib.Adodc datsfrmContacts
+         Height = 300
+         Left = 0
+         Top = 1770
+         Width = 2700
+         _ExtentX = 5212
+         _ExtentY = 767
+         ConnectMode = 0
+         CursorLocation = 3
+         IsolationLevel = -1
+         ConnectionTimeout = 15
+         CommandTimeout = 30
+         CursorType = 2
+         LockType = 3
+         CommandType = 1
+         CursorOptions = 0
+         CacheSize = 50
+         MaxRecords = 0
+         BOFAction = 0
+         EOFAction = 0
+         ConnectStringType = 1
+         Appearance = 1
+         BackColor = -2147483643
+         ForeColor = -2147483640
+         Orientation = 0
+         Enabled = -1
+         Connect = "Provider=Microsoft.Jet.OLEDB.4.0;Persist Security Info=False;Data Source=input.mdb"
+         OLEDBString = "Provider=Microsoft.Jet.OLEDB.4.0;Persist Security Info=False;Data Source=input.mdb"
+         OLEDBFile = ""
+         DataSourceName = ""
+         OtherAttributes = ""
+         UserName = ""
+         Password = ""
+         Visible = -1
+         RecordSource = "Select * From qryContacts"
+         Caption = "datsfrmContacts"
+         BeginProperty Font {0BE35203-8F91-11CE-9DE3-00AA004BB851}
+            Name = "MS Sans Serif"
+            charset = 0
+            weight = 400
+            Size = 8.25
+            underline = 0
+            italic = 0
+            strikethrough = 0
+         EndProperty
+         _Version = 393216
+      End
+      Begin VB.TextBox ContactName
+         DataSource ="datsfrmContacts"
+         DataField ="ContactName"
+         BorderStyle=1
+         Appearance=0
+         Height = 255
+         Left = 1500
+         Top = 100
+         Width = 3000
+         Locked =0
+         ScrollBars = 0
+         HelpContextID = 0
+         TabIndex =0
+         BackColor= &H80000005&
+         ForeColor= &H80000008&
+         BeginProperty Font
+            Name = "MS Sans Serif"
+            charset = 0
+            weight = 400
+            Size = 8
+            underline = 0
+            italic = 0
+            strikethrough = 0
+         EndProperty
+      End
+      Begin VB.PictureBox sfrmCalls
+         BackColor= &HFFFFFF&
+         ClipControls = -1
+         Height = 1500
+         Left = 100
+         TabIndex = 1
+         TabStop = 0
+         Top = 500
+         Width = 6000
+         Begin MSAdodcLib.Adodc datsfrmCalls
+            Height = 300
+            Left = 0
+            Top = 70
+            Width = 2700
+            _ExtentX = 5212
+            _ExtentY = 767
+            ConnectMode = 0
+            CursorLocation = 3
+            IsolationLevel = -1
+            ConnectionTimeout = 15
+            CommandTimeout = 30
+            CursorType = 2
+            LockType = 3
+            CommandType = 1
+            CursorOptions = 0
+            CacheSize = 50
+            MaxRecords = 0
+            BOFAction = 0
+            EOFAction = 0
+            ConnectStringType = 1
+            Appearance = 1
+            BackColor = -2147483643
+            ForeColor = -2147483640
+            Orientation = 0
+            Enabled = -1
+            Connect = "Provider=Microsoft.Jet.OLEDB.4.0;Persist Security Info=False;Data Source=input.mdb"
+            OLEDBString = "Provider=Microsoft.Jet.OLEDB.4.0;Persist Security Info=False;Data Source=input.mdb"
+            OLEDBFile = ""
+            DataSourceName = ""
+            OtherAttributes = ""
+            UserName = ""
+            Password = ""
+            Visible = -1
+            RecordSource = "Select * From qryCalls"
+            Caption = "datsfrmCalls"
+            BeginProperty Font {0BE35203-8F91-11CE-9DE3-00AA004BB851}
+               Name = "MS Sans Serif"
+               charset = 0
+               weight = 400
+               Size = 8.25
+               underline = 0
+               italic = 0
+               strikethrough = 0
+            EndProperty
+            _Version = 393216
+         End
+         Begin VB.TextBox CallDate
+            DataSource ="datsfrmCalls"
+            DataField ="CallDate"
+            BorderStyle=1
+            Appearance=0
+            Height = 255
+            Left = 100
+            Top = 50
+            Width = 1500
+            Locked =0
+            ScrollBars = 0
+            HelpContextID = 0
+            TabIndex =0
+            BackColor= &H80000005&
+            ForeColor= &H80000008&
+            BeginProperty Font
+               Name = "MS Sans Serif"
+               charset = 0
+               weight = 400
+               Size = 8
+               underline = 0
+               italic = 0
+               strikethrough = 0
+            EndProperty
+         End
+         Begin VB.TextBox Topic
+            DataSource ="datsfrmCalls"
+            DataField ="Topic"
+            BorderStyle=1
+            Appearance=0
+            Height = 255
+            Left = 1700
+            Top = 50
+            Width = 3000
+            Locked =0
+            ScrollBars = 0
+            HelpContextID = 0
+            TabIndex =1
+            BackColor= &H80000005&
+            ForeColor= &H80000008&
+            BeginProperty Font
+               Name = "MS Sans Serif"
+               charset = 0
+               weight = 400
+               Size = 8
+               underline = 0
+               italic = 0
+               strikethrough = 0
+            EndProperty
+         End
+      End
+   End
+   Begin VB.Frame Section
+      Caption =  ""
+      BackColor= &HC0C0C0&
+      Height = 400
+      Left = 0
+      Index = 1
+      Top = 0
+      Width = 6800
+      BorderStyle = 0
+      Begin VB.Label lblCustomer
+         BackColor= &H8000000F&
+         BorderStyle=0
+         Caption="Customer"
+         ForeColor= &H80000012&
+         BeginProperty Font
+            Name = "MS Sans Serif"
+            charset = 0
+            weight = 400
+            Size = 8
+            underline = 0
+            italic = 0
+            strikethrough = 0
+         EndProperty
+         Height = 255
+         Left = 100
+         Top = 50
+         Width = 2000
+      End
+      
+   End
+End
+Attribute VB_Name = "sfrmCustomer"
+
+Option Explicit
+Private mLoaded As Boolean
+
+
+Private Sub Form_Load()
+    mLoaded = True
+    ShowTotals
+End Sub
+
+Private Sub ShowTotals()
+    Me.datsfrmCustomer.recordset.Fields("CustomerName").Visible = mLoaded
+End Sub
+
+Private Sub Form_Click()
+    Me.datsfrmCustomer.recordset.Fields("CustomerName").SetFocus
+End Sub
+Private Function InitialDataCtlCaptions()
+    On Error Resume Next
+    datsfrmCustomer.Recordset.movenext
+    datsfrmCustomer.Recordset.moveFirst
+    datsfrmContacts.Recordset.movenext
+    datsfrmContacts.Recordset.moveFirst
+    datsfrmCalls.Recordset.movenext
+    datsfrmCalls.Recordset.moveFirst
+End Function
+Private Sub datsfrmCustomer_MoveComplete(ByVal adReason As ADODB.EventReasonEnum, ByVal pError As ADODB.Error, adStatus As ADODB.EventStatusEnum, ByVal pRecordset As ADODB.Recordset)
+    On Error Resume Next
+    'MORVANE OrderID.text =[Parent]![OrderID]
+    grpRating(datsfrmCustomer.recordset.Fields("Rating")-1).value = true
+    datsfrmContacts.Recordset.MoveFirst
+    datsfrmContacts.Recordset.Movelast
+    datsfrmContacts.refresh
+    datsfrmContacts.RecordSource="Select * from [qryContacts] INNER JOIN [qryCustomers] ON [qryContacts].[CustomerID] = [qryCustomers].[CustomerID] Where [qryCustomers].[CustomerID]=""" & datsfrmCustomer.Recordset.Fields("CustomerID") & """"
+End Sub
+Private Sub datsfrmContacts_MoveComplete(ByVal adReason As ADODB.EventReasonEnum, ByVal pError As ADODB.Error, adStatus As ADODB.EventStatusEnum, ByVal pRecordset As ADODB.Recordset)
+    On Error Resume Next
+    datsfrmCalls.Recordset.MoveFirst
+    datsfrmCalls.Recordset.Movelast
+    datsfrmCalls.refresh
+    datsfrmCalls.RecordSource="Select * from [qryCalls] INNER JOIN [qryContacts] ON [qryCalls].[ContactID] = [qryContacts].[ContactID] Where [qryContacts].[ContactID]=""" & datsfrmContacts.Recordset.Fields("ContactID") & """"
+End Sub
+Private Sub datsfrmCalls_MoveComplete(ByVal adReason As ADODB.EventReasonEnum, ByVal pError As ADODB.Error, adStatus As ADODB.EventStatusEnum, ByVal pRecordset As ADODB.Recordset)
+    On Error Resume Next
+End Sub
+Private Sub Form_Activate()
+    Dim vReturnValue as variant
+    vReturnValue=InitialDataCtlCaptions()
+End Sub
