@@ -15,6 +15,7 @@
 #include "forms/query_fields.h"
 #include "forms/record_source.h"
 #include "platform/support_db.h"
+#include "platform/text_file.h"
 #include "session/conversion_session.h"
 #include "session/hint_processor.h"
 #include "session/naming.h"
@@ -84,30 +85,16 @@ int AdoCommandType(const FormWriter& w, const std::string& source,
 // record source is set by the form's load code, where a line continues.
 constexpr size_t kDesignerLineLimit = 1023;
 
-// The source as a string expression of pieces joined over continued lines,
-// each piece cut where no doubled quote is parted.
-std::string ContinuedString(const std::string& source) {
-  constexpr size_t kPiece = 800;
-  std::string out;
-  size_t at = 0;
-  while (at < source.size()) {
-    size_t end = std::min(at + kPiece, source.size());
-    while (end < source.size() && end > at + 1 && (source[end - 1] == '"' || source[end] == '"'))
-      --end;
-    if (!out.empty()) out += " & _\r\n";
-    out += "\"" + source.substr(at, end - at) + "\"";
-    at = end;
-  }
-  return out.empty() ? "\"\"" : out;
-}
-
 void AddRecordSourceLine(std::string& text, FormWriter& w, const std::string& dat,
                          const std::string& source) {
   const std::string line = "RecordSource = \"" + source + "\"";
-  if (line.size() <= kDesignerLineLimit)
+  if (line.size() <= kDesignerLineLimit) {
     AddLine(text, line);
-  else
-    AddHint(w.Session(), FormLoadLineHint{dat + ".RecordSource = " + ContinuedString(source)});
+  } else {
+    std::string expression = JoinCrLf(QuotedStringLines(source));
+    expression.resize(expression.size() - 2);  // the last line end
+    AddHint(w.Session(), FormLoadLineHint{dat + ".RecordSource = " + expression});
+  }
 }
 
 // A statement goes as it is; a table or query is named for a command of

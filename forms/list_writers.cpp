@@ -84,20 +84,11 @@ void SetFromFormLoad(FormWriter& w, const std::string& object, std::string_view 
   const std::string target = object + std::string(member);
   // A later piece's line names the target twice.
   const size_t room = kPieceBytes - std::min(kPieceBytes / 2, 2 * target.size());
-  std::string piece;
-  bool first = true;
-  auto flush = [&] {
-    AddHint(s,
-            FormLoadLineHint{target + " = " + (first ? "" : target + " & ") + "\"" + piece + "\""});
-    piece.clear();
-    first = false;
-  };
-  for (size_t i = 0; i < value.size(); ++i) {
-    piece += value[i];
-    if (value[i] == '"' && i + 1 < value.size() && value[i + 1] == '"') piece += value[++i];
-    if (piece.size() >= room) flush();
-  }
-  if (!piece.empty() || first) flush();
+  std::vector<std::string> pieces = QuotedPieces(value, room);
+  if (pieces.empty()) pieces.emplace_back();
+  for (size_t k = 0; k < pieces.size(); ++k)
+    AddHint(s, FormLoadLineHint{target + " = " + (k == 0 ? "" : target + " & ") + "\"" + pieces[k] +
+                                "\""});
 }
 
 bool IsExpression(const std::optional<std::string>& v) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 #include "platform/text_fold.h"
 
@@ -107,22 +108,29 @@ std::vector<std::string> VbStringLines(std::string_view text) {
       if (c == '"') flat += '"';
     }
   }
-  // Pieces of at most 900 bytes, never parting a doubled quote.
+  return QuotedStringLines(flat);
+}
+
+std::vector<std::string> QuotedStringLines(std::string_view escaped) {
   constexpr size_t kPiece = 900;
   std::vector<std::string> lines;
-  size_t at = 0;
-  do {
-    size_t end = std::min(flat.size(), at + kPiece);
-    if (end < flat.size()) {
-      size_t quotes = 0;
-      for (size_t k = at; k < end; ++k) quotes += flat[k] == '"';
-      if (quotes % 2 == 1) ++end;
-    }
-    lines.push_back("\"" + flat.substr(at, end - at) + "\"");
-    at = end;
-  } while (at < flat.size());
+  for (const std::string& piece : QuotedPieces(escaped, kPiece))
+    lines.push_back("\"" + piece + "\"");
+  if (lines.empty()) lines.emplace_back("\"\"");
   for (size_t k = 0; k + 1 < lines.size(); ++k) lines[k] += " & _";
   return lines;
+}
+
+std::vector<std::string> QuotedPieces(std::string_view escaped, size_t most) {
+  std::vector<std::string> out;
+  std::string piece;
+  for (size_t i = 0; i < escaped.size(); ++i) {
+    piece += escaped[i];
+    if (escaped[i] == '"' && i + 1 < escaped.size() && escaped[i + 1] == '"') piece += escaped[++i];
+    if (piece.size() >= most) out.push_back(std::exchange(piece, {}));
+  }
+  if (!piece.empty()) out.push_back(piece);
+  return out;
 }
 
 std::string DataControlName(std::string_view formVbName) {

@@ -37,6 +37,12 @@ std::string DataControlName(std::string_view formVbName);
 // break a blank, and a text too long for one line of code (Visual Basic
 // reads 1,023 bytes) cut into pieces joined by "& _" on lines of their own.
 std::vector<std::string> VbStringLines(std::string_view text);
+// The same for a text whose quotes are doubled already and that holds no
+// line break.
+std::vector<std::string> QuotedStringLines(std::string_view escaped);
+// `escaped` (the inside of a quoted text, its quotes doubled) in pieces of
+// about `most` bytes; a doubled quote is never parted.
+std::vector<std::string> QuotedPieces(std::string_view escaped, size_t most);
 // The name of the project of a run's user controls: the project's name as
 // an identifier of at most 17 characters and "_CF".
 std::string ControlProjectName(std::string_view projectName);
