@@ -5,7 +5,8 @@ Attribute VB_Name = "MorvaneConversionCode"
 ' Basic lacks. The converter appends to it GetFormFromName for the converted
 ' forms, Sub Main (which opens the database and shows the first form), and
 ' those helpers the code really calls: list filling, SysCmdVB,
-' OptionGroupValue and the domain aggregate functions.
+' OptionGroupValue and the domain aggregate functions. What those helpers
+' have in common is written once, here.
 Option Explicit
 
 ' The one database of the application, opened by Sub Main. Every CurrentDb
@@ -55,18 +56,28 @@ Public Function NotTranslated(ByVal strModule As String, ByVal lngLine As Long) 
         "Line " & lngLine & " of " & strModule & " was not translated; see the conversion analysis."
 End Function
 
-' The first value that an SQL statement returns, read over the ADO
-' connection; Null when it returns no row. The domain aggregate functions use
-' it when no DAO database is open.
-Private Function DomainLookupAdo(ByVal strSql As String) As Variant
-    Dim rec As ADODB.Recordset
+' The value of the first row that "Select <strSelect> From <strDomain>"
+' returns, with " Where <strCriteria>" behind it unless strCriteria is
+' empty; Null when no row comes back. The domain aggregate functions (DSum,
+' DLookup and their kin) are made of it. It asks the DAO database, or the ADO
+' connection in a project converted from an Access data project, which
+' opens no DAO database; both recordsets answer EOF, (0) and Close alike.
+Private Function DomainLookup(ByVal strSelect As String, ByVal strDomain As String, ByVal strCriteria As String) As Variant
+    Dim strSql As String
+    Dim rec As Object
 
-    Set rec = New ADODB.Recordset
-    rec.Open strSql, pConn, adOpenForwardOnly, adLockReadOnly
-    If rec.EOF Then
-        DomainLookupAdo = Null
+    strSql = "Select " & strSelect & " From " & strDomain
+    If strCriteria <> vbNullString Then strSql = strSql & " Where " & strCriteria
+    If db Is Nothing Then
+        Set rec = New ADODB.Recordset
+        rec.Open strSql, pConn, adOpenForwardOnly, adLockReadOnly
     Else
-        DomainLookupAdo = rec(0).Value
+        Set rec = db.OpenRecordset(strSql, dbOpenForwardOnly)
+    End If
+    If rec.EOF Then
+        DomainLookup = Null
+    Else
+        DomainLookup = rec(0).Value
     End If
     rec.Close
 End Function
