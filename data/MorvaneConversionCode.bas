@@ -82,6 +82,37 @@ Private Function DomainLookup(ByVal strSelect As String, ByVal strDomain As Stri
     rec.Close
 End Function
 
+' The SysCmd actions that need no status bar, for SysCmdVB with or without
+' one: 13, the workgroup information file, and 10, the state of an object,
+' known here for forms only: 1 when a form of the name vValueOrObjectName is
+' loaded, else 0. Any other action or object type raises error 5.
+Private Function SysCmdQuery(ByVal iAction As Integer, vTextOrObjectType As Variant, vValueOrObjectName As Variant) As Variant
+    Dim frm As Form
+
+    Select Case iAction
+        Case 13
+#If Win16 Then
+            SysCmdQuery = DBEngine.IniPath
+#Else
+            SysCmdQuery = DBEngine.SystemDB
+#End If
+        Case 10
+            If CInt(vTextOrObjectType) = 2 Then
+                SysCmdQuery = 0
+                For Each frm In Forms
+                    If LCase$(frm.Name) = LCase$(CStr(vValueOrObjectName)) Then
+                        SysCmdQuery = 1
+                        Exit For
+                    End If
+                Next frm
+            Else
+                Err.Raise 5
+            End If
+        Case Else
+            Err.Raise 5
+    End Select
+End Function
+
 ' ---------------------------------------------------------------------------
 ' Eval: works out an expression given as text at run time. The converted
 ' macros hand over conditions and arguments that could not be rewritten into
