@@ -149,7 +149,7 @@ End Function
 Public Function Eval(ByVal strExpr As String) As Variant
     mstrEvalText = strExpr
     mlngEvalPos = 1
-    Eval = EvalXor()
+    Eval = EvalLevel(1)
     EvalSkipBlanks
     If mlngEvalPos <= Len(mstrEvalText) Then EvalFail
 End Function
@@ -193,34 +193,76 @@ Private Function EvalWord(ByVal strWord As String) As Boolean
     End If
 End Function
 
-Private Function EvalXor() As Variant
+' The binary operators by level, loosest first: 1 Xor, 2 Or, 3 And, 4 &,
+' 5 + and -, 6 Mod, 7 \, 8 * and /. Not and the comparisons bind between
+' And and &, signs and ^ more tightly than * and /. Operators of one level
+' apply from left to right.
+Private Function EvalLevel(ByVal intLevel As Integer) As Variant
     Dim vntValue As Variant
+    Dim strOperator As String
 
-    vntValue = EvalOr()
-    Do While EvalWord("Xor")
-        vntValue = vntValue Xor EvalOr()
+    vntValue = EvalOperand(intLevel)
+    Do
+        strOperator = EvalOperator(Choose(intLevel, "Xor", "Or", "And", "&", "+ -", "Mod", "\", "* /"))
+        If Len(strOperator) = 0 Then Exit Do
+        vntValue = EvalApply(vntValue, strOperator, EvalOperand(intLevel))
     Loop
-    EvalXor = vntValue
+    EvalLevel = vntValue
 End Function
 
-Private Function EvalOr() As Variant
-    Dim vntValue As Variant
-
-    vntValue = EvalAnd()
-    Do While EvalWord("Or")
-        vntValue = vntValue Or EvalAnd()
-    Loop
-    EvalOr = vntValue
+' An operand of the operators of level intLevel: an expression of the next
+' level, a Not expression for And, a signed power for * and /.
+Private Function EvalOperand(ByVal intLevel As Integer) As Variant
+    Select Case intLevel
+        Case 3
+            EvalOperand = EvalNot()
+        Case 8
+            EvalOperand = EvalSign()
+        Case Else
+            EvalOperand = EvalLevel(intLevel + 1)
+    End Select
 End Function
 
-Private Function EvalAnd() As Variant
-    Dim vntValue As Variant
+' Takes the first of the operators strOperators (separated by blanks) that
+' comes next, a word (Mod, And, ...) only as a whole word, and returns it as
+' written there; "" when none comes next.
+Private Function EvalOperator(ByVal strOperators As String) As String
+    Dim vntOperator As Variant
+    Dim blnTaken As Boolean
 
-    vntValue = EvalNot()
-    Do While EvalWord("And")
-        vntValue = vntValue And EvalNot()
-    Loop
-    EvalAnd = vntValue
+    For Each vntOperator In Split(strOperators, " ")
+        If EvalIsNameChar(Left$(vntOperator, 1)) Then
+            blnTaken = EvalWord(CStr(vntOperator))
+        Else
+            blnTaken = EvalSymbol(CStr(vntOperator))
+        End If
+        If blnTaken Then
+            EvalOperator = vntOperator
+            Exit Function
+        End If
+    Next vntOperator
+End Function
+
+' The value of vntLeft strOperator vntRight, by Visual Basic's own rules.
+Private Function EvalApply(ByVal vntLeft As Variant, ByVal strOperator As String, ByVal vntRight As Variant) As Variant
+    Select Case strOperator
+        Case "Xor": EvalApply = vntLeft Xor vntRight
+        Case "Or": EvalApply = vntLeft Or vntRight
+        Case "And": EvalApply = vntLeft And vntRight
+        Case "&": EvalApply = vntLeft & vntRight
+        Case "+": EvalApply = vntLeft + vntRight
+        Case "-": EvalApply = vntLeft - vntRight
+        Case "Mod": EvalApply = vntLeft Mod vntRight
+        Case "\": EvalApply = vntLeft \ vntRight
+        Case "*": EvalApply = vntLeft * vntRight
+        Case "/": EvalApply = vntLeft / vntRight
+        Case "=": EvalApply = (vntLeft = vntRight)
+        Case "<>": EvalApply = (vntLeft <> vntRight)
+        Case "<": EvalApply = (vntLeft < vntRight)
+        Case ">": EvalApply = (vntLeft > vntRight)
+        Case "<=": EvalApply = (vntLeft <= vntRight)
+        Case ">=": EvalApply = (vntLeft >= vntRight)
+    End Select
 End Function
 
 Private Function EvalNot() As Variant
@@ -237,28 +279,13 @@ End Function
 
 Private Function EvalCompare() As Variant
     Dim vntValue As Variant
-    Dim vntRight As Variant
+    Dim strOperator As String
 
-    vntValue = EvalConcat()
+    vntValue = EvalLevel(4)
     Do
-        If EvalSymbol("<>") Then
-            vntRight = EvalConcat()
-            vntValue = (vntValue <> vntRight)
-        ElseIf EvalSymbol("<=") Then
-            vntRight = EvalConcat()
-            vntValue = (vntValue <= vntRight)
-        ElseIf EvalSymbol(">=") Then
-            vntRight = EvalConcat()
-            vntValue = (vntValue >= vntRight)
-        ElseIf EvalSymbol("=") Then
-            vntRight = EvalConcat()
-            vntValue = (vntValue = vntRight)
-        ElseIf EvalSymbol("<") Then
-            vntRight = EvalConcat()
-            vntValue = (vntValue < vntRight)
-        ElseIf EvalSymbol(">") Then
-            vntRight = EvalConcat()
-            vntValue = (vntValue > vntRight)
+        strOperator = EvalOperator("<> <= >= = < >")
+        If Len(strOperator) > 0 Then
+            vntValue = EvalApply(vntValue, strOperator, EvalLevel(4))
         ElseIf Not EvalAccessOperator(vntValue) Then
             Exit Do
         End If
@@ -286,21 +313,21 @@ Private Function EvalAccessOperator(vntValue As Variant) As Boolean
     End If
     blnNot = EvalWord("Not")
     If EvalWord("Like") Then
-        vntItem = EvalConcat()
+        vntItem = EvalLevel(4)
         If IsNull(vntValue) Or IsNull(vntItem) Then
             vntValue = Null
         Else
             vntValue = ((LCase$(CStr(vntValue)) Like LCase$(CStr(vntItem))) <> blnNot)
         End If
     ElseIf EvalWord("Between") Then
-        vntLow = EvalConcat()
+        vntLow = EvalLevel(4)
         If Not EvalWord("And") Then EvalFail
-        vntHigh = EvalConcat()
+        vntHigh = EvalLevel(4)
         vntValue = ((vntValue >= vntLow And vntValue <= vntHigh) <> blnNot)
     ElseIf EvalWord("In") Then
         If Not EvalSymbol("(") Then EvalFail
         Do
-            vntItem = EvalConcat()
+            vntItem = EvalLevel(4)
             If Not IsNull(vntValue) And Not IsNull(vntItem) Then
                 If vntValue = vntItem Then blnFound = True
             End If
@@ -372,68 +399,6 @@ Private Function EvalSafeName(ByVal strName As String) As String
     Next
 End Function
 
-Private Function EvalConcat() As Variant
-    Dim vntValue As Variant
-
-    vntValue = EvalAdd()
-    Do While EvalSymbol("&")
-        vntValue = vntValue & EvalAdd()
-    Loop
-    EvalConcat = vntValue
-End Function
-
-Private Function EvalAdd() As Variant
-    Dim vntValue As Variant
-
-    vntValue = EvalMod()
-    Do
-        If EvalSymbol("+") Then
-            vntValue = vntValue + EvalMod()
-        ElseIf EvalSymbol("-") Then
-            vntValue = vntValue - EvalMod()
-        Else
-            Exit Do
-        End If
-    Loop
-    EvalAdd = vntValue
-End Function
-
-Private Function EvalMod() As Variant
-    Dim vntValue As Variant
-
-    vntValue = EvalIntDiv()
-    Do While EvalWord("Mod")
-        vntValue = vntValue Mod EvalIntDiv()
-    Loop
-    EvalMod = vntValue
-End Function
-
-Private Function EvalIntDiv() As Variant
-    Dim vntValue As Variant
-
-    vntValue = EvalMul()
-    Do While EvalSymbol("\")
-        vntValue = vntValue \ EvalMul()
-    Loop
-    EvalIntDiv = vntValue
-End Function
-
-Private Function EvalMul() As Variant
-    Dim vntValue As Variant
-
-    vntValue = EvalSign()
-    Do
-        If EvalSymbol("*") Then
-            vntValue = vntValue * EvalSign()
-        ElseIf EvalSymbol("/") Then
-            vntValue = vntValue / EvalSign()
-        Else
-            Exit Do
-        End If
-    Loop
-    EvalMul = vntValue
-End Function
-
 ' A sign binds less tightly than ^, so -2 ^ 2 is -4 as in Visual Basic.
 Private Function EvalSign() As Variant
     Dim blnNegative As Boolean
@@ -473,7 +438,7 @@ Private Function EvalPrimary() As Variant
     strChar = Mid$(mstrEvalText, mlngEvalPos, 1)
     If strChar = "(" Then
         mlngEvalPos = mlngEvalPos + 1
-        EvalPrimary = EvalXor()
+        EvalPrimary = EvalLevel(1)
         If Not EvalSymbol(")") Then EvalFail
     ElseIf strChar Like "[0-9.]" Then
         EvalPrimary = EvalNumber(True)
