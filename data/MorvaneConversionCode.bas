@@ -114,6 +114,115 @@ Private Function SysCmdQuery(ByVal iAction As Integer, vTextOrObjectType As Vari
 End Function
 
 ' ---------------------------------------------------------------------------
+' List filling: AddItems and its kin fill list and combo boxes of different
+' makes from a saved query, an SQL statement or a value list. Each walks the
+' rows its own way; taking the source and stepping through it is done here.
+' ---------------------------------------------------------------------------
+
+' Takes the source of a list. A qryName that begins with "Jet  " or
+' "SQLPassthrough  " (from the control's tag) loses that prefix, which
+' overrides strDBType2; the type that holds, "Jet", "SQL" or "String", is
+' returned. For "Jet" and "SQL" the saved query or SQL statement is opened
+' into rec, forward only, with varParam1 and varParam2, as many as are
+' given, as its parameters. rec is a new recordset in any case, open only
+' when the source gave rows. An error does not stop the steps after it; the
+' number of the last one is left in lngError, 0 when there was none.
+Private Function OpenListSource(qryName As String, ByVal strDBType2 As String, rec As ADODB.Recordset, lngError As Long, Optional varParam1 As Variant, Optional varParam2 As Variant) As String
+    Dim strDBType As String
+    Dim intParamCount As Integer
+    Dim qry As ADODB.Command
+
+    strDBType = strDBType2
+    If Left$(qryName, 5) = "Jet  " Then
+        strDBType = "Jet"
+        qryName = Mid$(qryName, 6)
+    ElseIf Left$(qryName, 16) = "SQLPassthrough  " Then
+        strDBType = "SQL"
+        qryName = Mid$(qryName, 17)
+    End If
+    OpenListSource = strDBType
+
+    If Not IsMissing(varParam1) Then intParamCount = intParamCount + 1
+    If Not IsMissing(varParam2) Then intParamCount = intParamCount + 1
+
+    Set rec = New ADODB.Recordset
+    lngError = 0
+    If strDBType <> "Jet" And strDBType <> "SQL" Then Exit Function
+    On Error Resume Next
+    If intParamCount = 0 Then
+        rec.Open qryName, pConn, adOpenForwardOnly
+    Else
+        Set qry = New ADODB.Command
+        Set qry.ActiveConnection = pConn
+        qry.CommandText = qryName
+        qry.Parameters(0).Value = varParam1
+        If intParamCount = 2 Then qry.Parameters(1).Value = varParam2
+        Set rec = qry.Execute
+    End If
+    lngError = Err.Number
+End Function
+
+' Steps a list filler through the rows of rec, as the condition of its Do
+' While loop: the first call stays on the first row, each later one moves to
+' the next. True while there is a row, each row counted in intcount. A row
+' the control refused loses only itself, but a move that fails ends the
+' walk, as does a recordset that is not open; rec is closed at the end.
+Private Function NextListRow(rec As ADODB.Recordset, intcount As Integer) As Boolean
+    Dim blnRow As Boolean
+
+    On Error Resume Next
+    If rec.State = adStateOpen Then
+        If intcount > 0 Then rec.MoveNext
+        If Err.Number = 0 Then blnRow = Not rec.EOF
+        If blnRow Then
+            intcount = intcount + 1
+        Else
+            rec.Close
+        End If
+    End If
+    NextListRow = blnRow
+End Function
+
+' The fields of the current row of rec as one text, joined by strSeparator.
+' A field that cannot be read counts as empty.
+Private Function ListRowText(rec As ADODB.Recordset, ByVal strSeparator As String) As String
+    Dim X As Integer
+
+    On Error Resume Next
+    For X = 0 To rec.Fields.Count - 1
+        If X > 0 Then ListRowText = ListRowText & strSeparator
+        ListRowText = ListRowText & rec(X)
+    Next X
+End Function
+
+' Sets the sub-items of objItem, an item of a ListItems collection
+' (GreenTree DataList, ListView), to the fields of the current row of rec
+' from field intFrom on: sub-item X holds field X. A sub-item the item
+' refuses loses only itself.
+Private Sub SetListSubItems(ByVal objItem As Object, rec As ADODB.Recordset, ByVal intFrom As Integer)
+    Dim X As Integer
+
+    On Error Resume Next
+    For X = intFrom To rec.Fields.Count - 1
+        objItem.SubItems(X) = rec(X) & ""
+    Next X
+End Sub
+
+' Steps a list filler through the value list strList two entries at a time,
+' as the condition of its Do While loop: the entries of pair intcount + 1 go
+' into vntFirst and vntSecond, and the pair is counted in intcount. False
+' when no entry is left, or when an error has been raised since the pair
+' before: a row the control refuses ends the walk.
+Private Function NextValueListPair(strList As String, intcount As Integer, vntFirst As Variant, vntSecond As Variant) As Boolean
+    If Err.Number <> 0 Then Exit Function
+    vntFirst = GetToken(strList, 2 * intcount + 1, ";")
+    If IsNull(vntFirst) Then Exit Function
+    vntSecond = GetToken(strList, 2 * intcount + 2, ";")
+    intcount = intcount + 1
+    NextValueListPair = True
+End Function
+
+' ---------------------------------------------------------------------------
 ' Eval: works out an expression given as text at run time. The converted
 ' macros hand over conditions and arguments that could not be rewritten into
 ' Visual Basic when the project was made.

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstring>
 #include <set>
 #include <string>
 #include <vector>
@@ -40,6 +42,10 @@ bool HasLine(const std::string& text, const std::string& line) {
 }
 
 std::string Template(int id) { return ConversionCodeTemplate(kDataDir, id); }
+
+std::string TrimIndent(const std::string& line) {
+  return line.substr(std::min(line.find_first_not_of(' '), line.size()));
+}
 
 // An output directory holding the base text as the driver copies it, and a
 // session and project that point at it.
@@ -194,7 +200,30 @@ TEST(ConversionCodeTemplates, EachIsOneProcedureWithItsHeader) {
   EXPECT_EQ(ConversionCodeTemplate(kDataDir / "missing", 700), "");
 }
 
-TEST(ConversionCodeTemplates, ListFillersTakeTheirSourceTheSameWay) {
+TEST(ConversionCodeTemplates, CallHelpersThatTheBaseTextDefinesOnce) {
+  // What the templates have in common is written once, as private
+  // procedures of the base text; a helper renamed or dropped on one side
+  // would leave the generated project uncompilable, one that no template
+  // calls would be dead code in every project.
+  const std::string base = ReadFile(kDataDir / "MorvaneConversionCode.bas");
+  std::string templates;
+  for (int id = kFirstConversionTemplate; id < kFirstConversionTemplate + kConversionTemplateCount;
+       ++id)
+    templates += Template(id);
+  for (const std::string name : {"OpenListSource", "NextListRow", "NextValueListPair",
+                                 "ListRowText", "SetListSubItems", "DomainLookup", "SysCmdQuery"}) {
+    SCOPED_TRACE(name);
+    int defined = 0;
+    for (const auto& line : SplitLines(base))
+      defined += line.starts_with("Private Function " + name + "(") ||
+                 line.starts_with("Private Sub " + name + "(");
+    EXPECT_EQ(defined, 1);
+    EXPECT_TRUE(templates.find(name + "(") != std::string::npos ||
+                templates.find(name + " ") != std::string::npos);
+  }
+}
+
+TEST(ConversionCodeTemplates, ListFillersTakeTheirSourceBeforeClearingAndIgnoreErrorsAfter) {
   struct Member {
     int id;
     const char* name;
@@ -212,19 +241,37 @@ TEST(ConversionCodeTemplates, ListFillersTakeTheirSourceTheSameWay) {
   for (const auto& m : members) {
     SCOPED_TRACE(m.name);
     const std::string text = Template(m.id);
-    for (const std::string& part :
-         {std::string("strDBType = strDBType2"),
-          std::string("If Left$(qryName, 5) = \"Jet  \" Then"),
-          std::string("qryName = Mid$(qryName, 6)"),
-          std::string("Left$(qryName, 16) = \"SQLPassthrough  \" Then"),
-          std::string("qryName = Mid$(qryName, 17)"), std::string("Set rec = New ADODB.Recordset"),
-          std::string("rec.Open qryName, pConn, adOpenForwardOnly"),
-          std::string("qry.CommandText = qryName"), std::string("Set rec = qry.Execute"),
-          std::string(m.clear), std::string(m.limit), std::string(m.name) + " = intcount"})
-      EXPECT_NE(text.find(part), std::string::npos) << part;
-    // Filling must not stop the form from loading.
-    EXPECT_NE(text.find("On Error Resume Next"), std::string::npos);
+    const size_t source = text.find(
+        "    strDBType = OpenListSource(qryName, strDBType2, rec, lngError, varParam1, "
+        "varParam2)\r\n");
+    const size_t clear = text.find(m.clear);
+    // A control that cannot be cleared is the caller's error; filling must
+    // not stop the form from loading.
+    const size_t ignore = text.find("    On Error Resume Next\r\n");
+    ASSERT_NE(ignore, std::string::npos);
+    EXPECT_LT(source, clear);
+    EXPECT_LT(clear, ignore);
+    // The commented-out limit stands in each walk, where uncommenting it
+    // compiles.
+    size_t walks = 0;
+    for (size_t at = text.find("Do While "); at != std::string::npos;
+         at = text.find("Do While ", at + 1), ++walks) {
+      const size_t next = text.find("\r\n", at) + 2;
+      EXPECT_EQ(TrimIndent(text.substr(next, text.find("\r\n", next) - next))
+                    .substr(0, std::strlen(m.limit)),
+                m.limit);
+    }
+    EXPECT_EQ(walks, 2u);
+    EXPECT_NE(text.find(std::string(m.name) + " = intcount"), std::string::npos);
   }
+  // The prefixes a control's tag sets, and the two ways a query is opened.
+  const std::string base = ReadFile(kDataDir / "MorvaneConversionCode.bas");
+  for (const char* line :
+       {"    If Left$(qryName, 5) = \"Jet  \" Then", "        qryName = Mid$(qryName, 6)",
+        "    ElseIf Left$(qryName, 16) = \"SQLPassthrough  \" Then",
+        "        qryName = Mid$(qryName, 17)", "        rec.Open qryName, pConn, adOpenForwardOnly",
+        "        qry.CommandText = qryName", "        Set rec = qry.Execute"})
+    EXPECT_TRUE(HasLine(base, line)) << line;
 }
 
 TEST(ConversionCodeTemplates, DomainFunctionsSelectTheirAggregate) {
