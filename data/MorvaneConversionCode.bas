@@ -210,16 +210,45 @@ End Sub
 
 ' Steps a list filler through the value list strList two entries at a time,
 ' as the condition of its Do While loop: the entries of pair intcount + 1 go
-' into vntFirst and vntSecond, and the pair is counted in intcount. False
-' when no entry is left, or when an error has been raised since the pair
-' before: a row the control refuses ends the walk.
+' into vntFirst and vntSecond, as items (see ValueListItem), and the pair is
+' counted in intcount. False when no entry is left, or when an error has
+' been raised since the pair before: a row the control refuses ends the walk.
 Private Function NextValueListPair(strList As String, intcount As Integer, vntFirst As Variant, vntSecond As Variant) As Boolean
     If Err.Number <> 0 Then Exit Function
     vntFirst = GetToken(strList, 2 * intcount + 1, ";")
     If IsNull(vntFirst) Then Exit Function
-    vntSecond = GetToken(strList, 2 * intcount + 2, ";")
+    vntFirst = ValueListItem(vntFirst)
+    vntSecond = ValueListItem(GetToken(strList, 2 * intcount + 2, ";"))
     intcount = intcount + 1
     NextValueListPair = True
+End Function
+
+' The entries of the value list strList, split at every ";", as an array
+' (from 0) of items (see ValueListItem).
+Private Function ValueListEntries(ByVal strList As String) As Variant
+    Dim vntEntries As Variant
+    Dim lngEntry As Long
+
+    vntEntries = Split(strList, ";")
+    For lngEntry = 0 To UBound(vntEntries)
+        vntEntries(lngEntry) = ValueListItem(vntEntries(lngEntry))
+    Next lngEntry
+    ValueListEntries = vntEntries
+End Function
+
+' An entry of a value list as the item it stands for. Access writes entries
+' in double quotes ("North";"South" or 1;"North"): one pair around the entry
+' is dropped, and a doubled quote inside it stands for one. An entry without
+' quotes is taken as it stands, and Null (no entry) stays Null.
+Private Function ValueListItem(ByVal vntEntry As Variant) As Variant
+    Dim strEntry As String
+
+    ValueListItem = vntEntry
+    If IsNull(vntEntry) Then Exit Function
+    strEntry = Trim$(vntEntry)
+    If Len(strEntry) >= 2 And Left$(strEntry, 1) = """" And Right$(strEntry, 1) = """" Then
+        ValueListItem = Replace(Mid$(strEntry, 2, Len(strEntry) - 2), """""", """")
+    End If
 End Function
 
 ' ---------------------------------------------------------------------------

@@ -31,7 +31,7 @@ Function AddItemsMS(qryName As String, ctl As Control, strDBType2 As String, Opt
                 End If
             Loop
         Case "String"
-            vntText = Split(qryName, ";")
+            vntText = ValueListEntries(qryName)
             X = 0
             Do While X <= UBound(vntText) And Err.Number = 0
                 ' If intCount > 100 Then Exit Do  ' Performance degrades on large lists: uncomment to limit the list.

@@ -24,7 +24,7 @@ Function AddItemsMSF(qryName As String, ctl As Control, strDBType2 As String, Op
             Next X
         Loop
     ElseIf strDBType = "String" Then
-        vntText = Split(qryName, ";")
+        vntText = ValueListEntries(qryName)
         Do While UBound(vntText) >= intcount * intFields And Err.Number = 0
             ' If intCount > 100 Then Exit Do  ' Performance degrades on large lists: uncomment to limit the list.
             ctl.AddItem vntText(intcount * intFields)

@@ -210,8 +210,9 @@ TEST(ConversionCodeTemplates, CallHelpersThatTheBaseTextDefinesOnce) {
   for (int id = kFirstConversionTemplate; id < kFirstConversionTemplate + kConversionTemplateCount;
        ++id)
     templates += Template(id);
-  for (const std::string name : {"OpenListSource", "NextListRow", "NextValueListPair",
-                                 "ListRowText", "SetListSubItems", "DomainLookup", "SysCmdQuery"}) {
+  for (const std::string name :
+       {"OpenListSource", "NextListRow", "NextValueListPair", "ValueListEntries", "ListRowText",
+        "SetListSubItems", "DomainLookup", "SysCmdQuery"}) {
     SCOPED_TRACE(name);
     int defined = 0;
     for (const auto& line : SplitLines(base))
@@ -263,6 +264,9 @@ TEST(ConversionCodeTemplates, ListFillersTakeTheirSourceBeforeClearingAndIgnoreE
     }
     EXPECT_EQ(walks, 2u);
     EXPECT_NE(text.find(std::string(m.name) + " = intcount"), std::string::npos);
+    // A value list is read only through the helpers that drop its quotes.
+    EXPECT_EQ(text.find("GetToken("), std::string::npos);
+    EXPECT_EQ(text.find("Split("), std::string::npos);
   }
   // The prefixes a control's tag sets, and the two ways a query is opened.
   const std::string base = ReadFile(kDataDir / "MorvaneConversionCode.bas");
