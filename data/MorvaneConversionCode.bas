@@ -5,7 +5,8 @@ Attribute VB_Name = "MorvaneConversionCode"
 ' Basic lacks. The converter appends to it GetFormFromName for the converted
 ' forms, Sub Main (which opens the database and shows the first form), and
 ' those helpers the code really calls: list filling, SysCmdVB,
-' OptionGroupValue and the domain aggregate functions.
+' OptionGroupValue and the domain aggregate functions. What those helpers
+' have in common is written once, here.
 Option Explicit
 
 ' The one database of the application, opened by Sub Main. Every CurrentDb
@@ -55,20 +56,199 @@ Public Function NotTranslated(ByVal strModule As String, ByVal lngLine As Long) 
         "Line " & lngLine & " of " & strModule & " was not translated; see the conversion analysis."
 End Function
 
-' The first value that an SQL statement returns, read over the ADO
-' connection; Null when it returns no row. The domain aggregate functions use
-' it when no DAO database is open.
-Private Function DomainLookupAdo(ByVal strSql As String) As Variant
-    Dim rec As ADODB.Recordset
+' The value of the first row that "Select <strSelect> From <strDomain>"
+' returns, with " Where <strCriteria>" behind it unless strCriteria is
+' empty; Null when no row comes back. The domain aggregate functions (DSum,
+' DLookup and their kin) are made of it. It asks the DAO database, or the ADO
+' connection in a project converted from an Access data project, which
+' opens no DAO database; both recordsets answer EOF, (0) and Close alike.
+Private Function DomainLookup(ByVal strSelect As String, ByVal strDomain As String, ByVal strCriteria As String) As Variant
+    Dim strSql As String
+    Dim rec As Object
 
-    Set rec = New ADODB.Recordset
-    rec.Open strSql, pConn, adOpenForwardOnly, adLockReadOnly
-    If rec.EOF Then
-        DomainLookupAdo = Null
+    strSql = "Select " & strSelect & " From " & strDomain
+    If strCriteria <> vbNullString Then strSql = strSql & " Where " & strCriteria
+    If db Is Nothing Then
+        Set rec = New ADODB.Recordset
+        rec.Open strSql, pConn, adOpenForwardOnly, adLockReadOnly
     Else
-        DomainLookupAdo = rec(0).Value
+        Set rec = db.OpenRecordset(strSql, dbOpenForwardOnly)
+    End If
+    If rec.EOF Then
+        DomainLookup = Null
+    Else
+        DomainLookup = rec(0).Value
     End If
     rec.Close
+End Function
+
+' The SysCmd actions that need no status bar, for SysCmdVB with or without
+' one: 13, the workgroup information file, and 10, the state of an object,
+' known here for forms only: 1 when a form of the name vValueOrObjectName is
+' loaded, else 0. Any other action or object type raises error 5.
+Private Function SysCmdQuery(ByVal iAction As Integer, vTextOrObjectType As Variant, vValueOrObjectName As Variant) As Variant
+    Dim frm As Form
+
+    Select Case iAction
+        Case 13
+#If Win16 Then
+            SysCmdQuery = DBEngine.IniPath
+#Else
+            SysCmdQuery = DBEngine.SystemDB
+#End If
+        Case 10
+            If CInt(vTextOrObjectType) = 2 Then
+                SysCmdQuery = 0
+                For Each frm In Forms
+                    If LCase$(frm.Name) = LCase$(CStr(vValueOrObjectName)) Then
+                        SysCmdQuery = 1
+                        Exit For
+                    End If
+                Next frm
+            Else
+                Err.Raise 5
+            End If
+        Case Else
+            Err.Raise 5
+    End Select
+End Function
+
+' ---------------------------------------------------------------------------
+' List filling: AddItems and its kin fill list and combo boxes of different
+' makes from a saved query, an SQL statement or a value list. Each walks the
+' rows its own way; taking the source and stepping through it is done here.
+' ---------------------------------------------------------------------------
+
+' Takes the source of a list. A qryName that begins with "Jet  " or
+' "SQLPassthrough  " (from the control's tag) loses that prefix, which
+' overrides strDBType2; the type that holds, "Jet", "SQL" or "String", is
+' returned. For "Jet" and "SQL" the saved query or SQL statement is opened
+' into rec, forward only, with varParam1 and varParam2, as many as are
+' given, as its parameters. rec is a new recordset in any case, open only
+' when the source gave rows. An error does not stop the steps after it; the
+' number of the last one is left in lngError, 0 when there was none.
+Private Function OpenListSource(qryName As String, ByVal strDBType2 As String, rec As ADODB.Recordset, lngError As Long, Optional varParam1 As Variant, Optional varParam2 As Variant) As String
+    Dim strDBType As String
+    Dim intParamCount As Integer
+    Dim qry As ADODB.Command
+
+    strDBType = strDBType2
+    If Left$(qryName, 5) = "Jet  " Then
+        strDBType = "Jet"
+        qryName = Mid$(qryName, 6)
+    ElseIf Left$(qryName, 16) = "SQLPassthrough  " Then
+        strDBType = "SQL"
+        qryName = Mid$(qryName, 17)
+    End If
+    OpenListSource = strDBType
+
+    If Not IsMissing(varParam1) Then intParamCount = intParamCount + 1
+    If Not IsMissing(varParam2) Then intParamCount = intParamCount + 1
+
+    Set rec = New ADODB.Recordset
+    lngError = 0
+    If strDBType <> "Jet" And strDBType <> "SQL" Then Exit Function
+    On Error Resume Next
+    If intParamCount = 0 Then
+        rec.Open qryName, pConn, adOpenForwardOnly
+    Else
+        Set qry = New ADODB.Command
+        Set qry.ActiveConnection = pConn
+        qry.CommandText = qryName
+        qry.Parameters(0).Value = varParam1
+        If intParamCount = 2 Then qry.Parameters(1).Value = varParam2
+        Set rec = qry.Execute
+    End If
+    lngError = Err.Number
+End Function
+
+' Steps a list filler through the rows of rec, as the condition of its Do
+' While loop: the first call stays on the first row, each later one moves to
+' the next. True while there is a row, each row counted in intcount. A row
+' the control refused loses only itself, but a move that fails ends the
+' walk, as does a recordset that is not open; rec is closed at the end.
+Private Function NextListRow(rec As ADODB.Recordset, intcount As Integer) As Boolean
+    Dim blnRow As Boolean
+
+    On Error Resume Next
+    If rec.State = adStateOpen Then
+        If intcount > 0 Then rec.MoveNext
+        If Err.Number = 0 Then blnRow = Not rec.EOF
+        If blnRow Then
+            intcount = intcount + 1
+        Else
+            rec.Close
+        End If
+    End If
+    NextListRow = blnRow
+End Function
+
+' The fields of the current row of rec as one text, joined by strSeparator.
+' A field that cannot be read counts as empty.
+Private Function ListRowText(rec As ADODB.Recordset, ByVal strSeparator As String) As String
+    Dim X As Integer
+
+    On Error Resume Next
+    For X = 0 To rec.Fields.Count - 1
+        If X > 0 Then ListRowText = ListRowText & strSeparator
+        ListRowText = ListRowText & rec(X)
+    Next X
+End Function
+
+' Sets the sub-items of objItem, an item of a ListItems collection
+' (GreenTree DataList, ListView), to the fields of the current row of rec
+' from field intFrom on: sub-item X holds field X. A sub-item the item
+' refuses loses only itself.
+Private Sub SetListSubItems(ByVal objItem As Object, rec As ADODB.Recordset, ByVal intFrom As Integer)
+    Dim X As Integer
+
+    On Error Resume Next
+    For X = intFrom To rec.Fields.Count - 1
+        objItem.SubItems(X) = rec(X) & ""
+    Next X
+End Sub
+
+' Steps a list filler through the value list strList two entries at a time,
+' as the condition of its Do While loop: the entries of pair intcount + 1 go
+' into vntFirst and vntSecond, as items (see ValueListItem), and the pair is
+' counted in intcount. False when no entry is left, or when an error has
+' been raised since the pair before: a row the control refuses ends the walk.
+Private Function NextValueListPair(strList As String, intcount As Integer, vntFirst As Variant, vntSecond As Variant) As Boolean
+    If Err.Number <> 0 Then Exit Function
+    vntFirst = GetToken(strList, 2 * intcount + 1, ";")
+    If IsNull(vntFirst) Then Exit Function
+    vntFirst = ValueListItem(vntFirst)
+    vntSecond = ValueListItem(GetToken(strList, 2 * intcount + 2, ";"))
+    intcount = intcount + 1
+    NextValueListPair = True
+End Function
+
+' The entries of the value list strList, split at every ";", as an array
+' (from 0) of items (see ValueListItem).
+Private Function ValueListEntries(ByVal strList As String) As Variant
+    Dim vntEntries As Variant
+    Dim lngEntry As Long
+
+    vntEntries = Split(strList, ";")
+    For lngEntry = 0 To UBound(vntEntries)
+        vntEntries(lngEntry) = ValueListItem(vntEntries(lngEntry))
+    Next lngEntry
+    ValueListEntries = vntEntries
+End Function
+
+' An entry of a value list as the item it stands for. Access writes entries
+' in double quotes ("North";"South" or 1;"North"): one pair around the entry
+' is dropped, and a doubled quote inside it stands for one. An entry without
+' quotes is taken as it stands, and Null (no entry) stays Null.
+Private Function ValueListItem(ByVal vntEntry As Variant) As Variant
+    Dim strEntry As String
+
+    ValueListItem = vntEntry
+    If IsNull(vntEntry) Then Exit Function
+    strEntry = Trim$(vntEntry)
+    If Len(strEntry) >= 2 And Left$(strEntry, 1) = """" And Right$(strEntry, 1) = """" Then
+        ValueListItem = Replace(Mid$(strEntry, 2, Len(strEntry) - 2), """""", """")
+    End If
 End Function
 
 ' ---------------------------------------------------------------------------
@@ -107,7 +287,7 @@ End Function
 Public Function Eval(ByVal strExpr As String) As Variant
     mstrEvalText = strExpr
     mlngEvalPos = 1
-    Eval = EvalXor()
+    Eval = EvalLevel(1)
     EvalSkipBlanks
     If mlngEvalPos <= Len(mstrEvalText) Then EvalFail
 End Function
@@ -151,34 +331,76 @@ Private Function EvalWord(ByVal strWord As String) As Boolean
     End If
 End Function
 
-Private Function EvalXor() As Variant
+' The binary operators by level, loosest first: 1 Xor, 2 Or, 3 And, 4 &,
+' 5 + and -, 6 Mod, 7 \, 8 * and /. Not and the comparisons bind between
+' And and &, signs and ^ more tightly than * and /. Operators of one level
+' apply from left to right.
+Private Function EvalLevel(ByVal intLevel As Integer) As Variant
     Dim vntValue As Variant
+    Dim strOperator As String
 
-    vntValue = EvalOr()
-    Do While EvalWord("Xor")
-        vntValue = vntValue Xor EvalOr()
+    vntValue = EvalOperand(intLevel)
+    Do
+        strOperator = EvalOperator(Choose(intLevel, "Xor", "Or", "And", "&", "+ -", "Mod", "\", "* /"))
+        If Len(strOperator) = 0 Then Exit Do
+        vntValue = EvalApply(vntValue, strOperator, EvalOperand(intLevel))
     Loop
-    EvalXor = vntValue
+    EvalLevel = vntValue
 End Function
 
-Private Function EvalOr() As Variant
-    Dim vntValue As Variant
-
-    vntValue = EvalAnd()
-    Do While EvalWord("Or")
-        vntValue = vntValue Or EvalAnd()
-    Loop
-    EvalOr = vntValue
+' An operand of the operators of level intLevel: an expression of the next
+' level, a Not expression for And, a signed power for * and /.
+Private Function EvalOperand(ByVal intLevel As Integer) As Variant
+    Select Case intLevel
+        Case 3
+            EvalOperand = EvalNot()
+        Case 8
+            EvalOperand = EvalSign()
+        Case Else
+            EvalOperand = EvalLevel(intLevel + 1)
+    End Select
 End Function
 
-Private Function EvalAnd() As Variant
-    Dim vntValue As Variant
+' Takes the first of the operators strOperators (separated by blanks) that
+' comes next, a word (Mod, And, ...) only as a whole word, and returns it as
+' written there; "" when none comes next.
+Private Function EvalOperator(ByVal strOperators As String) As String
+    Dim vntOperator As Variant
+    Dim blnTaken As Boolean
 
-    vntValue = EvalNot()
-    Do While EvalWord("And")
-        vntValue = vntValue And EvalNot()
-    Loop
-    EvalAnd = vntValue
+    For Each vntOperator In Split(strOperators, " ")
+        If EvalIsNameChar(Left$(vntOperator, 1)) Then
+            blnTaken = EvalWord(CStr(vntOperator))
+        Else
+            blnTaken = EvalSymbol(CStr(vntOperator))
+        End If
+        If blnTaken Then
+            EvalOperator = vntOperator
+            Exit Function
+        End If
+    Next vntOperator
+End Function
+
+' The value of vntLeft strOperator vntRight, by Visual Basic's own rules.
+Private Function EvalApply(ByVal vntLeft As Variant, ByVal strOperator As String, ByVal vntRight As Variant) As Variant
+    Select Case strOperator
+        Case "Xor": EvalApply = vntLeft Xor vntRight
+        Case "Or": EvalApply = vntLeft Or vntRight
+        Case "And": EvalApply = vntLeft And vntRight
+        Case "&": EvalApply = vntLeft & vntRight
+        Case "+": EvalApply = vntLeft + vntRight
+        Case "-": EvalApply = vntLeft - vntRight
+        Case "Mod": EvalApply = vntLeft Mod vntRight
+        Case "\": EvalApply = vntLeft \ vntRight
+        Case "*": EvalApply = vntLeft * vntRight
+        Case "/": EvalApply = vntLeft / vntRight
+        Case "=": EvalApply = (vntLeft = vntRight)
+        Case "<>": EvalApply = (vntLeft <> vntRight)
+        Case "<": EvalApply = (vntLeft < vntRight)
+        Case ">": EvalApply = (vntLeft > vntRight)
+        Case "<=": EvalApply = (vntLeft <= vntRight)
+        Case ">=": EvalApply = (vntLeft >= vntRight)
+    End Select
 End Function
 
 Private Function EvalNot() As Variant
@@ -195,28 +417,13 @@ End Function
 
 Private Function EvalCompare() As Variant
     Dim vntValue As Variant
-    Dim vntRight As Variant
+    Dim strOperator As String
 
-    vntValue = EvalConcat()
+    vntValue = EvalLevel(4)
     Do
-        If EvalSymbol("<>") Then
-            vntRight = EvalConcat()
-            vntValue = (vntValue <> vntRight)
-        ElseIf EvalSymbol("<=") Then
-            vntRight = EvalConcat()
-            vntValue = (vntValue <= vntRight)
-        ElseIf EvalSymbol(">=") Then
-            vntRight = EvalConcat()
-            vntValue = (vntValue >= vntRight)
-        ElseIf EvalSymbol("=") Then
-            vntRight = EvalConcat()
-            vntValue = (vntValue = vntRight)
-        ElseIf EvalSymbol("<") Then
-            vntRight = EvalConcat()
-            vntValue = (vntValue < vntRight)
-        ElseIf EvalSymbol(">") Then
-            vntRight = EvalConcat()
-            vntValue = (vntValue > vntRight)
+        strOperator = EvalOperator("<> <= >= = < >")
+        If Len(strOperator) > 0 Then
+            vntValue = EvalApply(vntValue, strOperator, EvalLevel(4))
         ElseIf Not EvalAccessOperator(vntValue) Then
             Exit Do
         End If
@@ -244,21 +451,21 @@ Private Function EvalAccessOperator(vntValue As Variant) As Boolean
     End If
     blnNot = EvalWord("Not")
     If EvalWord("Like") Then
-        vntItem = EvalConcat()
+        vntItem = EvalLevel(4)
         If IsNull(vntValue) Or IsNull(vntItem) Then
             vntValue = Null
         Else
             vntValue = ((LCase$(CStr(vntValue)) Like LCase$(CStr(vntItem))) <> blnNot)
         End If
     ElseIf EvalWord("Between") Then
-        vntLow = EvalConcat()
+        vntLow = EvalLevel(4)
         If Not EvalWord("And") Then EvalFail
-        vntHigh = EvalConcat()
+        vntHigh = EvalLevel(4)
         vntValue = ((vntValue >= vntLow And vntValue <= vntHigh) <> blnNot)
     ElseIf EvalWord("In") Then
         If Not EvalSymbol("(") Then EvalFail
         Do
-            vntItem = EvalConcat()
+            vntItem = EvalLevel(4)
             If Not IsNull(vntValue) And Not IsNull(vntItem) Then
                 If vntValue = vntItem Then blnFound = True
             End If
@@ -330,68 +537,6 @@ Private Function EvalSafeName(ByVal strName As String) As String
     Next
 End Function
 
-Private Function EvalConcat() As Variant
-    Dim vntValue As Variant
-
-    vntValue = EvalAdd()
-    Do While EvalSymbol("&")
-        vntValue = vntValue & EvalAdd()
-    Loop
-    EvalConcat = vntValue
-End Function
-
-Private Function EvalAdd() As Variant
-    Dim vntValue As Variant
-
-    vntValue = EvalMod()
-    Do
-        If EvalSymbol("+") Then
-            vntValue = vntValue + EvalMod()
-        ElseIf EvalSymbol("-") Then
-            vntValue = vntValue - EvalMod()
-        Else
-            Exit Do
-        End If
-    Loop
-    EvalAdd = vntValue
-End Function
-
-Private Function EvalMod() As Variant
-    Dim vntValue As Variant
-
-    vntValue = EvalIntDiv()
-    Do While EvalWord("Mod")
-        vntValue = vntValue Mod EvalIntDiv()
-    Loop
-    EvalMod = vntValue
-End Function
-
-Private Function EvalIntDiv() As Variant
-    Dim vntValue As Variant
-
-    vntValue = EvalMul()
-    Do While EvalSymbol("\")
-        vntValue = vntValue \ EvalMul()
-    Loop
-    EvalIntDiv = vntValue
-End Function
-
-Private Function EvalMul() As Variant
-    Dim vntValue As Variant
-
-    vntValue = EvalSign()
-    Do
-        If EvalSymbol("*") Then
-            vntValue = vntValue * EvalSign()
-        ElseIf EvalSymbol("/") Then
-            vntValue = vntValue / EvalSign()
-        Else
-            Exit Do
-        End If
-    Loop
-    EvalMul = vntValue
-End Function
-
 ' A sign binds less tightly than ^, so -2 ^ 2 is -4 as in Visual Basic.
 Private Function EvalSign() As Variant
     Dim blnNegative As Boolean
@@ -431,7 +576,7 @@ Private Function EvalPrimary() As Variant
     strChar = Mid$(mstrEvalText, mlngEvalPos, 1)
     If strChar = "(" Then
         mlngEvalPos = mlngEvalPos + 1
-        EvalPrimary = EvalXor()
+        EvalPrimary = EvalLevel(1)
         If Not EvalSymbol(")") Then EvalFail
     ElseIf strChar Like "[0-9.]" Then
         EvalPrimary = EvalNumber(True)

@@ -2,8 +2,6 @@ Public Function SysCmdVB(iAction As Integer, Optional vTextOrObjectType As Varia
     ' Stands in for Access's SysCmd. The meter and the status text are shown
     ' in the status area of MDIParent: the progress bar progStatus stands to
     ' the right of the caption lblStatusBarCaption.
-    Dim frm As Form
-
     Select Case iAction
         Case 1
             ' Initialise the meter: vTextOrObjectType is the caption,
@@ -27,28 +25,8 @@ Public Function SysCmdVB(iAction As Integer, Optional vTextOrObjectType As Varia
             ' Clear the status text.
             If MDIParent.progStatus.Visible Then MDIParent.progStatus.Visible = False
             MDIParent.lblStatusBarCaption.Caption = ""
-        Case 13
-            ' The workgroup information file.
-#If Win16 Then
-            SysCmdVB = DBEngine.IniPath
-#Else
-            SysCmdVB = DBEngine.SystemDB
-#End If
-        Case 10
-            ' The state of an object; only forms are known here: 1 when a
-            ' form of that name is loaded, else 0.
-            If CInt(vTextOrObjectType) = 2 Then
-                SysCmdVB = 0
-                For Each frm In Forms
-                    If LCase$(frm.Name) = LCase$(CStr(vValueOrObjectName)) Then
-                        SysCmdVB = 1
-                        Exit For
-                    End If
-                Next frm
-            Else
-                Err.Raise 5
-            End If
         Case Else
-            Err.Raise 5
+            ' The actions that need no status bar.
+            SysCmdVB = SysCmdQuery(iAction, vTextOrObjectType, vValueOrObjectName)
     End Select
 End Function

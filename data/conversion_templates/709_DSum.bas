@@ -1,24 +1,5 @@
 Public Function DSum(Expr As String, Domain As String, Optional Criteria As String) As Variant
-    ' Like Access's DSum: the sum of Expr
-    ' over the rows of the table or query Domain that meet Criteria, a
-    ' Where clause without "Where".
-    Dim rec As DAO.Recordset
-
-    If db Is Nothing Then
-        ' A project converted from an Access data project opens no DAO
-        ' database; the ADO connection answers instead.
-        If Criteria = vbNullString Then
-            DSum = DomainLookupAdo("Select Sum(" & Expr & ") From " & Domain)
-        Else
-            DSum = DomainLookupAdo("Select Sum(" & Expr & ") From " & Domain & " Where " & Criteria)
-        End If
-        Exit Function
-    End If
-    If Criteria = vbNullString Then
-        Set rec = db.OpenRecordset("Select Sum(" & Expr & ") From " & Domain, dbOpenForwardOnly)
-    Else
-        Set rec = db.OpenRecordset("Select Sum(" & Expr & ") From " & Domain & " Where " & Criteria, dbOpenForwardOnly)
-    End If
-    DSum = rec(0)
-    rec.Close
+    ' Like Access's DSum: the sum of Expr over the rows of the table or query
+    ' Domain that meet Criteria, a Where clause without "Where".
+    DSum = DomainLookup("Sum(" & Expr & ")", Domain, Criteria)
 End Function

@@ -1,24 +1,6 @@
 Public Function DCount(Expr As String, Domain As String, Optional Criteria As String) As Variant
-    ' Like Access's DCount: the number of non-Null values of Expr
-    ' over the rows of the table or query Domain that meet Criteria, a
-    ' Where clause without "Where".
-    Dim rec As DAO.Recordset
-
-    If db Is Nothing Then
-        ' A project converted from an Access data project opens no DAO
-        ' database; the ADO connection answers instead.
-        If Criteria = vbNullString Then
-            DCount = DomainLookupAdo("Select Count(" & Expr & ") From " & Domain)
-        Else
-            DCount = DomainLookupAdo("Select Count(" & Expr & ") From " & Domain & " Where " & Criteria)
-        End If
-        Exit Function
-    End If
-    If Criteria = vbNullString Then
-        Set rec = db.OpenRecordset("Select Count(" & Expr & ") From " & Domain, dbOpenForwardOnly)
-    Else
-        Set rec = db.OpenRecordset("Select Count(" & Expr & ") From " & Domain & " Where " & Criteria, dbOpenForwardOnly)
-    End If
-    DCount = rec(0)
-    rec.Close
+    ' Like Access's DCount: the number of non-Null values of Expr over the rows
+    ' of the table or query Domain that meet Criteria, a Where clause without
+    ' "Where".
+    DCount = DomainLookup("Count(" & Expr & ")", Domain, Criteria)
 End Function

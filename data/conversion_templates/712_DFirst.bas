@@ -1,24 +1,5 @@
 Public Function DFirst(Expr As String, Domain As String, Optional Criteria As String) As Variant
-    ' Like Access's DFirst: the first value of Expr
-    ' over the rows of the table or query Domain that meet Criteria, a
-    ' Where clause without "Where".
-    Dim rec As DAO.Recordset
-
-    If db Is Nothing Then
-        ' A project converted from an Access data project opens no DAO
-        ' database; the ADO connection answers instead.
-        If Criteria = vbNullString Then
-            DFirst = DomainLookupAdo("Select First(" & Expr & ") From " & Domain)
-        Else
-            DFirst = DomainLookupAdo("Select First(" & Expr & ") From " & Domain & " Where " & Criteria)
-        End If
-        Exit Function
-    End If
-    If Criteria = vbNullString Then
-        Set rec = db.OpenRecordset("Select First(" & Expr & ") From " & Domain, dbOpenForwardOnly)
-    Else
-        Set rec = db.OpenRecordset("Select First(" & Expr & ") From " & Domain & " Where " & Criteria, dbOpenForwardOnly)
-    End If
-    DFirst = rec(0)
-    rec.Close
+    ' Like Access's DFirst: the first value of Expr over the rows of the table
+    ' or query Domain that meet Criteria, a Where clause without "Where".
+    DFirst = DomainLookup("First(" & Expr & ")", Domain, Criteria)
 End Function

@@ -1,24 +1,5 @@
 Public Function DMax(Expr As String, Domain As String, Optional Criteria As String) As Variant
-    ' Like Access's DMax: the largest value of Expr
-    ' over the rows of the table or query Domain that meet Criteria, a
-    ' Where clause without "Where".
-    Dim rec As DAO.Recordset
-
-    If db Is Nothing Then
-        ' A project converted from an Access data project opens no DAO
-        ' database; the ADO connection answers instead.
-        If Criteria = vbNullString Then
-            DMax = DomainLookupAdo("Select Max(" & Expr & ") From " & Domain)
-        Else
-            DMax = DomainLookupAdo("Select Max(" & Expr & ") From " & Domain & " Where " & Criteria)
-        End If
-        Exit Function
-    End If
-    If Criteria = vbNullString Then
-        Set rec = db.OpenRecordset("Select Max(" & Expr & ") From " & Domain, dbOpenForwardOnly)
-    Else
-        Set rec = db.OpenRecordset("Select Max(" & Expr & ") From " & Domain & " Where " & Criteria, dbOpenForwardOnly)
-    End If
-    DMax = rec(0)
-    rec.Close
+    ' Like Access's DMax: the largest value of Expr over the rows of the table
+    ' or query Domain that meet Criteria, a Where clause without "Where".
+    DMax = DomainLookup("Max(" & Expr & ")", Domain, Criteria)
 End Function

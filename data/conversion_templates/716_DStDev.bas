@@ -1,24 +1,6 @@
 Public Function DStDev(Expr As String, Domain As String, Optional Criteria As String) As Variant
-    ' Like Access's DStDev: the standard deviation (sample) of Expr
-    ' over the rows of the table or query Domain that meet Criteria, a
-    ' Where clause without "Where".
-    Dim rec As DAO.Recordset
-
-    If db Is Nothing Then
-        ' A project converted from an Access data project opens no DAO
-        ' database; the ADO connection answers instead.
-        If Criteria = vbNullString Then
-            DStDev = DomainLookupAdo("Select StDev(" & Expr & ") From " & Domain)
-        Else
-            DStDev = DomainLookupAdo("Select StDev(" & Expr & ") From " & Domain & " Where " & Criteria)
-        End If
-        Exit Function
-    End If
-    If Criteria = vbNullString Then
-        Set rec = db.OpenRecordset("Select StDev(" & Expr & ") From " & Domain, dbOpenForwardOnly)
-    Else
-        Set rec = db.OpenRecordset("Select StDev(" & Expr & ") From " & Domain & " Where " & Criteria, dbOpenForwardOnly)
-    End If
-    DStDev = rec(0)
-    rec.Close
+    ' Like Access's DStDev: the standard deviation (sample) of Expr over the
+    ' rows of the table or query Domain that meet Criteria, a Where clause
+    ' without "Where".
+    DStDev = DomainLookup("StDev(" & Expr & ")", Domain, Criteria)
 End Function
