@@ -122,19 +122,6 @@ bool HoldsTemplate(std::string_view text, const std::string& templateText) {
 constexpr std::string_view kRowsDim = "Dim strRowSource As String";
 constexpr size_t kPieceBytes = 800;
 
-std::vector<std::string> RowSourcePieces(const std::string& rowSource) {
-  std::vector<std::string> out;
-  std::string piece;
-  for (size_t i = 0; i < rowSource.size(); ++i) {
-    piece += rowSource[i];
-    if (rowSource[i] == '"' && i + 1 < rowSource.size() && rowSource[i + 1] == '"')
-      piece += rowSource[++i];
-    if (piece.size() >= kPieceBytes) out.push_back(std::exchange(piece, {}));
-  }
-  if (!piece.empty()) out.push_back(piece);
-  return out;
-}
-
 // Adds `add` at the end of the form's initialiser `header`, with the
 // variable's declaration ahead of them when `withRows` and the initialiser
 // has none yet; false when the form has no initialiser. The initialiser is
@@ -182,7 +169,7 @@ void WriteListInit(ConversionSession& s, const std::string& header,
   std::vector<std::string> lines;
   const bool withRows = rowSource.size() > kPieceBytes;
   if (withRows) {
-    for (const std::string& piece : RowSourcePieces(rowSource))
+    for (const std::string& piece : QuotedPieces(rowSource, kPieceBytes))
       lines.push_back(lines.empty() ? "strRowSource = \"" + piece + "\""
                                     : "strRowSource = strRowSource & \"" + piece + "\"");
     lines.push_back("Call " + procedure + "(strRowSource" + rest);
