@@ -1,7 +1,8 @@
 // Encoding detection and conversion to Windows-1252. iconv decodes UTF-8 and
 // UTF-16 to code points (and rejects what is not valid in them); the step to
 // Windows-1252 is a table, so that a character without a Windows-1252 form
-// becomes "?" and is counted instead of stopping the conversion.
+// becomes its plain letter (or "?") and is counted instead of stopping the
+// conversion.
 #include "platform/encoding.h"
 
 #include <errno.h>
@@ -32,6 +33,28 @@ constexpr SpecialChar kSpecials[] = {
     {0x0153, 0x9C}, {0x017E, 0x9E}, {0x0178, 0x9F},
 };
 static_assert(std::size(kSpecials) == 27);
+
+// The plain letter of each accented Latin letter that Windows-1252 lacks
+// (U+0100..U+017F, then U+1E00..U+1EFF), "?" where there is none. Names
+// written in Latvian, Polish, Czech or Vietnamese then stay names Visual
+// Basic reads, and the same letter gives the same name wherever it is used.
+constexpr std::string_view kLatinExtendedA =
+    "AaAaAaCcCcCcCcDdDdEeEeEeEeEeGgGgGgGgHhHhIiIiIiIiIiIiJjKkkLlLlLlLlLlNnNnNnnNnOoOoOo??RrRrRrSsSsSs"
+    "SsTtTtTtUuUuUuUuUuUuWwYyYZzZzZzs";
+constexpr std::string_view kLatinExtendedAdditional =
+    "AaBbBbBbCcDdDdDdDdDdEeEeEeEeEeFfGgHhHhHhHhHhIiIiKkKkKkLlLlLlLlMmMmMmNnNnNnNnOoOoOoOoPpPpRrRrRrRr"
+    "SsSsSsSsSsTtTtTtTtUuUuUuUuUuVvVvWwWwWwWwWwXxXxYyZzZzZzhtwy??????AaAaAaAaAaAaAaAaAaAaAaAaEeEeEeEe"
+    "EeEeEeEeIiIiOoOoOoOoOoOoOoOoOoOoOoOoUuUuUuUuUuUuUuYyYyYyYy??????";
+static_assert(kLatinExtendedA.size() == 0x80 && kLatinExtendedAdditional.size() == 0x100);
+
+// The nearest Windows-1252 byte of a character that has no form there: its
+// plain letter, else "?".
+unsigned char NearestWindows1252(char32_t cp) {
+  if (cp >= 0x100 && cp < 0x180) return static_cast<unsigned char>(kLatinExtendedA[cp - 0x100]);
+  if (cp >= 0x1E00 && cp < 0x1F00)
+    return static_cast<unsigned char>(kLatinExtendedAdditional[cp - 0x1E00]);
+  return '?';
+}
 
 const char* IconvName(TextEncoding e) {
   switch (e) {
@@ -212,7 +235,7 @@ DecodeStatus DecodeToWindows1252(std::string_view bytes, DecodedText* out, std::
     if (cp == U'\n' || (cp == U'\r' && (i + 1 >= cps.size() || cps[i + 1] != U'\n'))) ++line;
     unsigned char b = Windows1252FromCodePoint(cp);
     if (b == 0 && cp != 0) {
-      b = '?';
+      b = NearestWindows1252(cp);
       if (out->Unmappable++ == 0) out->FirstUnmappableLine = line;
     }
     out->Text.push_back(static_cast<char>(b));
@@ -263,19 +286,6 @@ void AppendUtf8(std::string& out, char32_t cp) {
   }
 }
 
-// The base letters of Latin Extended-A (U+0100 to U+017F), in order: the
-// letters of Central European and Baltic names without their marks.
-constexpr std::string_view kLatinExtendedA =
-    "AaAaAaCcCcCcCcDd"
-    "DdEeEeEeEeEeGgGg"
-    "GgGgHhHhIiIiIiIi"
-    "IiIiJjKkkLlLlLlL"
-    "lLlNnNnNnnNnOoOo"
-    "OoOoRrRrRrSsSsSs"
-    "SsTtTtTtUuUuUuUu"
-    "UuUuWwYyYZzZzZzs";
-static_assert(kLatinExtendedA.size() == 0x80);
-
 }  // namespace
 
 std::string Windows1252ToUtf8(std::string_view text) {
@@ -301,8 +311,8 @@ std::string Utf8NameToWindows1252(std::string_view text) {
     if (cp == 0xFEFF) continue;
     if (const unsigned char b = Windows1252FromCodePoint(cp); b != 0 || cp == 0) {
       out += static_cast<char>(b);
-    } else if (cp >= 0x100 && cp < 0x180) {
-      out += kLatinExtendedA[cp - 0x100];
+    } else if (const unsigned char letter = NearestWindows1252(cp); letter != '?') {
+      out += static_cast<char>(letter);
     } else {
       char buf[16];
       std::snprintf(buf, sizeof buf, "u%04X", static_cast<unsigned>(cp));

@@ -230,7 +230,7 @@ void DirectorySourceTree::ReadFile(const fs::path& file, const LayoutRule* force
   if (text.Unmappable > 0)
     warnings_.push_back(file.string() + ", line " + std::to_string(text.FirstUnmappableLine) +
                         ": " + std::to_string(text.Unmappable) +
-                        " character(s) with no Windows-1252 form became \"?\"");
+                        " character(s) with no Windows-1252 form became their plain letter or \"?\"");
   if (forced && forced->KindFolders) {
     AccessObjectKind folderKind, contentKind;
     KindOfFolder(file.lexically_relative(root_).begin()->string(), &folderKind);

@@ -54,7 +54,7 @@ TEST(EncodingTest, DecodesEachEncodingToWindows1252) {
   }
 }
 
-TEST(EncodingTest, CharactersWithoutWindows1252FormBecomeQuestionMarks) {
+TEST(EncodingTest, CharactersWithoutWindows1252FormBecomePlainLettersOrQuestionMarks) {
   DecodedText out;
   std::string err;
   ASSERT_EQ(DecodeToWindows1252(Utf16Le(u"a\r\nb\u4E2Dc\n\u0391\U0001F600"), &out, &err),
@@ -66,6 +66,14 @@ TEST(EncodingTest, CharactersWithoutWindows1252FormBecomeQuestionMarks) {
   ASSERT_EQ(DecodeToWindows1252("x\xE2\x86\x92y", &out, &err), DecodeStatus::Ok);
   EXPECT_EQ(out.Text, "x?y");
   EXPECT_EQ(out.FirstUnmappableLine, 1);
+
+  // Accented Latin letters outside Windows-1252 keep their plain letter, so
+  // that a Latvian or Vietnamese name stays a name; those inside keep theirs.
+  ASSERT_EQ(DecodeToWindows1252("Pils\xC4\x93ta_\xC5\xA1\xC4\xB7\xC5\x82 \xE1\xBB\x87 \xC5\x89", &out,
+                                &err),
+            DecodeStatus::Ok);
+  EXPECT_EQ(out.Text, "Pilseta_\x9Akl e n");
+  EXPECT_EQ(out.Unmappable, 5);
 }
 
 TEST(EncodingTest, BrokenUtf16AndBinaryAreRefused) {
