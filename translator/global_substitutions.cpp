@@ -47,11 +47,15 @@ constexpr Replacement kDatabaseNames[] = {
 };
 
 // Local declarations of db go: the generated code has one database variable.
-// Not in an Access data project, which has no DAO database.
+// Not in an Access data project, which has no DAO database. A declaration
+// continued with its comma on the next line reads "Database , x" once its
+// lines are joined; it loses db and keeps its Dim like the others, since
+// taking the bare declaration away would leave the rest with no Dim.
 constexpr Replacement kDatabaseVariable[] = {
-    {"dim db as database,", "dim "}, {"dim db as database", ""},
-    {", db as database", ""},        {"dim db as dao.database,", "dim "},
-    {"dim db as dao.database", ""},  {", db as dao.database", ""},
+    {"dim db as database,", "dim "},     {"dim db as database ,", "dim "},
+    {"dim db as database", ""},          {", db as database", ""},
+    {"dim db as dao.database,", "dim "}, {"dim db as dao.database ,", "dim "},
+    {"dim db as dao.database", ""},      {", db as dao.database", ""},
     {"dbengine(0)(0)", "db"},        {"DBEngine.Workspaces(0).Databases(0)", "db"},
 };
 

@@ -22,6 +22,7 @@
 #include "translator/rule_outcomes.h"
 #include "translator/statements.h"
 #include "translator/unsupported_features.h"
+#include "translator/vb_code.h"
 #include "translator/vb_text.h"
 #include "translator/vba64_rules.h"
 
@@ -33,6 +34,18 @@ namespace {
 // the data control of another form (a subform's code).
 constexpr std::string_view kFormCodeMark = "'MORVANE Form Code for ";
 constexpr std::string_view kEndFormCodeMark = "'MORVANE End Form Code for ";
+
+// Whether a "Set db =" line sets db to the application's own database, the
+// one the generated code's db already is.
+bool SetsTheCurrentDatabase(const std::string& line) {
+  const std::string code = CodePart(line);
+  const std::string value = TrimBlanks(std::string_view(code).substr(code.find('=') + 1));
+  for (std::string_view same : {"CurrentDb", "CurrentDb()", "DBEngine(0)(0)",
+                                "DBEngine(0).Databases(0)", "DBEngine.Workspaces(0).Databases(0)",
+                                "Workspaces(0).Databases(0)", "db"})
+    if (EqualsNoCase(value, same)) return true;
+  return false;
+}
 
 }  // namespace
 
@@ -75,14 +88,22 @@ std::string TranslateStatement(ModuleTranslation& t, std::string line, bool newL
   EventBodyRules(t, line);
   if (Fires(t, line, "Application.")) ApplicationRules(t, line);
 
+  const std::string original = line;
+  bool reassigns = false;
+
   if (StartsWithNoCase(line, "DoCmd.")) {
     DoCmdRules(t, line);
   } else if (StartsWithNoCase(line, "Option Compare Database")) {
     line.clear();
-  } else if (StartsWithNoCase(line, "Set db =")) {
-    // The generated code has one database variable of its own.
+  } else if (StartsWithNoCase(line, "Set db =") && SetsTheCurrentDatabase(line)) {
+    // The generated code has one database variable of its own, set to the
+    // application's database by Sub Main.
     Bump(t.BlankLines);
     return std::string();
+  } else if (StartsWithNoCase(line, "Set db =")) {
+    // Another database: its local declaration is gone, so the line now sets
+    // the program's one database variable. It stays, for the user to see.
+    reassigns = true;
   } else if (Fires(t, line, ".REQUERY", kInCodeExact)) {
     RequeryRule(t, line);
   }
@@ -94,6 +115,9 @@ std::string TranslateStatement(ModuleTranslation& t, std::string line, bool newL
     ReportRules(t, line);
   Vba64Rules(t, line);
   GlobalSubstitutions(t, line);
+  if (reassigns)
+    ReportRule(t, kReasonReview, original,
+               line + "  (sets the program's one database variable db)");
   return line;
 }
 

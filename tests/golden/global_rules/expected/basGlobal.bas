@@ -24,3 +24,14 @@ Public Sub Rules()
     'MORVANE Set f = Me.Form
     'MORVANE Debug.Print Reports!rptSales.Caption
 End Sub
+
+Public Sub OtherDatabase(path As String)
+    dim  tdf As DAO.TableDef _
+        , fld As DAO.Field
+    If Len(path) > 0 Then
+        Set db = OpenDatabase(path)
+    Else
+
+    End If
+
+End Sub

@@ -24,3 +24,15 @@ Public Sub Rules()
     Set f = Me.Form
     Debug.Print Reports!rptSales.Caption
 End Sub
+
+Public Sub OtherDatabase(path As String)
+    Dim db As DAO.Database _
+        , tdf As DAO.TableDef _
+        , fld As DAO.Field
+    If Len(path) > 0 Then
+        Set db = OpenDatabase(path)
+    Else
+        Set db = CurrentDb
+    End If
+    Set db = DBEngine(0)(0) ' the same database
+End Sub
