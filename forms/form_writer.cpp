@@ -45,15 +45,6 @@ bool AddHeight(long& y, long h) {
   return true;
 }
 
-// What the walk meets but this build does not convert yet: a line in the
-// analysis rather than a silent gap in the form.
-void NotConvertedYet(FormWriter& w, const ControlDesign& c, const std::string& what) {
-  w.Text().Accounted.insert(&c);
-  ++w.Session().Form().ControlsNotConverted;
-  ConversionSession& s = w.Session();
-  if (s.SupportDb) s.SupportDb->AddRunNote(w.Text().OwnerFormName, what + " is not converted yet");
-}
-
 // Whether the writer of a control's holder writes the control with it: the
 // members of an option group and their labels, the label of an option
 // button, the pages of a tab control (named with it).

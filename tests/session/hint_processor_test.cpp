@@ -101,7 +101,7 @@ TEST(ProcessHints, FormFlagsCountsGridsAndAnalysisRows) {
   Fixture f;
   Recorder r;
   f.Process(
-      {DatasheetGridHint{"sfrFirst"}, DatasheetGridHint{"sfrSecond"}, FormImageHint{"1", "True"},
+      {DatasheetGridHint{"sfrFirst", "", {}}, DatasheetGridHint{"sfrSecond", "", {}}, FormImageHint{"1", "True"},
        ControlCountsHint{12, 3}, ReportRowHint{"Orders", 4, "ctlChart", 0, "", ""},
        LabelCaptionHint{"lblNote", "Line one\" & vbCrLf & \"line two"}},
       r);
