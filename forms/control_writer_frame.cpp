@@ -154,6 +154,11 @@ std::optional<std::string> ExtentOf(const DesignObject& o, std::string_view prop
   return Extent(*v);
 }
 
+void AddExtentLines(std::string& text, const DesignObject& o) {
+  AddLine(text, "_ExtentX = ", ExtentOf(o, "Width"));
+  AddLine(text, "_ExtentY = ", ExtentOf(o, "Height"));
+}
+
 void AddBoxLines(std::string& text, const FormWriter& w, const ControlDesign& c) {
   AddLine(text, "Height = ", ValueText(c, "Height"));
   AddLine(text, "Left = ", w.ControlLeft(c));

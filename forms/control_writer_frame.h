@@ -69,6 +69,8 @@ std::optional<std::string> AbsText(std::string_view text);
 // The extent of a length property; nullopt when it cannot be read.
 std::optional<std::string> ExtentOf(const DesignObject& o, std::string_view property);
 
+// "_ExtentX = " and "_ExtentY = " of the width and the height.
+void AddExtentLines(std::string& text, const DesignObject& o);
 // Height, Left, Top and Width in this order.
 void AddBoxLines(std::string& text, const FormWriter& w, const ControlDesign& c);
 // Height, Left, TabIndex, TabStop, Top and Width: the box of a control in

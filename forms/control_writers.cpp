@@ -150,8 +150,7 @@ void WriteCommandButton(FormWriter& w) {
     AddLine(text, "_StockProps = 78");
     AddLine(text, "ForeColor= &H", Hex(c, "ForeColor"), "&");
     AddLine(text, "Caption = \"", shown, "\"");
-    AddLine(text, "_ExtentX = ", ExtentOf(c, "Width"));
-    AddLine(text, "_ExtentY = ", ExtentOf(c, "Height"));
+    AddExtentLines(text, c);
     AddFontLines(text, c, true);
     AddLine(text, "AutoSize = 0");
   } else {

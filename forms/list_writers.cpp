@@ -228,6 +228,15 @@ void AddListPlacement(std::string& text, const ListControl& l) {
   AddLine(text, "Width = ", ValueText(c, "Width"));
 }
 
+void AddGridListTail(std::string& text, const ListControl& l) {
+  const ControlDesign& c = l.c;
+  AddLine(text, "TabStop =", ValueText(c, "TabStop"));
+  AddColorLines(text, c);
+  AddListTagLine(text, l);
+  AddTipLine(text, c);
+  AddVisibleLine(text, c);
+}
+
 void CloseList(std::string text, const ListControl& l) {
   AddLine(text, "End");
   AddRowDataControl(text, l);

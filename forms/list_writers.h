@@ -87,6 +87,9 @@ std::optional<long> TopOf(const ListControl& l);
 // Height, Left, TabIndex, TabStop, Enabled, Top and Width: the place and tab
 // order of the substitutes that write "TabIndex =" without a blank.
 void AddListPlacement(std::string& text, const ListControl& l);
+// The last lines of a GreenTree or Sheridan list box: tab stop, colours,
+// the tag naming its row source, tool tip and visibility.
+void AddGridListTail(std::string& text, const ListControl& l);
 // Closes the list's lines with "End", adds its row source's data control,
 // puts both into the form and counts the list.
 void CloseList(std::string text, const ListControl& l);

@@ -117,15 +117,10 @@ void WriteGreenTreeList(FormWriter& w) {
   }
   AddLine(text, "LImgs.Count = 1");
   AddLine(text, "GridLineType = 2");
-  AddLine(text, "_ExtentX = ", ExtentOf(c, "Width"));
-  AddLine(text, "_ExtentY = ", ExtentOf(c, "Height"));
+  AddExtentLines(text, c);
   AddLine(text, "_StockProps = 81");
   AddLine(text, "BackColor = -2147483643");
-  AddLine(text, "TabStop =", ValueText(c, "TabStop"));
-  AddColorLines(text, c);
-  AddListTagLine(text, l);
-  AddTipLine(text, c);
-  AddVisibleLine(text, c);
+  AddGridListTail(text, l);
   CloseList(std::move(text), l);
 }
 
@@ -176,8 +171,7 @@ void WriteGreenTreeCombo(FormWriter& w) {
   AddLine(text, "LImgs.Count = 1");
   if (auto limit = c.Flag("LimitToList"))
     AddLine(text, *limit ? "ComboStyle = 2" : "ComboStyle = 0");
-  AddLine(text, "_ExtentX = ", ExtentOf(c, "Width"));
-  AddLine(text, "_ExtentY = ", ExtentOf(c, "Height"));
+  AddExtentLines(text, c);
   AddLine(text, "_StockProps = 81");
   AddLine(text, "BackColor = -2147483643");
   AddLine(text, "ForeColor= &H", Hex(c, "ForeColor"), "&");

@@ -55,8 +55,7 @@ void WriteOwnList(FormWriter& w) {
   AddLine(text, "Cols = ", l.Columns);
   AddLine(text, "ColumnWidths = \"", c.Text("ColumnWidths"), "\"");
   if (IsTrueOrUnread(c.Flag("ColumnHeads"))) AddLine(text, "FixedCols = 1");
-  AddLine(text, "_ExtentX = ", ExtentOf(c, "Width"));
-  AddLine(text, "_ExtentY = ", ExtentOf(c, "Height"));
+  AddExtentLines(text, c);
   AddFontLines(text, c, true);
   AddLine(text, "TabStop =", ValueText(c, "TabStop"));
   AddColorLines(text, c);

@@ -130,15 +130,10 @@ void WriteSheridanList(FormWriter& w) {
   AddLine(text, "RowHeight = 450");
   AddLine(text, "Columns.count = ", l.Columns);
   for (long i = 1; i <= l.N(); ++i) AddColumn(text, l, i - 1, l.ColumnWidth(i));
-  AddLine(text, "_ExtentX = ", ExtentOf(c, "Width"));
-  AddLine(text, "_ExtentY = ", ExtentOf(c, "Height"));
+  AddExtentLines(text, c);
   AddLine(text, "_StockProps = 79");
   AddFontLines(text, c, true);
-  AddLine(text, "TabStop =", ValueText(c, "TabStop"));
-  AddColorLines(text, c);
-  AddListTagLine(text, l);
-  AddTipLine(text, c);
-  AddVisibleLine(text, c);
+  AddGridListTail(text, l);
   CloseList(std::move(text), l);
 }
 

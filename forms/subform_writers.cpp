@@ -153,25 +153,6 @@ void NoteCodeLeftBehind(FormWriter& w, const std::string& name, const FormDesign
   if (code) PartlyConverted(w, name, "the module of " + f->Name() + " is not carried into " + as);
 }
 
-// The parent's data control re-queries the subform's on each move: the
-// subform then shows the rows of the parent's current record. A parent
-// without a record source has no data control to do it.
-void AddLinkHints(FormWriter& w, const ControlDesign& c, const std::string& recordSource,
-                  const std::string& dataControl) {
-  ConversionSession& s = w.Session();
-  const FormDesign& parent = c.Owner();
-  if (parent.Text("RecordSource").value_or("").empty() || recordSource.empty()) return;
-  const std::string parentData = w.DataControlOf(parent.Name());
-  AddHint(s, DataControlEntryHint{parentData, dataControl + ".Recordset.MoveFirst"});
-  AddHint(s, DataControlEntryHint{parentData, dataControl + ".Recordset.Movelast"});
-  AddHint(s, DataControlEntryHint{parentData, dataControl + ".refresh"});
-  if (c.Text("LinkMasterFields").value_or("").empty() &&
-      c.Text("LinkChildFields").value_or("").empty())
-    return;
-  AddHint(s, DataControlEntryHint{parentData, dataControl + ".RecordSource=\"" +
-                                                  SubformLinkSql(w, recordSource, c)});
-}
-
 // "Tag=" naming the grid's stored query, as a list's tag does.
 void AddQueryTag(std::string& text, ConversionSession& s, const ControlDesign& c,
                  const std::string& source) {
@@ -449,7 +430,7 @@ void WriteGrid(FormWriter& w, const ControlDesign& c, const GridSource& g, Subfo
   CountControl(w);
   PutText(w, data);
   s.Form().CurrentControlName = name;
-  AddLinkHints(w, c, g.RecordSource, dataName);
+  AddSubformLinkHints(w, c, g.RecordSource, dataName);
   NoteCodeLeftBehind(w, name, g.Form, "its grid");
 }
 
