@@ -26,6 +26,12 @@ const ControlDesign* BeginControl(FormWriter& w) {
   return c;
 }
 
+std::string OpenControlText(const FormWriter& w, std::string_view begin) {
+  std::string text;
+  AddLine(text, std::string(begin) + w.Session().Form().CurrentControlName);
+  return text;
+}
+
 void PutText(FormWriter& w, std::string text) {
   if (text.size() >= 2 && text.compare(text.size() - 2, 2, "\r\n") == 0)
     text.resize(text.size() - 2);
@@ -57,12 +63,16 @@ void CountControl(FormWriter& w, int partial) {
   w.Text().FormPartialCount += partial;
 }
 
-void FinishControl(FormWriter& w, const ControlDesign& c, std::string text,
-                   ControlEventKind eventRecord) {
+void CloseControl(FormWriter& w, std::string text, int partial) {
   AddLine(text, "End");
   PutText(w, std::move(text));
+  CountControl(w, partial);
+}
+
+void FinishControl(FormWriter& w, const ControlDesign& c, std::string text,
+                   ControlEventKind eventRecord) {
+  CloseControl(w, std::move(text));
   AddControlHint(w, c, eventRecord);
-  CountControl(w);
 }
 
 const FormDesign* CurrentFormOf(const FormWriter& w) { return w.Text().CurrentForm; }
@@ -136,6 +146,44 @@ std::optional<std::string> AbsText(std::string_view text) {
   auto n = NumberOfText(text);
   if (!n) return std::nullopt;
   return DecimalText(std::fabs(*n));
+}
+
+std::optional<std::string> ExtentOf(const DesignObject& o, std::string_view property) {
+  auto v = o.Real(property);
+  if (!v) return std::nullopt;
+  return Extent(*v);
+}
+
+void AddExtentLines(std::string& text, const DesignObject& o) {
+  AddLine(text, "_ExtentX = ", ExtentOf(o, "Width"));
+  AddLine(text, "_ExtentY = ", ExtentOf(o, "Height"));
+}
+
+void AddBoxLines(std::string& text, const FormWriter& w, const ControlDesign& c) {
+  AddLine(text, "Height = ", ValueText(c, "Height"));
+  AddLine(text, "Left = ", w.ControlLeft(c));
+  AddLine(text, "Top = ", w.ControlTop(c));
+  AddLine(text, "Width = ", ValueText(c, "Width"));
+}
+
+void AddTabBoxLines(std::string& text, const FormWriter& w, const ControlDesign& c) {
+  AddLine(text, "Height = ", ValueText(c, "Height"));
+  AddLine(text, "Left = ", w.ControlLeft(c));
+  AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));
+  AddTabStopLine(text, c);
+  AddLine(text, "Top = ", w.ControlTop(c));
+  AddLine(text, "Width = ", ValueText(c, "Width"));
+}
+
+void AddHelpLines(std::string& text, const DesignObject& o) {
+  AddLine(text, "HelpContextID = ", ValueText(o, "HelpContextID"));
+  AddTipLine(text, o);
+  AddTagLine(text, o);
+}
+
+void AddColorLines(std::string& text, const DesignObject& o) {
+  AddLine(text, "BackColor= &H", Hex(o, "BackColor"), "&");
+  AddLine(text, "ForeColor= &H", Hex(o, "ForeColor"), "&");
 }
 
 void AddAlignmentLine(std::string& text, const FormWriter& w, const ControlDesign& c) {

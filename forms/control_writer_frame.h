@@ -20,6 +20,9 @@ class FormWriter;
 // Step 1 of every writer: the current control gets its unique name and its
 // page. Null when the writer has no control in hand.
 const ControlDesign* BeginControl(FormWriter& w);
+// The control's text opened by its first line: `begin` (the "Begin" and
+// class) followed by CurrentControlName.
+std::string OpenControlText(const FormWriter& w, std::string_view begin);
 // Hands the built lines (each ended by CR LF) to PutControlText without the
 // last line end.
 void PutText(FormWriter& w, std::string text);
@@ -32,8 +35,10 @@ void AddControlHint(FormWriter& w, const ControlDesign& c, ControlEventKind kind
 // form, the reason and CurrentControlName.
 void AddReportHint(FormWriter& w, long reason);
 void CountControl(FormWriter& w, int partial = 0);
-// Closes a control's lines with "End", puts them into the form, sends the
-// control's event record and counts it.
+// Closes a control's lines with "End", puts them into the form and counts
+// the control (`partial` when it is converted only in part).
+void CloseControl(FormWriter& w, std::string text, int partial = 0);
+// CloseControl, then the control's event record.
 void FinishControl(FormWriter& w, const ControlDesign& c, std::string text,
                    ControlEventKind eventRecord);
 
@@ -60,6 +65,21 @@ std::optional<double> NumberOfText(std::string_view text);
 std::optional<bool> BoolOfText(std::string_view text);
 // The absolute value in default decimal form.
 std::optional<std::string> AbsText(std::string_view text);
+
+// The extent of a length property; nullopt when it cannot be read.
+std::optional<std::string> ExtentOf(const DesignObject& o, std::string_view property);
+
+// "_ExtentX = " and "_ExtentY = " of the width and the height.
+void AddExtentLines(std::string& text, const DesignObject& o);
+// Height, Left, Top and Width in this order.
+void AddBoxLines(std::string& text, const FormWriter& w, const ControlDesign& c);
+// Height, Left, TabIndex, TabStop, Top and Width: the box of a control in
+// the tab order.
+void AddTabBoxLines(std::string& text, const FormWriter& w, const ControlDesign& c);
+// HelpContextID, ToolTipText and Tag in this order.
+void AddHelpLines(std::string& text, const DesignObject& o);
+// BackColor and ForeColor in this order.
+void AddColorLines(std::string& text, const DesignObject& o);
 
 // "Alignment ={AlignmentMap(TextAlign)}" when TextAlign is above 0; the map
 // has no entry for 4 (distribute), which loses the line.

@@ -27,14 +27,6 @@ constexpr const char* kThreedFile = "THREED32.OCX";
 // only in part.
 constexpr long kPartlyConverted = 4;
 
-// Height, Left, Top and Width in this order, the most common run of lines.
-void AddBoxLines(std::string& text, const FormWriter& w, const ControlDesign& c) {
-  AddLine(text, "Height = ", ValueText(c, "Height"));
-  AddLine(text, "Left = ", w.ControlLeft(c));
-  AddLine(text, "Top = ", w.ControlTop(c));
-  AddLine(text, "Width = ", ValueText(c, "Width"));
-}
-
 // A label's caption holding a line break cannot stand in the form text; the
 // form's load code sets it.
 void AddLabelCaption(std::string& text, FormWriter& w, const ControlDesign& c) {
@@ -77,9 +69,7 @@ void WriteLabel(FormWriter& w) {
   const ControlDesign* current = w.Text().CurrentControl;
   if (!current || LabelBelongsToControl(w, *current)) return;
   const ControlDesign& c = *BeginControl(w);
-  ConversionSession& s = w.Session();
-  std::string text;
-  AddLine(text, "Begin VB.Label " + s.Form().CurrentControlName);
+  std::string text = OpenControlText(w, "Begin VB.Label ");
   AddLine(text, "BackColor= &H", Hex(c, "BackColor"), "&");
   if (IsZeroOrUnread(c.Number("BackStyle"))) AddLine(text, "BackStyle=0");
   AddLine(text, IsZeroOrUnread(c.Number("BorderStyle")) ? "BorderStyle=0" : "BorderStyle=1");
@@ -91,20 +81,16 @@ void WriteLabel(FormWriter& w) {
   AddVisibleLine(text, c);
   AddTipLine(text, c);
   AddTagLine(text, c);
-  AddLine(text, "End");
-  PutText(w, std::move(text));
+  CloseControl(w, std::move(text));
   // A label's events are generated as an image's.
   if (ParentIsCurrentForm(w, c)) AddControlHint(w, c, ControlEventKind::Image);
-  CountControl(w);
 }
 
 void WriteLineControl(FormWriter& w) {
   const ControlDesign* current = BeginControl(w);
   if (!current) return;
   const ControlDesign& c = *current;
-  ConversionSession& s = w.Session();
-  std::string text;
-  AddLine(text, "Begin VB.Line " + s.Form().CurrentControlName);
+  std::string text = OpenControlText(w, "Begin VB.Line ");
   AddLine(text, "BorderColor =  &H", Hex(c, "BorderColor"), "&");
   if (auto width = c.Number("BorderWidth"); width && *width > 0)
     AddLine(text, "BorderWidth = ", width);
@@ -118,18 +104,14 @@ void WriteLineControl(FormWriter& w) {
   AddLine(text, "Y1 =", top);
   AddLine(text, "Y2 =", Sum(top, c.Number("Height")));
   AddVisibleLine(text, c);
-  AddLine(text, "End");
-  PutText(w, std::move(text));
-  CountControl(w);
+  CloseControl(w, std::move(text));
 }
 
 void WriteImage(FormWriter& w) {
   const ControlDesign* current = BeginControl(w);
   if (!current) return;
   const ControlDesign& c = *current;
-  ConversionSession& s = w.Session();
-  std::string text;
-  AddLine(text, "Begin VB.PictureBox " + s.Form().CurrentControlName);
+  std::string text = OpenControlText(w, "Begin VB.PictureBox ");
   AddFontLines(text, c);
   AddLine(text, "Height = ", Sum(c.Number("Height"), w.Text().Place.SectionOffset));
   AddLine(text, "Left = ", w.ControlLeft(c));
@@ -168,8 +150,7 @@ void WriteCommandButton(FormWriter& w) {
     AddLine(text, "_StockProps = 78");
     AddLine(text, "ForeColor= &H", Hex(c, "ForeColor"), "&");
     AddLine(text, "Caption = \"", shown, "\"");
-    if (auto width = c.Real("Width")) AddLine(text, "_ExtentX = " + Extent(*width));
-    if (auto height = c.Real("Height")) AddLine(text, "_ExtentY = " + Extent(*height));
+    AddExtentLines(text, c);
     AddFontLines(text, c, true);
     AddLine(text, "AutoSize = 0");
   } else {
@@ -207,27 +188,21 @@ void WriteShape(FormWriter& w) {
   const ControlDesign* current = BeginControl(w);
   if (!current) return;
   const ControlDesign& c = *current;
-  ConversionSession& s = w.Session();
-  std::string text;
-  AddLine(text, "Begin VB.Shape " + s.Form().CurrentControlName);
+  std::string text = OpenControlText(w, "Begin VB.Shape ");
   AddVisibleLine(text, c);
   AddBoxLines(text, w, c);
   AddLine(text, "FillColor = &H", Hex(c, "BackColor"), "&");
   AddLine(text, IsZeroOrUnread(c.Number("BackStyle")) ? "FillStyle = 1" : "FillStyle = 0");
   AddLine(text, "BorderStyle = ", ValueText(c, "BorderStyle"));
   AddLine(text, "BorderColor = &H", Hex(c, "BorderColor"), "&");
-  AddLine(text, "End");
-  PutText(w, std::move(text));
-  CountControl(w);
+  CloseControl(w, std::move(text));
 }
 
 void WriteBoundObjectFrame(FormWriter& w) {
   const ControlDesign* current = BeginControl(w);
   if (!current) return;
   const ControlDesign& c = *current;
-  ConversionSession& s = w.Session();
-  std::string text;
-  AddLine(text, "Begin  VB.OLE " + s.Form().CurrentControlName);
+  std::string text = OpenControlText(w, "Begin  VB.OLE ");
   AddVisibleLine(text, c);
   AddBoxLines(text, w, c);
   AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
@@ -242,11 +217,9 @@ void WriteBoundObjectFrame(FormWriter& w) {
   AddEnabledLine(text, c);
   AddTipLine(text, c);
   AddTagLine(text, c);
-  AddLine(text, "End");
-  PutText(w, std::move(text));
+  CloseControl(w, std::move(text), 1);
   AddControlHint(w, c, ControlEventKind::BoundObjectFrame);
   AddReportHint(w, kPartlyConverted);
-  CountControl(w, 1);
 }
 
 void WriteCustomControl(FormWriter& w) {
@@ -259,22 +232,12 @@ void WriteCustomControl(FormWriter& w) {
   // An Access class without a Visual Basic counterpart is reported and
   // left out of the form.
   if (vbClass.empty()) return;
-  std::string text;
-  AddLine(text, "Begin " + vbClass + " " + s.Form().CurrentControlName);
-  AddLine(text, "Height = ", ValueText(c, "Height"));
-  AddLine(text, "Left = ", w.ControlLeft(c));
-  AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));
-  AddTabStopLine(text, c);
-  AddLine(text, "Top = ", w.ControlTop(c));
-  AddLine(text, "Width = ", ValueText(c, "Width"));
+  std::string text = OpenControlText(w, "Begin " + vbClass + " ");
+  AddTabBoxLines(text, w, c);
   AddLine(text, "Visible = ", ValueText(c, "Visible"));
   AddEnabledLine(text, c);
-  AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
-  AddTipLine(text, c);
-  AddTagLine(text, c);
-  AddLine(text, "End");
-  PutText(w, std::move(text));
-  CountControl(w, 1);
+  AddHelpLines(text, c);
+  CloseControl(w, std::move(text), 1);
 }
 
 }  // namespace morvane

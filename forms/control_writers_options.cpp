@@ -70,8 +70,7 @@ void AddLabelLines(std::string& text, const ControlDesign* label, const std::str
   if (!label) return;
   AddLine(text, prefix + "Caption =  \"", Escaped(OneLine(*label, "Caption")), "\"");
   if (prefix.empty()) AddLine(text, "Width = ", Sum(label->Number("Width"), 270));
-  AddLine(text, "BackColor= &H", Hex(*label, "BackColor"), "&");
-  AddLine(text, "ForeColor= &H", Hex(*label, "ForeColor"), "&");
+  AddColorLines(text, *label);
 }
 
 long BreakTop(const FormTextSet& t) {
@@ -270,22 +269,13 @@ void WriteCheckBox(FormWriter& w) {
   // The option group writes its own members.
   if (!ParentIsCurrentForm(w, *current) && ParentType(*current) == kOptionGroup) return;
   const ControlDesign& c = *BeginControl(w);
-  ConversionSession& s = w.Session();
-  std::string text;
-  AddLine(text, "Begin VB.CheckBox " + s.Form().CurrentControlName);
+  std::string text = OpenControlText(w, "Begin VB.CheckBox ");
   AddLine(text, "Caption =  \"", Escaped(c.Text("Caption")), "\"");
   if (AddPlainValue(text, w, c, kCheckBoxValues))
     AddLine(text, IsTrueOrUnread(c.Flag("TripleState")) ? "Value = 2" : "Value = 0");
   AddFontLines(text, c);
-  AddLine(text, "Height = ", ValueText(c, "Height"));
-  AddLine(text, "Left = ", w.ControlLeft(c));
-  AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));
-  AddTabStopLine(text, c);
-  AddLine(text, "Top = ", w.ControlTop(c));
-  AddLine(text, "Width = ", ValueText(c, "Width"));
-  AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
-  AddTipLine(text, c);
-  AddTagLine(text, c);
+  AddTabBoxLines(text, w, c);
+  AddHelpLines(text, c);
   AddEnabledLine(text, c);
   AddVisibleLine(text, c);
   if (IsCalculated(c))
@@ -301,21 +291,17 @@ void WriteOptionGroup(FormWriter& w) {
   w.Text().OptionGroupNames.push_back(current->Name());
   const ControlDesign& c = *BeginControl(w);
   ConversionSession& s = w.Session();
-  std::string text;
-  AddLine(text, "Begin VB.Frame grp" + s.Form().CurrentControlName);
+  std::string text = OpenControlText(w, "Begin VB.Frame grp");
   // The group's own label gives the frame its caption and colours.
   if (const ControlDesign* label = AttachedLabel(w, c.Name())) {
     AddLine(text, "Caption =  \"", Escaped(OneLine(*label, "Caption")), "\"");
-    AddLine(text, "BackColor= &H", Hex(*label, "BackColor"), "&");
-    AddLine(text, "ForeColor= &H", Hex(*label, "ForeColor"), "&");
+    AddColorLines(text, *label);
   }
   AddLine(text, "Height = ", Sum(c.Number("Height"), 150));
   AddLine(text, "Left = ", w.ControlLeft(c));
   AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));
   AddEnabledLine(text, c);
-  AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
-  AddTipLine(text, c);
-  AddTagLine(text, c);
+  AddHelpLines(text, c);
   AddLine(text, "Top = ", Sum(w.ControlTop(c), -150));
   AddLine(text, "Width = ", ValueText(c, "Width"));
   AddVisibleLine(text, c);
@@ -333,9 +319,7 @@ void WriteOptionButton(FormWriter& w) {
   const ControlDesign* current = BeginControl(w);
   if (!current) return;
   const ControlDesign& c = *current;
-  ConversionSession& s = w.Session();
-  std::string text;
-  AddLine(text, "Begin VB.OptionButton " + s.Form().CurrentControlName);
+  std::string text = OpenControlText(w, "Begin VB.OptionButton ");
   AddLine(text, "Left = ", w.ControlLeft(c));
   AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));
   AddLine(text, "Top = ", w.ControlTop(c));

@@ -154,23 +154,23 @@ void WriteFormDataControl(FormWriter& w) {
   else
     t.BodyText += "\r\n" + text;
   if (!t.InSubform || !t.CurrentControl) return;
+  AddSubformLinkHints(w, *t.CurrentControl, recordSource, DataControlName(name));
+}
 
-  // The data control of the form that holds the subform control moves and
-  // refreshes the subform's, and its current row restricts what the subform
-  // shows. A parent without a record source has no data control.
-  const ControlDesign& control = *t.CurrentControl;
-  const FormDesign& holder = control.Owner();
-  if (holder.Text("RecordSource").value_or("").empty()) return;
+void AddSubformLinkHints(FormWriter& w, const ControlDesign& subformControl,
+                         const std::string& source, const std::string& dataControl) {
+  ConversionSession& s = w.Session();
+  const FormDesign& holder = subformControl.Owner();
+  if (holder.Text("RecordSource").value_or("").empty() || source.empty()) return;
   const std::string parent = w.DataControlOf(holder.Name());
-  const std::string d = DataControlName(name);
-  AddHint(s, DataControlEntryHint{parent, d + ".Recordset.MoveFirst"});
-  AddHint(s, DataControlEntryHint{parent, d + ".Recordset.Movelast"});
-  AddHint(s, DataControlEntryHint{parent, d + ".refresh"});
-  if (control.Text("LinkMasterFields").value_or("").empty() &&
-      control.Text("LinkChildFields").value_or("").empty())
+  AddHint(s, DataControlEntryHint{parent, dataControl + ".Recordset.MoveFirst"});
+  AddHint(s, DataControlEntryHint{parent, dataControl + ".Recordset.Movelast"});
+  AddHint(s, DataControlEntryHint{parent, dataControl + ".refresh"});
+  if (subformControl.Text("LinkMasterFields").value_or("").empty() &&
+      subformControl.Text("LinkChildFields").value_or("").empty())
     return;
-  AddHint(s, DataControlEntryHint{
-                 parent, d + ".RecordSource=\"" + SubformLinkSql(w, recordSource, control)});
+  AddHint(s, DataControlEntryHint{parent, dataControl + ".RecordSource=\"" +
+                                              SubformLinkSql(w, source, subformControl)});
 }
 
 std::string WriteDataControl(FormWriter& w, const std::string& name, long left, int type,

@@ -8,11 +8,19 @@
 
 namespace morvane {
 
+class ControlDesign;
 class FormWriter;
 
 // Step 10 of WriteForm: the current form's data control, appended to
 // BodyText, with the hints that link a subform to its parent.
 void WriteFormDataControl(FormWriter& w);
+
+// The hints by which the data control of the form holding `subformControl`
+// moves and refreshes the subform's data control `dataControl`, and with
+// linked fields restricts its record source `source` to the current row. A
+// holder without a record source has no data control to do it.
+void AddSubformLinkHints(FormWriter& w, const ControlDesign& subformControl,
+                         const std::string& source, const std::string& dataControl);
 
 // The text of a data control "dat{name}". `formName` is given for a form's
 // data control and left out for a list's.

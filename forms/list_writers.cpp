@@ -217,26 +217,45 @@ void ReportListChoice(const ListControl& l, const std::string& codeLine,
 std::optional<long> LeftOf(const ListControl& l) { return l.w.ControlLeft(l.c); }
 std::optional<long> TopOf(const ListControl& l) { return l.w.ControlTop(l.c); }
 
+void AddListPlacement(std::string& text, const ListControl& l) {
+  const ControlDesign& c = l.c;
+  AddLine(text, "Height = ", ValueText(c, "Height"));
+  AddLine(text, "Left = ", LeftOf(l));
+  AddLine(text, "TabIndex =", ValueText(c, "TabIndex"));
+  AddTabStopLine(text, c);
+  AddEnabledLine(text, c);
+  AddLine(text, "Top = ", TopOf(l));
+  AddLine(text, "Width = ", ValueText(c, "Width"));
+}
+
+void AddGridListTail(std::string& text, const ListControl& l) {
+  const ControlDesign& c = l.c;
+  AddLine(text, "TabStop =", ValueText(c, "TabStop"));
+  AddColorLines(text, c);
+  AddListTagLine(text, l);
+  AddTipLine(text, c);
+  AddVisibleLine(text, c);
+}
+
+void CloseList(std::string text, const ListControl& l) {
+  AddLine(text, "End");
+  AddRowDataControl(text, l);
+  PutText(l.w, std::move(text));
+  CountControl(l.w);
+}
+
 void WriteStandardList(FormWriter& w, bool isList) {
   auto begun = BeginList(w, isList, false);
   if (!begun) return;
   const ListControl& l = *begun;
   const ControlDesign& c = l.c;
-  std::string text;
-  AddLine(text, std::string(isList ? "Begin VB.ListBox " : "Begin VB.ComboBox ") + l.Name);
+  std::string text = OpenControlText(w, isList ? "Begin VB.ListBox " : "Begin VB.ComboBox ");
   if (!isList) {
     AddComboDefault(text, l);
     if (IsTrueOrUnread(c.Flag("Locked"))) AddLine(text, "Locked = -1");
   }
-  AddLine(text, "Height = ", ValueText(c, "Height"));
-  AddLine(text, "Left = ", LeftOf(l));
-  AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));
-  AddTabStopLine(text, c);
-  AddLine(text, "Top = ", TopOf(l));
-  AddLine(text, "Width = ", ValueText(c, "Width"));
-  AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
-  AddTipLine(text, c);
-  AddTagLine(text, c);
+  AddTabBoxLines(text, w, c);
+  AddHelpLines(text, c);
   AddEnabledLine(text, c);
   AddVisibleLine(text, c);
   AddLine(text, "BackColor= &H", Hex(c, "BackColor"), "&");
@@ -247,9 +266,7 @@ void WriteStandardList(FormWriter& w, bool isList) {
   else
     AddBindingLines(text, w, c);
   if (!isList && IsTrueOrUnread(c.Flag("LimitToList"))) AddLine(text, "Style = 2");
-  AddLine(text, "End");
-  PutText(w, std::move(text));
-  CountControl(w);
+  CloseList(std::move(text), l);
 }
 
 namespace {

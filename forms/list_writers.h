@@ -16,10 +16,12 @@ namespace morvane {
 class ControlDesign;
 class FormWriter;
 
-// The head of a DataList.GTList: name, page, component and the lines up to
-// the fonts. With `gridName` (a datasheet subform shown as a GreenTree grid)
-// the Bindings line names the data control of that subform's form.
-std::string WriteGreenTreeHead(FormWriter& w, const std::string& gridName);
+// The lines of a DataList.GTList that the list box and the GreenTree grid
+// of a datasheet subform share: after the Bindings line, the place, tab
+// order, version, help and caption border; then, after the lines of their
+// own, the caption, default, scroll tip and extended tip fonts.
+void AddGreenTreeFrame(std::string& text, const FormWriter& w, const ControlDesign& c);
+void AddDataListFonts(std::string& text);
 
 // Registers the Sheridan Data Widgets of list type `type` (2 or 3).
 void AddSheridanComponent(FormWriter& w, int type);
@@ -82,6 +84,15 @@ void ReportListChoice(const ListControl& l, const std::string& codeLine,
 // "Left = {Left}" and "Top = {Top}".
 std::optional<long> LeftOf(const ListControl& l);
 std::optional<long> TopOf(const ListControl& l);
+// Height, Left, TabIndex, TabStop, Enabled, Top and Width: the place and tab
+// order of the substitutes that write "TabIndex =" without a blank.
+void AddListPlacement(std::string& text, const ListControl& l);
+// The last lines of a GreenTree or Sheridan list box: tab stop, colours,
+// the tag naming its row source, tool tip and visibility.
+void AddGridListTail(std::string& text, const ListControl& l);
+// Closes the list's lines with "End", adds its row source's data control,
+// puts both into the form and counts the list.
+void CloseList(std::string text, const ListControl& l);
 
 // The writers, each on the control the walk stands on.
 void WriteGreenTreeList(FormWriter& w);

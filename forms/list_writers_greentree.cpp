@@ -1,6 +1,6 @@
-// The GreenTree DataList writers: DataList.GTList for list boxes (whose head
-// the GreenTree grid of a datasheet subform shares) and DataList.GTCombo for
-// combo boxes.
+// The GreenTree DataList writers: DataList.GTList for list boxes (whose
+// frame and fonts the GreenTree grid of a datasheet subform shares) and
+// DataList.GTCombo for combo boxes.
 #include <algorithm>
 
 #include "design/form_design.h"
@@ -23,12 +23,6 @@ std::string FontHead(const std::string& property) {
   return "BeginProperty " + property + " " + kFontGuid;
 }
 
-// The caption, default, scroll tip and extended tip fonts.
-void AddDataListFonts(std::string& text) {
-  for (const char* font : {"DefColCaptionFont", "DefFont", "ScrollTipFont", "ExtendTipFont"})
-    AddFixedFontLines(text, FontHead(font), "MS Sans Serif", "8.25");
-}
-
 // A GreenTree control stands on the page where the walk found it only on a
 // page-broken form's detail section; elsewhere its page is the first.
 void ResetPage(FormWriter& w, const ControlDesign& c) {
@@ -36,12 +30,6 @@ void ResetPage(FormWriter& w, const ControlDesign& c) {
   if (t.HasPageBreaks && c.Section() == 0) return;
   t.Place.PageIndex = 0;
   t.Place.PageLeft = 0;
-}
-
-std::optional<std::string> ExtentOf(const ControlDesign& c, std::string_view property) {
-  auto v = c.Real(property);
-  if (!v) return std::nullopt;
-  return Extent(*v);
 }
 
 // The component, with the analysis row of the column fonts once a form.
@@ -61,16 +49,7 @@ std::string HeadLines(FormWriter& w, const ControlDesign& c, const std::string& 
   std::string text;
   AddLine(text, "Begin DataList.GTList " + w.Session().Form().CurrentControlName);
   if (!bindingsData.empty()) AddBindingsLine(text, w, bindingsData, false);
-  AddLine(text, "Height = ", ValueText(c, "Height"));
-  AddLine(text, "Left = ", w.ControlLeft(c));
-  AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));
-  AddTabStopLine(text, c);
-  AddLine(text, "Top = ", w.ControlTop(c));
-  AddLine(text, "Width = ", ValueText(c, "Width"));
-  AddLine(text, "_Version =   65536");
-  AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
-  AddLine(text, "AllowColumnDragDrop = 0");
-  AddLine(text, "DefColCaptionBorderStyle = 3");
+  AddGreenTreeFrame(text, w, c);
   AddLine(text, "MultiSelect = ", ValueText(c, "MultiSelect"));
   AddEnabledLine(text, c);
   if (auto heads = c.Flag("ColumnHeads"))
@@ -96,28 +75,19 @@ void AddColumnHead(std::string& text, const std::string& cd, long k) {
   AddLine(text, cd + ".CaptionWordWrap = 0");
 }
 
-void AddColors(std::string& text, const ControlDesign& c) {
-  AddLine(text, "BackColor= &H", Hex(c, "BackColor"), "&");
-  AddLine(text, "ForeColor= &H", Hex(c, "ForeColor"), "&");
-}
-
 }  // namespace
 
-std::string WriteGreenTreeHead(FormWriter& w, const std::string& gridName) {
-  if (gridName.empty()) {
-    auto l = BeginList(w, true);
-    if (!l) return {};
-    ResetPage(w, l->c);
-    return HeadLines(w, l->c, l->RowData() ? l->DataName : "");
-  }
-  const ControlDesign* c = BeginControl(w);
-  if (!c) return {};
-  ResetPage(w, *c);
-  // A subform control has no row source: it is bound to its form's data
-  // control.
-  auto type = c->Text("RowSourceType");
-  const bool bound = !type || *type == "Table/Query";
-  return HeadLines(w, *c, bound ? w.Session().Names.DataControl(gridName) : "");
+void AddGreenTreeFrame(std::string& text, const FormWriter& w, const ControlDesign& c) {
+  AddTabBoxLines(text, w, c);
+  AddLine(text, "_Version =   65536");
+  AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
+  AddLine(text, "AllowColumnDragDrop = 0");
+  AddLine(text, "DefColCaptionBorderStyle = 3");
+}
+
+void AddDataListFonts(std::string& text) {
+  for (const char* font : {"DefColCaptionFont", "DefFont", "ScrollTipFont", "ExtendTipFont"})
+    AddFixedFontLines(text, FontHead(font), "MS Sans Serif", "8.25");
 }
 
 void WriteGreenTreeList(FormWriter& w) {
@@ -147,19 +117,11 @@ void WriteGreenTreeList(FormWriter& w) {
   }
   AddLine(text, "LImgs.Count = 1");
   AddLine(text, "GridLineType = 2");
-  AddLine(text, "_ExtentX = ", ExtentOf(c, "Width"));
-  AddLine(text, "_ExtentY = ", ExtentOf(c, "Height"));
+  AddExtentLines(text, c);
   AddLine(text, "_StockProps = 81");
   AddLine(text, "BackColor = -2147483643");
-  AddLine(text, "TabStop =", ValueText(c, "TabStop"));
-  AddColors(text, c);
-  AddListTagLine(text, l);
-  AddTipLine(text, c);
-  AddVisibleLine(text, c);
-  AddLine(text, "End");
-  AddRowDataControl(text, l);
-  PutText(w, std::move(text));
-  CountControl(w);
+  AddGridListTail(text, l);
+  CloseList(std::move(text), l);
 }
 
 void WriteGreenTreeCombo(FormWriter& w) {
@@ -168,15 +130,9 @@ void WriteGreenTreeCombo(FormWriter& w) {
   const ListControl& l = *begun;
   const ControlDesign& c = l.c;
   RegisterGreenTree(w);
-  std::string text;
-  AddLine(text, "Begin DataList.GTCombo " + l.Name);
+  std::string text = OpenControlText(w, "Begin DataList.GTCombo ");
   if (l.RowData()) AddBindingsLine(text, w, l.DataName, false);
-  AddLine(text, "Height = ", ValueText(c, "Height"));
-  AddLine(text, "Left = ", LeftOf(l));
-  AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));
-  AddTabStopLine(text, c);
-  AddLine(text, "Top = ", TopOf(l));
-  AddLine(text, "Width = ", ValueText(c, "Width"));
+  AddTabBoxLines(text, w, c);
   AddLine(text, "_Version = 65536");
   AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
   AddLine(text, "AllowColumnDragDrop = 0");
@@ -215,8 +171,7 @@ void WriteGreenTreeCombo(FormWriter& w) {
   AddLine(text, "LImgs.Count = 1");
   if (auto limit = c.Flag("LimitToList"))
     AddLine(text, *limit ? "ComboStyle = 2" : "ComboStyle = 0");
-  AddLine(text, "_ExtentX = ", ExtentOf(c, "Width"));
-  AddLine(text, "_ExtentY = ", ExtentOf(c, "Height"));
+  AddExtentLines(text, c);
   AddLine(text, "_StockProps = 81");
   AddLine(text, "BackColor = -2147483643");
   AddLine(text, "ForeColor= &H", Hex(c, "ForeColor"), "&");
@@ -224,10 +179,7 @@ void WriteGreenTreeCombo(FormWriter& w) {
   AddTipLine(text, c);
   AddVisibleLine(text, c);
   AddComboDefault(text, l);
-  AddLine(text, "End");
-  AddRowDataControl(text, l);
-  PutText(w, std::move(text));
-  CountControl(w);
+  CloseList(std::move(text), l);
 }
 
 }  // namespace morvane

@@ -21,32 +21,10 @@ constexpr const char* kCommonControlsGuid = "{831FDD16-0C5C-11D2-A9FC-0000F8754D
 constexpr const char* kCommonControlsFile = "MSCOMCTL.OCX";
 constexpr const char* kColumnHeaderGuid = "{BDD1F052-858B-11D1-B16A-00C0F0283628}";
 
-std::optional<std::string> ExtentOf(const ControlDesign& c, std::string_view property) {
-  auto v = c.Real(property);
-  if (!v) return std::nullopt;
-  return Extent(*v);
-}
-
-void AddPlacement(std::string& text, const ListControl& l) {
-  const ControlDesign& c = l.c;
-  AddLine(text, "Height = ", ValueText(c, "Height"));
-  AddLine(text, "Left = ", LeftOf(l));
-  AddLine(text, "TabIndex =", ValueText(c, "TabIndex"));
-  AddTabStopLine(text, c);
-  AddEnabledLine(text, c);
-  AddLine(text, "Top = ", TopOf(l));
-  AddLine(text, "Width = ", ValueText(c, "Width"));
-}
-
 void AddBorderLines(std::string& text, const ControlDesign& c) {
   AddLine(text, "BorderColor = ", ValueText(c, "BorderColor"));
   if (auto border = c.Number("BorderStyle"))
     AddLine(text, *border == 0 ? "BorderStyle = 0" : "BorderStyle = 1");
-}
-
-void AddColors(std::string& text, const ControlDesign& c) {
-  AddLine(text, "BackColor= &H", Hex(c, "BackColor"), "&");
-  AddLine(text, "ForeColor= &H", Hex(c, "ForeColor"), "&");
 }
 
 // "Tag="{tag}"", without the blank of the other controls' tag line.
@@ -71,18 +49,16 @@ void WriteOwnList(FormWriter& w) {
   const ListControl& l = *begun;
   const ControlDesign& c = l.c;
   w.AddComponent(kOwnListGuid, kOwnListFile);
-  std::string text;
-  AddLine(text, "Begin Kestrel.KRListBox " + l.Name);
-  AddPlacement(text, l);
+  std::string text = OpenControlText(w, "Begin Kestrel.KRListBox ");
+  AddListPlacement(text, l);
   AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
   AddLine(text, "Cols = ", l.Columns);
   AddLine(text, "ColumnWidths = \"", c.Text("ColumnWidths"), "\"");
   if (IsTrueOrUnread(c.Flag("ColumnHeads"))) AddLine(text, "FixedCols = 1");
-  AddLine(text, "_ExtentX = ", ExtentOf(c, "Width"));
-  AddLine(text, "_ExtentY = ", ExtentOf(c, "Height"));
+  AddExtentLines(text, c);
   AddFontLines(text, c, true);
   AddLine(text, "TabStop =", ValueText(c, "TabStop"));
-  AddColors(text, c);
+  AddColorLines(text, c);
   AddTipLine(text, c);
   AddVisibleLine(text, c);
   AddLine(text, "RowSourceType = \"", c.Text("RowSourceType"), "\"");
@@ -90,10 +66,7 @@ void WriteOwnList(FormWriter& w) {
                     ".RowSource");
   AddLine(text, "MultiSelect = \"", ValueText(c, "MultiSelect"), "\"");
   AddLine(text, "BoundColumn = \"", ValueText(c, "BoundColumn"), "\"");
-  AddLine(text, "End");
-  AddRowDataControl(text, l);
-  PutText(w, std::move(text));
-  CountControl(w);
+  CloseList(std::move(text), l);
 }
 
 void WriteFormsCombo(FormWriter& w) {
@@ -116,13 +89,12 @@ void WriteFormsCombo(FormWriter& w) {
   }
   if (!widths.empty() && widths.back() == ';') widths.pop_back();
 
-  std::string text;
-  AddLine(text, "Begin MSForms.ComboBox " + l.Name);
+  std::string text = OpenControlText(w, "Begin MSForms.ComboBox ");
   if (auto source = c.Text("ControlSource"); source && !source->empty()) {
     AddLine(text, "DataField =\"" + *source + "\"");
     AddLine(text, "DataSource =\"" + DataControlName(w) + "\"");
   }
-  AddPlacement(text, l);
+  AddListPlacement(text, l);
   AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
   AddComboDefault(text, l);
   if (auto cx = ExtentOf(c, "Width"), cy = ExtentOf(c, "Height"); cx && cy)
@@ -146,15 +118,13 @@ void WriteFormsCombo(FormWriter& w) {
   AddBorderLines(text, c);
   if (auto effect = c.Number("SpecialEffect"))
     AddLine(text, "SpecialEffect = " + std::to_string(*effect > 3 ? 2 : *effect));
-  AddColors(text, c);
+  AddColorLines(text, c);
   AddOwnTag(text, c);
   AddTipLine(text, c);
   AddVisibleLine(text, c);
   AddLine(text, "cColumnInfo = 2");
   AddLine(text, "Object.Width = \"" + widths + "\"");
-  AddLine(text, "End");
-  PutText(w, std::move(text));
-  CountControl(w);
+  CloseList(std::move(text), l);
 }
 
 void WriteListView(FormWriter& w) {
@@ -163,9 +133,8 @@ void WriteListView(FormWriter& w) {
   const ListControl& l = *begun;
   const ControlDesign& c = l.c;
   w.AddComponent(kCommonControlsGuid, kCommonControlsFile);
-  std::string text;
-  AddLine(text, "Begin MSComctlLib.ListView " + l.Name);
-  AddPlacement(text, l);
+  std::string text = OpenControlText(w, "Begin MSComctlLib.ListView ");
+  AddListPlacement(text, l);
   AddLine(text, "_ExtentX = ", ExtentOf(c, "Width"));
   AddLine(text, "_ExtentY=", ExtentOf(c, "Height"));
   AddLine(text, "View = 3");
@@ -180,7 +149,7 @@ void WriteListView(FormWriter& w) {
     AddLine(text, *multi != 0 ? "MultiSelect = -1" : "MultiSelect = 0");
   AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
   AddBorderLines(text, c);
-  AddColors(text, c);
+  AddColorLines(text, c);
   AddOwnTag(text, c);
   AddTipLine(text, c);
   AddVisibleLine(text, c);
@@ -195,9 +164,7 @@ void WriteListView(FormWriter& w) {
     if (width) AddLine(text, "Object.Width = " + Extent(*width));
     AddLine(text, "EndProperty");
   }
-  AddLine(text, "End");
-  PutText(w, std::move(text));
-  CountControl(w);
+  CloseList(std::move(text), l);
 }
 
 }  // namespace morvane

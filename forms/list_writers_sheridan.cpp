@@ -26,12 +26,6 @@ std::string FontHead(const char* property) {
   return std::string("BeginProperty ") + property + " " + kFontGuid;
 }
 
-std::optional<std::string> ExtentOf(const ControlDesign& c, std::string_view property) {
-  auto v = c.Real(property);
-  if (!v) return std::nullopt;
-  return Extent(*v);
-}
-
 // The lines of column c (from 0) up to its data type: visibility, width and
 // the caption, name and data field, which name the row source's field when
 // the list shows a table or query.
@@ -52,18 +46,11 @@ void AddColumn(std::string& text, const ListControl& l, long c, const std::optio
   AddLine(text, col + ".FieldLen = 4096");
 }
 
-// The lines every Sheridan list has after its class: position, tab order,
-// help and version.
+// The lines every Sheridan list has after its class: position, tab order
+// and help.
 void AddFrameLines(std::string& text, const ListControl& l) {
-  const ControlDesign& c = l.c;
-  AddLine(text, "Height = ", ValueText(c, "Height"));
-  AddLine(text, "Left = ", LeftOf(l));
-  AddLine(text, "TabIndex =", ValueText(c, "TabIndex"));
-  AddTabStopLine(text, c);
-  AddEnabledLine(text, c);
-  AddLine(text, "Top = ", TopOf(l));
-  AddLine(text, "Width = ", ValueText(c, "Width"));
-  AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
+  AddListPlacement(text, l);
+  AddLine(text, "HelpContextID = ", ValueText(l.c, "HelpContextID"));
 }
 
 std::string VersionLine(const ConversionSession& s) {
@@ -104,6 +91,16 @@ void RegisterWidgets(const ListControl& l, int type) {
         std::string("Object=\"") + kWidgets3OleDbGuid + "\"; \"" + kWidgets3OleDbFile + "\"");
 }
 
+// Registers the widgets of the list's type and opens its text: the grid for
+// a list box, the combo for a combo box, in the OLE DB classes under ADO.
+std::string OpenSheridanText(const ListControl& l) {
+  const ConversionSession& s = l.w.Session();
+  RegisterWidgets(l, l.IsList ? s.Options.ListboxType : s.Options.ComboboxType);
+  const std::string library =
+      s.Options.UseAdo ? "SSDataWidgets_B_OLEDB.SSOleDB" : "SSDataWidgets_B.SSDB";
+  return OpenControlText(l.w, "Begin " + library + (l.IsList ? "Grid " : "Combo "));
+}
+
 }  // namespace
 
 void WriteSheridanList(FormWriter& w) {
@@ -112,11 +109,7 @@ void WriteSheridanList(FormWriter& w) {
   const ListControl& l = *begun;
   const ControlDesign& c = l.c;
   ConversionSession& s = w.Session();
-  RegisterWidgets(l, s.Options.ListboxType);
-  std::string text;
-  AddLine(text, (s.Options.UseAdo ? "Begin SSDataWidgets_B_OLEDB.SSOleDBGrid "
-                                  : "Begin SSDataWidgets_B.SSDBGrid ") +
-                    l.Name);
+  std::string text = OpenSheridanText(l);
   if (l.RowData()) AddBindingsLine(text, w, l.DataName, false);
   AddFrameLines(text, l);
   AddLine(text, VersionLine(s));
@@ -137,20 +130,11 @@ void WriteSheridanList(FormWriter& w) {
   AddLine(text, "RowHeight = 450");
   AddLine(text, "Columns.count = ", l.Columns);
   for (long i = 1; i <= l.N(); ++i) AddColumn(text, l, i - 1, l.ColumnWidth(i));
-  AddLine(text, "_ExtentX = ", ExtentOf(c, "Width"));
-  AddLine(text, "_ExtentY = ", ExtentOf(c, "Height"));
+  AddExtentLines(text, c);
   AddLine(text, "_StockProps = 79");
   AddFontLines(text, c, true);
-  AddLine(text, "TabStop =", ValueText(c, "TabStop"));
-  AddLine(text, "BackColor= &H", Hex(c, "BackColor"), "&");
-  AddLine(text, "ForeColor= &H", Hex(c, "ForeColor"), "&");
-  AddListTagLine(text, l);
-  AddTipLine(text, c);
-  AddVisibleLine(text, c);
-  AddLine(text, "End");
-  AddRowDataControl(text, l);
-  PutText(w, std::move(text));
-  CountControl(w);
+  AddGridListTail(text, l);
+  CloseList(std::move(text), l);
 }
 
 void WriteSheridanCombo(FormWriter& w) {
@@ -159,11 +143,7 @@ void WriteSheridanCombo(FormWriter& w) {
   const ListControl& l = *begun;
   const ControlDesign& c = l.c;
   ConversionSession& s = w.Session();
-  RegisterWidgets(l, s.Options.ComboboxType);
-  std::string text;
-  AddLine(text, (s.Options.UseAdo ? "Begin SSDataWidgets_B_OLEDB.SSOleDBCombo "
-                                  : "Begin SSDataWidgets_B.SSDBCombo ") +
-                    l.Name);
+  std::string text = OpenSheridanText(l);
   if (l.RowData()) {
     AddBindingsLine(text, w, l.DataName, true);
     const std::string source = c.Text("ControlSource").value_or("");
@@ -210,10 +190,7 @@ void WriteSheridanCombo(FormWriter& w) {
   AddTipLine(text, c);
   AddVisibleLine(text, c);
   AddLine(text, "DataFieldToDisplay=\"" + displayField + "\"");
-  AddLine(text, "End");
-  AddRowDataControl(text, l);
-  PutText(w, std::move(text));
-  CountControl(w);
+  CloseList(std::move(text), l);
 }
 
 }  // namespace morvane

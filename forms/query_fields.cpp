@@ -168,6 +168,18 @@ const Source* FindSource(const std::vector<Source>& sources, const std::string& 
   return nullptr;
 }
 
+// The alias after a source that ends at token `i`, "AS" written or left
+// out; moves `i` onto the alias's last token. Keeps `alias` without one.
+void ReadAlias(const Tokens& t, size_t& i, size_t end, std::string& alias) {
+  if (i + 2 < end && IsWord(t[i + 1], "AS") && IsIdent(t[i + 2])) {
+    alias = t[i + 2].text;
+    i += 2;
+  } else if (i + 1 < end && IsIdent(t[i + 1]) && !IsClauseWord(t[i + 1])) {
+    alias = t[i + 1].text;
+    i += 1;
+  }
+}
+
 // The tables, queries and subqueries of a FROM clause, in their order.
 // Parentheses around joins and the conditions after ON are stepped over.
 std::vector<Source> ParseFrom(const Catalog& db, const Tokens& t, size_t begin, size_t end,
@@ -205,13 +217,7 @@ std::vector<Source> ParseFrom(const Catalog& db, const Tokens& t, size_t begin, 
         Source sub;
         if (auto fields = ParseSelect(db, t, i + 1, close, depth + 1)) sub.Fields = *fields;
         i = close;
-        if (i + 2 < end && IsWord(t[i + 1], "AS") && IsIdent(t[i + 2])) {
-          sub.Alias = t[i + 2].text;
-          i += 2;
-        } else if (i + 1 < end && IsIdent(t[i + 1]) && !IsClauseWord(t[i + 1])) {
-          sub.Alias = t[i + 1].text;
-          i += 1;
-        }
+        ReadAlias(t, i, end, sub.Alias);
         sources.push_back(std::move(sub));
         expectTable = false;
       }
@@ -237,13 +243,7 @@ std::vector<Source> ParseFrom(const Catalog& db, const Tokens& t, size_t begin, 
       Source source;
       source.Alias = name;
       if (auto fields = FieldsByName(db, name, depth + 1)) source.Fields = *fields;
-      if (i + 2 < end && IsWord(t[i + 1], "AS") && IsIdent(t[i + 2])) {
-        source.Alias = t[i + 2].text;
-        i += 2;
-      } else if (i + 1 < end && IsIdent(t[i + 1]) && !IsClauseWord(t[i + 1])) {
-        source.Alias = t[i + 1].text;
-        i += 1;
-      }
+      ReadAlias(t, i, end, source.Alias);
       sources.push_back(std::move(source));
       expectTable = false;
     }

@@ -15,6 +15,7 @@
 #include "forms/data_format.h"
 #include "forms/form_writer.h"
 #include "forms/frm_text.h"
+#include "forms/list_writers.h"
 #include "forms/query_fields.h"
 #include "forms/record_source.h"
 #include "platform/catalog.h"
@@ -42,7 +43,6 @@ constexpr Component kSheridanDao = {"{8D650141-6025-11D1-BC40-0000C042AEC0}#3.0#
 constexpr Component kDataGrid = {"{CDE57A40-8B86-11D0-B3C6-00A0C90AEA82}#1.0#0", "MSDATGRD.OCX"};
 constexpr Component kDbGrid = {"{00028C01-0000-0000-0000-000000000046}#1.0#0", "DBGRID32.OCX"};
 
-constexpr const char* kFontGuid = "{0BE35203-8F91-11CE-9DE3-00AA004BB851}";
 constexpr const char* kDataFormatHead =
     "BeginProperty DataFormat {6D835690-900B-11D0-9484-00A0C91110ED}";
 constexpr const char* kStreamId = "_StreamID = -1412567295";
@@ -153,25 +153,6 @@ void NoteCodeLeftBehind(FormWriter& w, const std::string& name, const FormDesign
   if (code) PartlyConverted(w, name, "the module of " + f->Name() + " is not carried into " + as);
 }
 
-// The parent's data control re-queries the subform's on each move: the
-// subform then shows the rows of the parent's current record. A parent
-// without a record source has no data control to do it.
-void AddLinkHints(FormWriter& w, const ControlDesign& c, const std::string& recordSource,
-                  const std::string& dataControl) {
-  ConversionSession& s = w.Session();
-  const FormDesign& parent = c.Owner();
-  if (parent.Text("RecordSource").value_or("").empty() || recordSource.empty()) return;
-  const std::string parentData = w.DataControlOf(parent.Name());
-  AddHint(s, DataControlEntryHint{parentData, dataControl + ".Recordset.MoveFirst"});
-  AddHint(s, DataControlEntryHint{parentData, dataControl + ".Recordset.Movelast"});
-  AddHint(s, DataControlEntryHint{parentData, dataControl + ".refresh"});
-  if (c.Text("LinkMasterFields").value_or("").empty() &&
-      c.Text("LinkChildFields").value_or("").empty())
-    return;
-  AddHint(s, DataControlEntryHint{parentData, dataControl + ".RecordSource=\"" +
-                                                  SubformLinkSql(w, recordSource, c)});
-}
-
 // "Tag=" naming the grid's stored query, as a list's tag does.
 void AddQueryTag(std::string& text, ConversionSession& s, const ControlDesign& c,
                  const std::string& source) {
@@ -202,25 +183,42 @@ std::string Quoted(const std::string& field) { return "\"" + EscapeQuotes(field)
 
 std::string TwoDigits(size_t i) { return (i < 10 ? "0" : "") + std::to_string(i); }
 
+// Step 1 of each subform writer: the control's unique name and page, and its
+// count. Returns the name.
+std::string BeginSubformControl(FormWriter& w) {
+  BeginControl(w);
+  CountControl(w);
+  return w.Session().Form().CurrentControlName;
+}
+
+// The first lines of a Sheridan grid and a data grid: the class line
+// `begin`, the Bindings line of data control `data`, and the place and tab
+// index.
+void AddGridHead(std::string& text, FormWriter& w, const ControlDesign& c, const std::string& begin,
+                 const std::string& data) {
+  AddLine(text, begin);
+  AddLine(text, BindingsLine(w, data));
+  AddLine(text, "Height = ", ValueText(c, "Height"));
+  AddLine(text, "Left = ", w.ControlLeft(c));
+  AddLine(text, "TabIndex =", ValueText(c, "TabIndex"));
+  AddLine(text, "Top = ", w.ControlTop(c));
+  AddLine(text, "Width = ", ValueText(c, "Width"));
+}
+
+// _ExtentX and _ExtentY of a grid, from its size in whole twips.
+void AddGridExtent(std::string& text, const ControlDesign& c) {
+  if (auto width = c.Number("Width")) AddLine(text, "_ExtentX = " + Extent(*width));
+  if (auto height = c.Number("Height")) AddLine(text, "_ExtentY = " + Extent(*height));
+}
+
 void AddGreenTreeGrid(std::string& text, FormWriter& w, const ControlDesign& c, const GridSource& g,
                       const std::string& name, const std::string& data) {
   w.AddComponent(kGreenTree.Guid, kGreenTree.File);
   AddLine(text, "Begin DataList.GTList " + name);
   AddLine(text, BindingsLine(w, data));
-  AddLine(text, "Height = ", ValueText(c, "Height"));
-  AddLine(text, "Left = ", w.ControlLeft(c));
-  AddLine(text, "TabIndex = ", ValueText(c, "TabIndex"));
-  AddTabStopLine(text, c);
-  AddLine(text, "Top = ", w.ControlTop(c));
-  AddLine(text, "Width = ", ValueText(c, "Width"));
-  AddLine(text, "_Version =   65536");
-  AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
-  AddLine(text, "AllowColumnDragDrop = 0");
-  AddLine(text, "DefColCaptionBorderStyle = 3");
+  AddGreenTreeFrame(text, w, c);
   AddEnabledLine(text, c);
-  for (const char* font : {"DefColCaptionFont", "DefFont", "ScrollTipFont", "ExtendTipFont"})
-    AddFixedFontLines(text, "BeginProperty " + std::string(font) + " " + kFontGuid, "MS Sans Serif",
-                      "8.25");
+  AddDataListFonts(text);
   AddLine(text, "CDs.Count = " + std::to_string(g.Columns.size()));
   for (size_t i = 0; i < g.Columns.size(); ++i) {
     const Column& d = g.Columns[i];
@@ -242,8 +240,7 @@ void AddGreenTreeGrid(std::string& text, FormWriter& w, const ControlDesign& c, 
   }
   AddLine(text, "LImgs.Count = 1");
   AddLine(text, "GridLineType = 3");
-  if (auto width = c.Number("Width")) AddLine(text, "_ExtentX = " + Extent(*width));
-  if (auto height = c.Number("Height")) AddLine(text, "_ExtentY = " + Extent(*height));
+  AddGridExtent(text, c);
   AddLine(text, "_StockProps = 81");
   AddLine(text, "BackColor = -2147483643");
 }
@@ -257,14 +254,10 @@ void AddSheridanGrid(std::string& text, FormWriter& w, const ControlDesign& c, c
                                : s.Options.ListboxType == 2 ? kSheridanData
                                                             : kSheridanDao;
   w.AddComponent(component.Guid, component.File);
-  AddLine(text, s.Options.UseAdo ? "Begin SSDataWidgets_B_OLEDB.SSOleDBGrid " + name
-                                 : "Begin SSDataWidgets_B.SSDBGrid " + name);
-  AddLine(text, BindingsLine(w, data));
-  AddLine(text, "Height = ", ValueText(c, "Height"));
-  AddLine(text, "Left = ", w.ControlLeft(c));
-  AddLine(text, "TabIndex =", ValueText(c, "TabIndex"));
-  AddLine(text, "Top = ", w.ControlTop(c));
-  AddLine(text, "Width = ", ValueText(c, "Width"));
+  AddGridHead(text, w, c,
+              s.Options.UseAdo ? "Begin SSDataWidgets_B_OLEDB.SSOleDBGrid " + name
+                               : "Begin SSDataWidgets_B.SSDBGrid " + name,
+              data);
   AddLine(text, "_Version = 131072");
   AddAllowLines(text, g);
   AddFixedFontLines(text, std::string("BeginProperty HeadFont ") + kFontGuid, " Arial", "8");
@@ -288,8 +281,7 @@ void AddSheridanGrid(std::string& text, FormWriter& w, const ControlDesign& c, c
     if (d.TextAlign == 3) AddLine(text, col + "Alignment = 1");
     if (!d.Format.empty()) AddLine(text, col + "NumberFormat = " + Quoted(d.Format));
   }
-  if (auto width = c.Number("Width")) AddLine(text, "_ExtentX = " + Extent(*width));
-  if (auto height = c.Number("Height")) AddLine(text, "_ExtentY = " + Extent(*height));
+  AddGridExtent(text, c);
   AddLine(text, "_StockProps = 79");
   AddFixedFontLines(text, std::string("BeginProperty Font ") + kFontGuid,
                     w.Text().InTabControl ? "Arial" : " Arial ", "8.25");
@@ -305,15 +297,8 @@ void AddDataGridFont(std::string& text, const char* head) {
 void AddDataGrid(std::string& text, FormWriter& w, const ControlDesign& c, const GridSource& g,
                  const std::string& name, const std::string& data) {
   w.AddComponent(kDataGrid.Guid, kDataGrid.File);
-  AddLine(text, "Begin MSDataGridLib.DataGrid " + name);
-  AddLine(text, BindingsLine(w, data));
-  AddLine(text, "Height = ", ValueText(c, "Height"));
-  AddLine(text, "Left = ", w.ControlLeft(c));
-  AddLine(text, "TabIndex =", ValueText(c, "TabIndex"));
-  AddLine(text, "Top = ", w.ControlTop(c));
-  AddLine(text, "Width = ", ValueText(c, "Width"));
-  if (auto width = c.Number("Width")) AddLine(text, "_ExtentX = " + Extent(*width));
-  if (auto height = c.Number("Height")) AddLine(text, "_ExtentY = " + Extent(*height));
+  AddGridHead(text, w, c, "Begin MSDataGridLib.DataGrid " + name, data);
+  AddGridExtent(text, c);
   AddLine(text, "_Version = 393216");
   AddLine(text, "HeadLines = 1");
   AddLine(text, "RowHeight = 15");
@@ -383,13 +368,11 @@ bool OnFormItself(FormWriter& w) {
 void WriteGrid(FormWriter& w, const ControlDesign& c, const GridSource& g, SubformKind kind) {
   ConversionSession& s = w.Session();
   FormTextSet& t = w.Text();
-  BeginControl(w);
-  const std::string name = s.Form().CurrentControlName;
+  const std::string name = BeginSubformControl(w);
   // A form's data control has the form's name; a table's or query's its
   // own name as an identifier.
   const std::string dataName = w.UniqueControlName(DataControlName(
       g.Form ? s.Names.Name(ComponentRole::Form, g.Name).VbName : VbIdentifier(g.Name)));
-  CountControl(w);
 
   std::string text;
   bool written = true;
@@ -427,8 +410,7 @@ void WriteGrid(FormWriter& w, const ControlDesign& c, const GridSource& g, Subfo
   }
   if (written) {
     AddLine(text, "TabStop =", ValueText(c, "TabStop"));
-    AddLine(text, "BackColor= &H", Hex(c, "BackColor"), "&");
-    AddLine(text, "ForeColor= &H", Hex(c, "ForeColor"), "&");
+    AddColorLines(text, c);
     AddQueryTag(text, s, c, g.RecordSource);
     AddVisibleLine(text, c);
     AddLine(text, "End");
@@ -448,7 +430,7 @@ void WriteGrid(FormWriter& w, const ControlDesign& c, const GridSource& g, Subfo
   CountControl(w);
   PutText(w, data);
   s.Form().CurrentControlName = name;
-  AddLinkHints(w, c, g.RecordSource, dataName);
+  AddSubformLinkHints(w, c, g.RecordSource, dataName);
   NoteCodeLeftBehind(w, name, g.Form, "its grid");
 }
 
@@ -562,9 +544,7 @@ std::string WalkInsideFrame(FormWriter& w, const ControlDesign& c, const FormDes
 void WriteEmbedded(FormWriter& w, const ControlDesign& c, const FormDesign& f) {
   ConversionSession& s = w.Session();
   FormTextSet& t = w.Text();
-  BeginControl(w);
-  const std::string name = s.Form().CurrentControlName;
-  CountControl(w);
+  const std::string name = BeginSubformControl(w);
   if (f.Number("DefaultView") == 1)
     PartlyConverted(w, name,
                     "the continuous form " + f.Name() +
@@ -603,9 +583,7 @@ std::vector<const ControlDesign*> RepeatedFields(const FormDesign& f) {
 void WriteRepeater(FormWriter& w, const ControlDesign& c, const FormDesign& f) {
   ConversionSession& s = w.Session();
   FormTextSet& t = w.Text();
-  BeginControl(w);
-  const std::string frame = s.Form().CurrentControlName;
-  CountControl(w);
+  const std::string frame = BeginSubformControl(w);
   AddHint(s, ContinuousFormHint{t.CurrentForm->Name(), c.Name()});
   w.AddComponent(kRepeater.Guid, kRepeater.File);
 
@@ -674,6 +652,20 @@ void WriteRepeater(FormWriter& w, const ControlDesign& c, const FormDesign& f) {
   NoteCodeLeftBehind(w, frame, &f, "its user control");
 }
 
+// The grid a datasheet becomes: the list options' substitute, else the grid
+// of the run's data controls.
+SubformKind GridKind(const ConversionSession& s) {
+  switch (s.Options.ListboxType) {
+    case 1:
+      return SubformKind::GreenTreeGrid;
+    case 2:
+    case 3:
+      return SubformKind::SheridanGrid;
+    default:
+      return s.Options.UseAdo ? SubformKind::DataGrid : SubformKind::DbGrid;
+  }
+}
+
 bool InChain(const FormTextSet& t, const std::string& name) {
   if (EqualsNoCase(t.OwnerFormName, name)) return true;
   for (const std::string& f : t.FormChain)
@@ -720,15 +712,7 @@ SubformKind ChooseSubformKind(const ConversionSession& s, const FormDesign& f) {
       allows("AllowEdits") || allows("AllowDeletions") || allows("AllowAdditions");
   if (view != 2 && (view != 1 || editable)) return SubformKind::Embedded;
   if (view == 1) return SubformKind::Repeater;
-  switch (s.Options.ListboxType) {
-    case 1:
-      return SubformKind::GreenTreeGrid;
-    case 2:
-    case 3:
-      return SubformKind::SheridanGrid;
-    default:
-      return s.Options.UseAdo ? SubformKind::DataGrid : SubformKind::DbGrid;
-  }
+  return GridKind(s);
 }
 
 void WriteSubform(FormWriter& w) {
@@ -749,21 +733,7 @@ void WriteSubform(FormWriter& w) {
     g.Name = source.substr(std::string_view(prefix).size());
     g.RecordSource = g.Name;
     g.Columns = SourceColumns(s, g.Name);
-    SubformKind kind = ChooseSubformKind(s, *t.CurrentForm);
-    if (kind == SubformKind::Embedded || kind == SubformKind::Repeater) {
-      switch (s.Options.ListboxType) {
-        case 1:
-          kind = SubformKind::GreenTreeGrid;
-          break;
-        case 2:
-        case 3:
-          kind = SubformKind::SheridanGrid;
-          break;
-        default:
-          kind = s.Options.UseAdo ? SubformKind::DataGrid : SubformKind::DbGrid;
-      }
-    }
-    WriteGrid(w, c, g, kind);
+    WriteGrid(w, c, g, GridKind(s));
     return;
   }
   std::string err;

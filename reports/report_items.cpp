@@ -91,6 +91,21 @@ void AddName(std::string& t, const std::string& name) {
   AddLine(t, "Name = " + Quoted(name));
 }
 
+// An item's text opened and named.
+std::string OpenNamedItem(const ReportState& st, int type, const std::string& name) {
+  std::string t;
+  OpenItem(t, st, type);
+  AddName(t, name);
+  return t;
+}
+
+// Closes the item's property block and adds it to the section's items.
+bool CloseItem(ReportState& st, std::string& t) {
+  AddLine(t, "EndProperty");
+  st.ItemText += t;
+  return true;
+}
+
 void AddBorder(std::string& t, const ControlDesign& c) {
   AddLine(t,
           "Object.BorderStyle = ", Mapped(c.Number("BorderStyle"), kBorders, std::size(kBorders)));
@@ -133,8 +148,7 @@ std::string CaptionText(std::string_view caption) {
 // line, quotes doubled).
 void LabelLines(std::string& t, ReportState& st, const ControlDesign& c, const std::string& name,
                 const std::optional<std::string>& caption) {
-  OpenItem(t, st, kItemLabel);
-  AddName(t, name);
+  t += OpenNamedItem(st, kItemLabel, name);
   AddBorder(t, c);
   AddAlignment(t, c);
   AddGeometry(t, c);
@@ -257,39 +271,29 @@ bool TextBoxItem(ReportState& st, const ControlDesign& c) {
 }
 
 bool ShapeItem(ReportState& st, const ControlDesign& c) {
-  std::string t;
-  OpenItem(t, st, kItemShape);
-  AddName(t, st.UniqueName(c.Name(), "shp"));
+  std::string t = OpenNamedItem(st, kItemShape, st.UniqueName(c.Name(), "shp"));
   AddVisible(t, c);
   AddGeometry(t, c);
   AddLine(t, "BackColor = &H", Hex(c, "BackColor"), "&");
   AddLine(t, "BackStyle = ", ValueText(c, "BackStyle"));
   AddBorder(t, c);
   AddLine(t, "BorderColor = &H", Hex(c, "BorderColor"), "&");
-  AddLine(t, "EndProperty");
-  st.ItemText += t;
-  return true;
+  return CloseItem(st, t);
 }
 
 bool LineItem(ReportState& st, const ControlDesign& c) {
-  std::string t;
-  OpenItem(t, st, kItemLine);
-  AddName(t, st.UniqueName(c.Name(), "lin"));
+  std::string t = OpenNamedItem(st, kItemLine, st.UniqueName(c.Name(), "lin"));
   AddVisible(t, c);
   AddGeometry(t, c);
   AddBorder(t, c);
   AddLine(t, "BorderColor = &H", Hex(c, "BorderColor"), "&");
   if (c.Flag("LineSlant").value_or(false)) AddLine(t, "Slant = 1");
-  AddLine(t, "EndProperty");
-  st.ItemText += t;
-  return true;
+  return CloseItem(st, t);
 }
 
 bool ImageItem(ReportState& st, const ControlDesign& c) {
-  std::string t;
-  OpenItem(t, st, kItemImage);
   const std::string name = st.UniqueName(c.Name(), "img");
-  AddName(t, name);
+  std::string t = OpenNamedItem(st, kItemImage, name);
   AddGeometry(t, c);
   AddLine(t, "SizeMode = ", Mapped(c.Number("SizeMode"), kSizeModes, std::size(kSizeModes)));
   const std::string bytes = c.Bytes("PictureData").value_or("");
@@ -306,9 +310,7 @@ bool ImageItem(ReportState& st, const ControlDesign& c) {
       st.Review(c.Name() + " Picture " + (path.empty() ? "(embedded)" : path),
                 "Name = " + Quoted(name));
   }
-  AddLine(t, "EndProperty");
-  st.ItemText += t;
-  return true;
+  return CloseItem(st, t);
 }
 
 // A check box or bound object frame shows its field through a text box
@@ -335,9 +337,7 @@ bool BoundFieldItem(ReportState& st, const ControlDesign& c, bool checkBox) {
   AddLine(t, "LCID = 1033");
   AddLine(t, checkBox ? "SubFormatType = 8" : "SubFormatType = 9");
   AddLine(t, "EndProperty");
-  AddLine(t, "EndProperty");
-  st.ItemText += t;
-  return true;
+  return CloseItem(st, t);
 }
 
 }  // namespace
