@@ -32,15 +32,18 @@ constexpr long kPartlyConverted = 4;
 void AddLabelCaption(std::string& text, FormWriter& w, const ControlDesign& c) {
   ConversionSession& s = w.Session();
   auto caption = c.Text("Caption");
-  if (caption && caption->find("\r\n") == std::string::npos) {
+  if (caption && !HoldsLineBreak(*caption)) {
     AddLine(text, "Caption=\"" + EscapeQuotes(*caption) + "\"");
     return;
   }
   AddLine(text, "Caption=\"Caption set in Form_Load event\"");
-  if (caption)
-    AddHint(s,
-            LabelCaptionHint{s.Form().CurrentControlName,
-                             ReplaceAllText(EscapeQuotes(*caption), "\r\n", "\" & vbCrLf & \"")});
+  if (!caption) return;
+  // Each break as it was written: CR LF, or a CR or LF alone.
+  std::string code = ReplaceAllText(EscapeQuotes(*caption), "\r\n", "\x01");
+  code = ReplaceAllText(code, "\r", "\" & vbCr & \"");
+  code = ReplaceAllText(code, "\n", "\" & vbLf & \"");
+  AddHint(s, LabelCaptionHint{s.Form().CurrentControlName,
+                              ReplaceAllText(code, "\x01", "\" & vbCrLf & \"")});
 }
 
 // A label whose caption the control it belongs to writes: one in an option

@@ -1,6 +1,7 @@
 // The shared conventions of the form text: formats and line blocks.
 #include "forms/frm_text.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cmath>
 #include <cstdint>
@@ -38,7 +39,14 @@ std::string Extent(double x) { return DecimalText(x * 1.7635); }
 
 std::string EscapeQuotes(std::string_view text) { return ReplaceAllText(text, "\"", "\"\""); }
 
-std::string JoinLines(std::string_view text) { return ReplaceAllText(text, "\r\n", " "); }
+std::string JoinLines(std::string_view text) {
+  std::string out = ReplaceAllText(text, "\r\n", " ");
+  std::replace(out.begin(), out.end(), '\r', ' ');
+  std::replace(out.begin(), out.end(), '\n', ' ');
+  return out;
+}
+
+bool HoldsLineBreak(std::string_view text) { return text.find_first_of("\r\n") != text.npos; }
 
 std::optional<std::string> Escaped(const std::optional<std::string>& value) {
   if (!value) return value;
@@ -54,7 +62,8 @@ void AddLine(std::string& text, std::string_view head, const std::optional<std::
              std::string_view tail) {
   if (!value) return;
   text += head;
-  text += *value;
+  // A property line of the form text is one line, whatever its value holds.
+  text += HoldsLineBreak(*value) ? JoinLines(*value) : *value;
   text += tail;
   text += "\r\n";
 }

@@ -25,8 +25,10 @@ std::string ColorHex(long x);
 std::string Extent(double x);
 // Every double quote doubled.
 std::string EscapeQuotes(std::string_view text);
-// Every CR LF replaced by one blank.
+// Every line break (CR LF, or CR or LF alone) replaced by one blank.
 std::string JoinLines(std::string_view text);
+// Whether `text` holds a line break of any kind (CR LF, or CR or LF alone).
+bool HoldsLineBreak(std::string_view text);
 
 // Appends `line` and CR LF to `text`: the line tables of the writers are
 // built one row at a time.

@@ -141,7 +141,7 @@ std::string ControlSourceOf(const ControlDesign& c) { return c.Text("ControlSour
 
 // A label's caption on one line, its double quotes doubled.
 std::string CaptionText(std::string_view caption) {
-  return EscapeQuotes(ReplaceAllText(caption, "\r\n", " "));
+  return EscapeQuotes(JoinLines(caption));
 }
 
 // The lines of a label item with the caption `caption` (already on one
@@ -152,7 +152,12 @@ void LabelLines(std::string& t, ReportState& st, const ControlDesign& c, const s
   AddBorder(t, c);
   AddAlignment(t, c);
   AddGeometry(t, c);
-  if (caption) AddLine(t, "Object.Caption = \"" + *caption + "\"");
+  // A designer line holds no line break: one in a caption built from the
+  // source (Chr(13) & Chr(10)) shows as a blank, with a row to say so.
+  if (caption && HoldsLineBreak(*caption))
+    st.Review(c.Name() + ": the caption's line break is a blank in the report",
+              "Object.Caption = \"" + JoinLines(*caption) + "\"");
+  if (caption) AddLine(t, "Object.Caption = \"" + JoinLines(*caption) + "\"");
   AddColours(t, c);
   AddFontLines(t, c, true);
   AddVisible(t, c);

@@ -11,6 +11,7 @@
 #include "translator/analysis_writers.h"
 #include "translator/rule_outcomes.h"
 #include "translator/text_helpers.h"
+#include "translator/vb_code.h"
 #include "translator/vb_text.h"
 
 namespace morvane {
@@ -267,6 +268,17 @@ void DoCmdRules(ModuleTranslation& t, std::string& line) {
     bool fits = rule.match == Match::Equals ? EqualsNoCase(line, rule.text)
                                             : StartsWithNoCase(line, rule.text);
     if (!fits) continue;
+    // A rule that reads the arguments would take a comment behind them for
+    // one: the comment is set aside and comes back behind the result.
+    if (rule.match != Match::Equals) {
+      if (const size_t mark = CharKinds(line).find('m'); mark != std::string::npos) {
+        const std::string comment = line.substr(mark);
+        line = CodePart(line);
+        DoCmdRules(t, line);
+        line += " " + comment;
+        return;
+      }
+    }
     switch (rule.outcome) {
       case Outcome::Plain:
         line = RuleText(rule, rule.head, line);

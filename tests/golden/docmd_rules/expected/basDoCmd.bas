@@ -11,6 +11,7 @@ Public Sub Examples()
     Dim x As Variant
     'MORVANE DoCmd.Beep ' a trailing comment fails the whole-line test
     Beep
+    Screen.ActiveForm.Controls( "Total").SetFocus	'MORVANE DoCmd.GoToControl "Total" ' a comment is no argument
     Load Orders
     Orders.Openargs = "x"
     Orders.Show vbModal 	'MORVANE DoCmd.OpenForm "Orders", , , , , acDialog, "x"

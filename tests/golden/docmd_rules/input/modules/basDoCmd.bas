@@ -11,6 +11,7 @@ Public Sub Examples()
     Dim x As Variant
     DoCmd.Beep ' a trailing comment fails the whole-line test
     DoCmd.Beep
+    DoCmd.GoToControl "Total" ' a comment is no argument
     DoCmd.OpenForm "Orders", , , , , acDialog, "x"
     DoCmd.OpenForm "Customers"
     DoCmd.RunMacro "M1", 3
