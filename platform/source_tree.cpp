@@ -261,6 +261,20 @@ void DirectorySourceTree::ReadFile(const fs::path& file, const LayoutRule* force
   found_.push_back(std::move(f));
 }
 
+namespace {
+
+// Whether a .sql file's text creates or changes a table or an index rather
+// than being the SQL of a saved query.
+bool IsTableDefinition(std::string_view sql) {
+  std::string_view t = text::Trim(sql);
+  for (std::string_view head :
+       {"CREATE TABLE", "CREATE INDEX", "CREATE UNIQUE INDEX", "ALTER TABLE"})
+    if (IStartsWith(t, head)) return true;
+  return false;
+}
+
+}  // namespace
+
 bool DirectorySourceTree::AddObject(AccessObjectKind kind, const std::string& name,
                                     const fs::path& file, std::string* err) {
   std::string key = std::to_string(static_cast<int>(kind)) + ":" + Lower(name);
@@ -379,6 +393,12 @@ bool DirectorySourceTree::Resolve(std::string* err) {
         q.Info.Sql = sql;
         q.Info.Type = QueryTypeOf(q.Operation, sql);
       }
+      continue;
+    }
+    // Export tools write each table's definition as a .sql file of its own
+    // (CREATE TABLE ...): a table, which the database holds, not a query.
+    if (IsTableDefinition(sql)) {
+      Warn(f.File, "the definition of a table, not a query; tables are read from the database");
       continue;
     }
     if (!AddObject(AccessObjectKind::Query, name, f.File, err)) return false;

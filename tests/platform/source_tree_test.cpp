@@ -173,6 +173,10 @@ TEST(SourceTreeTest, FolderTreeWithCodeFilesSqlAndMetadata) {
   WriteFile(dir / "queries" / "qryBig.bas", kQueryGrid);
   WriteFile(dir / "queries" / "qryBig.sql", "SELECT * FROM Orders\r\nWHERE Total > 100;\r\n");
   WriteFile(dir / "queries" / "qryAppend.sql", "INSERT INTO Archive SELECT * FROM Orders;\n");
+  // Table definitions, twice (a nested copy of the export): no queries.
+  const std::string table = "\xEF\xBB\xBF" "CREATE TABLE [Orders] (\r\n  [ID] AUTOINCREMENT\r\n)\r\n";
+  WriteFile(dir / "tbldefs" / "Orders.sql", table);
+  WriteFile(dir / "app.accdb.src" / "tbldefs" / "Orders.sql", table);
   WriteFile(dir / "dbs-properties.json",
             "{\"Info\": {\"Class\": \"clsDbProperty\"}, \"Items\": {\"AppTitle\": {\"Value\": "
             "\"Orders \\u00c4\", \"Type\": 10}, \"StartupForm\": {\"Value\": \"frmMain\", "
@@ -185,7 +189,9 @@ TEST(SourceTreeTest, FolderTreeWithCodeFilesSqlAndMetadata) {
   auto tree = OpenOk(dir.path());
   ASSERT_TRUE(tree);
   EXPECT_EQ(tree->Layout(), "msaccess-vcs");
-  EXPECT_TRUE(tree->Warnings().empty()) << tree->Warnings()[0];
+  ASSERT_EQ(tree->Warnings().size(), 2u);
+  EXPECT_NE(tree->Warnings()[0].find("the definition of a table, not a query"), std::string::npos);
+  EXPECT_FALSE(tree->Find(AccessObjectKind::Query, "Orders"));
   const SourceObject* form = tree->Find(AccessObjectKind::Form, "frmMain");
   ASSERT_TRUE(form);
   EXPECT_EQ(form->CodeFile, dir / "forms" / "frmMain.cls");
