@@ -103,6 +103,17 @@ bool HasKeyLine(const std::vector<std::string>& lines, std::string_view key) {
   return false;
 }
 
+// A macro saved with no actions: its "Version =" line and at most its
+// column settings.
+bool IsEmptyMacro(const std::vector<std::string>& lines, size_t first) {
+  if (!IStartsWith(Trim(lines[first]), "Version =")) return false;
+  for (size_t k = first + 1; k < lines.size(); ++k) {
+    std::string_view t = Trim(lines[k]);
+    if (!t.empty() && !IStartsWith(t, "ColumnsShown =")) return false;
+  }
+  return true;
+}
+
 bool HasSqlMemo(const std::vector<std::string>& lines) {
   for (const auto& l : lines)
     if (IStartsWith(Trim(l), "dbMemo \"SQL\"")) return true;
@@ -144,6 +155,7 @@ ExportKind ClassifyExport(const std::vector<std::string>& lines, std::string_vie
     break;
   }
   if (HasSqlMemo(lines)) return ExportKind::Query;
+  if (IsEmptyMacro(lines, i)) return ExportKind::Macro;
   if (IsProcedureHeader(first)) return ExportKind::StandardModule;
   for (auto start : kCodeStarts)
     if (IStartsWith(first, start)) return ExportKind::StandardModule;

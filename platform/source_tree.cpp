@@ -51,6 +51,15 @@ bool SourceTree::LoadDesignText(AccessObjectKind kind, const std::string& name,
 
 namespace {
 
+// A user form of the Visual Basic editor: "VERSION 5.00", then the designer
+// block of Microsoft Forms 2.0.
+bool IsUserForm(const std::vector<std::string>& lines) {
+  size_t i = 0;
+  while (i < lines.size() && text::Trim(lines[i]).empty()) ++i;
+  return i + 1 < lines.size() && IStartsWith(text::Trim(lines[i]), "VERSION 5.00") &&
+         IStartsWith(text::Trim(lines[i + 1]), "Begin {C62A69F0-16DC-11CE-9E98-00AA00574A4F}");
+}
+
 constexpr size_t kBinaryProbeBytes = 4096;
 
 const char* KindWord(AccessObjectKind kind) {
@@ -224,7 +233,11 @@ void DirectorySourceTree::ReadFile(const fs::path& file, const LayoutRule* force
   f.File = file;
   f.Kind = ClassifyExport(lines, ext);
   if (f.Kind == ExportKind::None) {
-    if (IsExportExtension(ext)) Warn(file, "not an Access export; skipped");
+    if (IsUserForm(lines))
+      Warn(file, "a VBA user form (Microsoft Forms 2.0), which Visual Basic 6 cannot load; "
+                 "neither it nor its code is converted");
+    else if (IsExportExtension(ext))
+      Warn(file, "not an Access export; skipped");
     return;
   }
   if (text.Unmappable > 0)

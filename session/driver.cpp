@@ -36,6 +36,9 @@ bool IsInside(const fs::path& inner, const fs::path& outer) {
   return mismatch.first == b.end();
 }
 
+// The object of the run notes that come from reading the source tree.
+constexpr std::string_view kSourceTreeNotes = "(source tree)";
+
 void Note(ConversionSession& s, RunSummary& summary, const std::string& object,
           const std::string& text) {
   summary.Notes.push_back(object.empty() ? text : object + ": " + text);
@@ -399,7 +402,8 @@ RunSummary RunTranslation(ConversionSession& s, AccessLink& link, Converters& c,
   if (s.SupportDb) {
     summary.Notes.clear();
     for (const auto& [object, text] : s.SupportDb->RunNotes())
-      summary.Notes.push_back(object.empty() ? text : object + ": " + text);
+      if (object != kSourceTreeNotes)  // shown as warnings before the run
+        summary.Notes.push_back(object.empty() ? text : object + ": " + text);
   }
   s.Output = nullptr;
   return summary;
@@ -421,6 +425,11 @@ void RunConversion(ConversionSession& s, AccessLink& link, Converters& c, RunSum
   s.SupportDb->BeginBatch();
   s.SupportDb->ClearAnalysis();
   s.SupportDb->ClearRunNotes();
+  // What reading the tree passed over (a file that is no export, a table's
+  // definition, code whose object is missing) is kept with the run's notes.
+  if (link.Tree())
+    for (const auto& warning : link.Tree()->Warnings())
+      s.SupportDb->AddRunNote(std::string(kSourceTreeNotes), Utf8ToWindows1252(warning));
   if (!link.CopySourceDatabase(s, &err)) {  // S3
     s.SupportDb->EndBatch();
     s.Ui->ShowMessage(err, MessageIcon::Stop);

@@ -291,6 +291,38 @@ TEST(Convert, ClassModulesOfBothShapesAndCodeBesideItsFormComeAcross) {
   }
 }
 
+TEST(Convert, FilesThatAreNoObjectAreNamedInTheAnalysisAndAnEmptyMacroIsOne) {
+  TempDir dir;
+  const fs::path src = dir / "src";
+  WriteFile(src / "modules" / "basA.bas", "Attribute VB_Name = \"basA\"\nSub A()\nEnd Sub\n");
+  WriteFile(src / "macros" / "mcrEmpty.bas", "\xEF\xBB\xBFVersion =196611\r\nColumnsShown =0\r\n");
+  WriteFile(src / "vbeforms" / "frmUser.frm",
+            "VERSION 5.00\r\nBegin {C62A69F0-16DC-11CE-9E98-00AA00574A4F} frmUser\r\n"
+            "   Caption = \"User form\"\r\nEnd\r\nAttribute VB_Name = \"frmUser\"\r\n");
+  // A table's definition, in the tree and again in a nested copy of it.
+  const std::string table = "CREATE TABLE [Orders] (\r\n  [ID] AUTOINCREMENT\r\n)\r\n";
+  WriteFile(src / "tbldefs" / "Orders.sql", table);
+  WriteFile(src / "copy.accdb.src" / "tbldefs" / "Orders.sql", table);
+
+  auto r = RunMorvane({"convert", src.string(), "-o", (dir / "out").string(), "--yes"});
+  ASSERT_EQ(r.status, 0) << r.err;
+  EXPECT_NE(r.out.find("1 module(s), 1 macro(s)."), std::string::npos) << r.out;
+  EXPECT_NE(ReadFile(dir / "out" / "MacroCode.bas").find("\r\nFunction mcrEmpty ()\r\n"),
+            std::string::npos);
+  std::string err;
+  auto db = SupportDatabase::Open(dir / "out" / "morvane.db", MORVANE_DATA_DIR, &err);
+  ASSERT_TRUE(db) << err;
+  std::string notes;
+  for (const auto& [object, note] : db->RunNotes())
+    if (object == "(source tree)") notes += note + "\n";
+  for (const char* said :
+       {"frmUser.frm: a VBA user form (Microsoft Forms 2.0), which Visual Basic 6 cannot load",
+        "tbldefs/Orders.sql: the definition of a table, not a query"})
+    EXPECT_NE(notes.find(said), std::string::npos) << said << "\n" << notes;
+  // Said as warnings before the run, not again among what it could not do.
+  EXPECT_EQ(r.out.find("Not done"), std::string::npos) << r.out;
+}
+
 TEST(Convert, RunningTwiceIntoOneDirectoryGivesTheSameFiles) {
   TempDir dir;
   auto first = RunMorvane({"convert", kSample.string(), "-o", (dir / "out").string(), "--yes"});
@@ -426,8 +458,9 @@ TEST(Convert, AFileThatCannotBeWrittenLeavesTheGoodOneAndIsNamed) {
     EXPECT_EQ(file.find("morvane-part"), std::string::npos) << file;
     for (const auto& [oldFile, oldBytes] : before)
       if (oldFile == file && file.find("morvane.db") == std::string::npos &&
-          file.find("analysis") == std::string::npos)
+          file.find("analysis") == std::string::npos) {
         EXPECT_EQ(bytes, oldBytes) << file;
+      }
   }
 }
 
