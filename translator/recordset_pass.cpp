@@ -171,6 +171,14 @@ std::string Assignment(const std::string& line, int p, const std::string& value,
   return prefix + n + "(" + x + ").Value = True" + rest;
 }
 
+// Whether `text` is nothing but the qualifier of a name ("Me.", "Me!",
+// "frm."): what stands before a group that a statement assigns to.
+bool IsQualifier(std::string_view text) {
+  for (char c : text)
+    if (!IsNameCharacter(static_cast<unsigned char>(c)) && c != '.' && c != '!') return false;
+  return true;
+}
+
 void OptionGroupRule(ConversionSession& s, std::string& line,
                      const std::vector<std::string>& groups, int* kept) {
   for (size_t gi = 1; gi < groups.size(); ++gi) {
@@ -208,8 +216,9 @@ void OptionGroupRule(ConversionSession& s, std::string& line,
       if (valueForm || starts(" = ")) {
         const std::string value = after.substr(valueForm ? 9 : 3);
         // A blank behind the value's first character: the statement goes on,
-        // so this is a test, not an assignment.
-        if (value.find(' ', 1) != std::string::npos) {
+        // so this is a test, not an assignment, unless the group is the
+        // statement's target ("Me!grp = Not x").
+        if (value.find(' ', 1) != std::string::npos && !IsQualifier(before)) {
           const std::string token = ExpressionToken(value);
           // A value that is no plain expression ("" Or ...) is left alone:
           // "grp()" would not compile.

@@ -217,6 +217,7 @@ TEST(RecordsetPass, OptionGroupsBecomeButtonArrays) {
       {"grpX = 2", "grpX(2).Value = True"},
       {"grpX = 2 ' two", "grpX(2 ).Value = True' two"},
       {"Me.grpX = 2", "Me.grpX(2).Value = True"},
+      {"Me.grpX = Not Me.chkNew", "Me.grpX(Not Me.chkNew).Value = True"},
       {"If grpX = 2 Then", "If grpX(2) Then"},
       {"x = grpX", "x = grpX(OptionGroupValue(grpX)).Index"},
       {"x = Me.grpX", "x = Me.grpX(OptionGroupValue(Me.grpX)).Index"},
