@@ -101,6 +101,12 @@ struct Table {
 };
 struct Column {
   std::string Expression, Alias;
+  std::string Name;    // the field an append or update query writes
+  int GroupLevel = 0;  // crosstab: 2 a row heading, 1 the column heading
+};
+struct Group {
+  std::string Expression;
+  int GroupLevel = 0;
 };
 struct Join {
   std::string Left, Right, Expression;
@@ -114,12 +120,13 @@ struct Order {
 struct Grid {
   int Operation = 0;
   int Option = 0;
+  std::string Target;  // the table a make-table or append query writes
   std::string Where, Having;
   std::vector<Table> Tables;
   std::vector<Column> Columns;
   std::vector<Join> Joins;
   std::vector<Order> Orders;
-  std::vector<std::string> Groups;
+  std::vector<Group> Groups;
 };
 
 std::string KeyOf(std::string_view line) {
@@ -155,12 +162,17 @@ void ReadBlock(const std::vector<std::string>& lines, size_t* i, std::string_vie
       if (key == "Name") g->Tables.push_back({QuotedValueAt(lines, i), {}});
       if (key == "Alias" && !g->Tables.empty()) g->Tables.back().Alias = QuotedValueAt(lines, i);
     } else if (block == "OutputColumns") {
+      // A column's lines end with its Expression, or with the GroupLevel
+      // that follows it in a crosstab.
       if (key == "Alias") column.Alias = QuotedValueAt(lines, i);
+      if (key == "Name") column.Name = QuotedValueAt(lines, i);
       if (key == "Expression") {
         column.Expression = QuotedValueAt(lines, i);
         g->Columns.push_back(column);
         column = Column();
       }
+      if (key == "GroupLevel" && !g->Columns.empty())
+        g->Columns.back().GroupLevel = std::atoi(NumberText(t).c_str());
     } else if (block == "Joins") {
       if (key == "LeftTable") join.Left = QuotedValueAt(lines, i);
       if (key == "RightTable") join.Right = QuotedValueAt(lines, i);
@@ -178,7 +190,9 @@ void ReadBlock(const std::vector<std::string>& lines, size_t* i, std::string_vie
         order = Order();
       }
     } else if (block == "Groups") {
-      if (key == "Expression") g->Groups.push_back(QuotedValueAt(lines, i));
+      if (key == "Expression") g->Groups.push_back({QuotedValueAt(lines, i), 0});
+      if (key == "GroupLevel" && !g->Groups.empty())
+        g->Groups.back().GroupLevel = std::atoi(NumberText(t).c_str());
     }
   }
 }
@@ -232,10 +246,18 @@ std::string Joined(const std::vector<std::string>& items) {
   return out;
 }
 
+// Level 1 of a crosstab is its column heading (PIVOT), not a group.
+constexpr int kPivotLevel = 1;
+constexpr int kCrosstabOperation = 6;
+
 std::string TailClauses(const Grid& g) {
   std::string out;
   if (!g.Where.empty()) out += "\r\nWHERE " + g.Where;
-  if (!g.Groups.empty()) out += "\r\nGROUP BY " + Joined(g.Groups);
+  std::vector<std::string> groups;
+  for (const auto& group : g.Groups)
+    if (g.Operation != kCrosstabOperation || group.GroupLevel != kPivotLevel)
+      groups.push_back(group.Expression);
+  if (!groups.empty()) out += "\r\nGROUP BY " + Joined(groups);
   if (!g.Having.empty()) out += "\r\nHAVING " + g.Having;
   std::vector<std::string> orders;
   for (const auto& o : g.Orders) orders.push_back(o.Expression + (o.Descending ? " DESC" : ""));
@@ -243,18 +265,77 @@ std::string TailClauses(const Grid& g) {
   return out;
 }
 
-std::string SelectSql(const Grid& g) {
-  std::vector<std::string> cols;
-  for (const auto& c : g.Columns)
-    cols.push_back(c.Alias.empty() ? c.Expression : c.Expression + " AS " + Bracketed(c.Alias));
+std::string ColumnText(const Column& c) {
+  return c.Alias.empty() ? c.Expression : c.Expression + " AS " + Bracketed(c.Alias);
+}
+
+// The SELECT of a select, make-table or append query (`into` after the
+// columns of a make-table query), or of a crosstab's row headings.
+std::string SelectPart(const Grid& g, const std::vector<std::string>& cols,
+                       const std::string& into = {}) {
   std::string sql = "SELECT ";
   if (g.Option == kOptionDistinctRow)
     sql += "DISTINCTROW ";
   else if (g.Option == kOptionDistinct)
     sql += "DISTINCT ";
   sql += cols.empty() ? "*" : Joined(cols);
-  sql += "\r\nFROM " + FromClause(g) + TailClauses(g) + ";";
-  return sql;
+  if (!into.empty()) sql += " INTO " + Bracketed(into);
+  return sql + "\r\nFROM " + FromClause(g) + TailClauses(g);
+}
+
+std::string SelectSql(const Grid& g) {
+  std::vector<std::string> cols;
+  for (const auto& c : g.Columns) cols.push_back(ColumnText(c));
+  return SelectPart(g, cols) + ";";
+}
+
+std::string MakeTableSql(const Grid& g) {
+  std::vector<std::string> cols;
+  for (const auto& c : g.Columns) cols.push_back(ColumnText(c));
+  return SelectPart(g, cols, g.Target) + ";";
+}
+
+// Only the columns with a field to append to are appended.
+std::string AppendSql(const Grid& g) {
+  std::vector<std::string> fields, cols;
+  for (const auto& c : g.Columns) {
+    if (c.Name.empty()) continue;
+    fields.push_back(Bracketed(c.Name));
+    cols.push_back(ColumnText(c));
+  }
+  return "INSERT INTO " + Bracketed(g.Target) + " ( " + Joined(fields) + " )\r\n" +
+         SelectPart(g, cols) + ";";
+}
+
+// The field names of an update stand as Access wrote them ("T.Field").
+std::string UpdateSql(const Grid& g) {
+  std::vector<std::string> sets;
+  for (const auto& c : g.Columns)
+    if (!c.Name.empty()) sets.push_back(c.Name + " = " + c.Expression);
+  std::string sql = "UPDATE ";
+  if (g.Option == kOptionDistinctRow) sql += "DISTINCTROW ";
+  sql += FromClause(g) + " SET " + Joined(sets);
+  if (!g.Where.empty()) sql += "\r\nWHERE " + g.Where;
+  return sql + ";";
+}
+
+// TRANSFORM the value column, SELECT the row headings, PIVOT the column
+// heading; empty when the grid lacks the value or the column heading.
+std::string CrosstabSql(const Grid& g) {
+  const Column* value = nullptr;
+  const Column* pivot = nullptr;
+  std::vector<std::string> rows;
+  for (const auto& c : g.Columns) {
+    if (c.GroupLevel == kPivotLevel && !pivot)
+      pivot = &c;
+    else if (c.GroupLevel == 0 && !value)
+      value = &c;
+    else if (c.GroupLevel != kPivotLevel && c.GroupLevel != 0)
+      rows.push_back(ColumnText(c));
+  }
+  if (!value || !pivot) return {};
+  return "TRANSFORM " + ColumnText(*value) + "\r\n" + SelectPart(g, rows) + "\r\nPIVOT " +
+         pivot->Expression + ";";
 }
 
 std::string DeleteSql(const Grid& g) {
@@ -370,6 +451,7 @@ QueryExport QueryFromExport(const std::vector<std::string>& lines, std::string* 
     }
     std::string key = KeyOf(t);
     if (key == "Operation") g.Operation = std::atoi(NumberText(t).c_str());
+    if (key == "Name") g.Target = QuotedValueAt(lines, &i);
     if (key == "Option") g.Option = std::atoi(NumberText(t).c_str());
     if (key == "Where") g.Where = QuotedValueAt(lines, &i);
     if (key == "Having") g.Having = QuotedValueAt(lines, &i);
@@ -379,13 +461,31 @@ QueryExport QueryFromExport(const std::vector<std::string>& lines, std::string* 
     out.Operation = kPassThroughOperation;
   while (!out.Sql.empty() && (out.Sql.back() == '\n' || out.Sql.back() == '\r')) out.Sql.pop_back();
   if (!out.Sql.empty() || !hasGrid) return out;
-  if (g.Operation == 1 || g.Operation == 0) {
-    out.Sql = SelectSql(g);
-    out.FromGrid = true;
-  } else if (g.Operation == 5) {
-    out.Sql = DeleteSql(g);
-    out.FromGrid = true;
-  } else if (note) {
+  switch (g.Operation) {
+    case 0:
+    case 1:
+      out.Sql = SelectSql(g);
+      break;
+    case 2:
+      if (!g.Target.empty()) out.Sql = MakeTableSql(g);
+      break;
+    case 3:
+      if (!g.Target.empty()) out.Sql = AppendSql(g);
+      break;
+    case 4:
+      out.Sql = UpdateSql(g);
+      break;
+    case 5:
+      out.Sql = DeleteSql(g);
+      break;
+    case kCrosstabOperation:
+      out.Sql = CrosstabSql(g);
+      break;
+    default:
+      break;
+  }
+  out.FromGrid = !out.Sql.empty();
+  if (out.Sql.empty() && note) {
     *note =
         "no SQL text, and a grid of operation " + std::to_string(g.Operation) + " is not rebuilt";
   }

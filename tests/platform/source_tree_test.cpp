@@ -499,7 +499,34 @@ TEST(SourceTreeTest, GridsOfOtherShapes) {
       {"delete",
        "Operation =5\nOption =8\nBegin InputTables\n Name =\"T\"\nEnd\nWhere =\"T.x=1\"\n",
        "DELETE DISTINCTROW *\r\nFROM T\r\nWHERE T.x=1;", false},
-      {"update is not rebuilt", "Operation =4\nBegin InputTables\n Name =\"T\"\nEnd\n", "", true},
+      {"update",
+       "Operation =4\nOption =0\nBegin InputTables\n Name =\"T\"\nEnd\nBegin OutputColumns\n"
+       " Name =\"T.a\"\n Expression =\"[b] & \\\"x\\\"\"\nEnd\nWhere =\"T.c=1\"\n",
+       "UPDATE T SET T.a = [b] & \"x\"\r\nWHERE T.c=1;", false},
+      {"append: only the columns with a field",
+       "Operation =3\nName =\"Archive Rows\"\nBegin InputTables\n Name =\"T\"\nEnd\n"
+       "Begin OutputColumns\n Name =\"a\"\n Expression =\"T.a\"\n Alias =\"x\"\n Name =\"b\"\n"
+       " Expression =\"T.b+1\"\n Expression =\"T.c\"\nEnd\nBegin OrderBy\n Expression =\"T.a\"\n"
+       " Flag =0\nEnd\n",
+       "INSERT INTO [Archive Rows] ( a, b )\r\nSELECT T.a, T.b+1 AS x\r\nFROM T\r\nORDER BY T.a;",
+       false},
+      {"make-table",
+       "Operation =2\nName =\"NewT\"\nOption =2\nBegin InputTables\n Name =\"T\"\nEnd\n"
+       "Begin OutputColumns\n Expression =\"T.a\"\nEnd\n",
+       "SELECT DISTINCT T.a INTO NewT\r\nFROM T;", false},
+      {"crosstab",
+       "Operation =6\nBegin InputTables\n Name =\"Q\"\nEnd\nBegin OutputColumns\n"
+       " Expression =\"Q.team\"\n GroupLevel =2\n Expression =\"Q.round\"\n GroupLevel =1\n"
+       " Alias =\"Points\"\n Expression =\"Sum(Q.p)\"\n Alias =\"Total\"\n"
+       " Expression =\"Sum(Q.p)\"\n GroupLevel =2\nEnd\nBegin Groups\n Expression =\"Q.team\"\n"
+       " GroupLevel =2\n Expression =\"Q.round\"\n GroupLevel =1\nEnd\n",
+       "TRANSFORM Sum(Q.p) AS Points\r\nSELECT Q.team, Sum(Q.p) AS Total\r\nFROM Q\r\n"
+       "GROUP BY Q.team\r\nPIVOT Q.round;",
+       false},
+      {"crosstab without its column heading is not rebuilt",
+       "Operation =6\nBegin InputTables\n Name =\"Q\"\nEnd\nBegin OutputColumns\n"
+       " Expression =\"Sum(Q.p)\"\nEnd\n",
+       "", true},
   };
   for (const auto& c : cases) {
     std::string note;
