@@ -118,6 +118,24 @@ Begin VB.Form frmEvents
       Width = 1500
       HelpContextID = 0
    End
+   Begin VB.CommandButton cmdStop
+      BeginProperty Font
+         Name = "MS Sans Serif"
+         charset = 0
+         weight = 700
+         Size = 10
+         underline = 0
+         italic = 0
+         strikethrough = 0
+      EndProperty
+      Caption = "Stop"
+      Height = 400
+      Left = 1800
+      TabIndex = 3
+      Top = 1500
+      Width = 1500
+      HelpContextID = 0
+   End
    Begin VB.CheckBox chkRush
       Value = 0
       BeginProperty Font
@@ -275,6 +293,11 @@ Private Function Form_BeforeUpdate() as Integer
     If IsNull(Me.Customer) Then Form_BeforeUpdate = True
 End Function
 
+' Access runs =Noted() on a click, never this procedure.
+Private Sub cmdStop_Click_NotEvent()
+    MsgBox "Stop"
+End Sub
+
 Private Sub lblHeader_Click()
     MsgBox "Header"
 End Sub
@@ -371,6 +394,10 @@ Private Sub Customer_LostFocus()
 End Sub
 
 Private Sub cmdGo_GotFocus()
+    Call Noted
+End Sub
+
+Private Sub cmdStop_Click()
     Call Noted
 End Sub
 
