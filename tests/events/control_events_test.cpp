@@ -287,22 +287,6 @@ TEST_F(ControlEvents, ValidateIsWrittenOnlyOutsideVisualBasic5) {
   }
 }
 
-TEST_F(ControlEvents, NewProcedureWhoseHeaderStandsIsReportedAndWrittenAgain) {
-  AddTestForm(ControlBlock("CommandButton", "cmdGo", {{"OnClick", "=Foo()"}}));
-  SetCode("Private Sub cmdGo_Click()\nEnd Sub\n");
-  Control(ControlEventKind::Button, "cmdGo", "cmdGo");
-  EXPECT_EQ(Added("Private Sub cmdGo_Click()\nEnd Sub\n"),
-            Crlf("\nPrivate Sub cmdGo_Click()\nCall Foo()\nEnd Sub\n"));
-  auto rows = Rows();
-  ASSERT_EQ(rows.size(), 1u);
-  EXPECT_EQ(rows[0].ModuleName, "frmTest");
-  EXPECT_EQ(rows[0].ReasonID, 11);
-  EXPECT_EQ(rows[0].CodeLine, "Private Sub cmdGo_Click()");
-  EXPECT_EQ(rows[0].LineNumber, 1);
-  EXPECT_EQ(rows[0].TranslatedLine, "Private Sub cmdGo_Click()");
-  EXPECT_EQ(rows[0].Routine, "Private Sub cmdGo_Click()");
-}
-
 TEST_F(ControlEvents, ControlThatIsNotThereIsNotedAndLeavesTheFileAsItIs) {
   AddTestForm(ControlBlock("CommandButton", "cmdGo", {{"OnClick", "=Foo()"}}));
   SetCode("");
