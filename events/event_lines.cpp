@@ -65,19 +65,22 @@ std::string EventCode::MacroCallText(std::string macroName) const {
 
 void EventCode::WriteEventProc(const std::string& header,
                                const std::vector<std::string>& lines) const {
-  const int found = IsDuplicateLine(header);
-  if (found > 0) {
-    // The event ran its expression or macro in Access, never the module's
-    // procedure of the same name; that one keeps its code under another
-    // name, so that the form does not define the procedure twice.
-    const size_t paren = header.find('(');
-    const std::string kept = paren == std::string::npos
-                                 ? header + "_NotEvent"
-                                 : header.substr(0, paren) + "_NotEvent" + header.substr(paren);
-    ReportLine(s_, formName_, kReasonDuplicateProcedure, header, found, kept, header);
-    RenameProcLine(header, kept);
-  }
+  SetAsideDuplicate(header);
   AppendProc(header, lines);
+}
+
+void EventCode::SetAsideDuplicate(const std::string& header) const {
+  const int found = IsDuplicateLine(header);
+  if (found == 0) return;
+  // The event ran its expression, macro or generated code in Access, never
+  // the module's procedure of the same name; that one keeps its code under
+  // another name, so that the form does not define the procedure twice.
+  const size_t paren = header.find('(');
+  const std::string kept = paren == std::string::npos
+                               ? header + "_NotEvent"
+                               : header.substr(0, paren) + "_NotEvent" + header.substr(paren);
+  ReportLine(s_, formName_, kReasonDuplicateProcedure, header, found, kept, header);
+  RenameProcLine(header, kept);
 }
 
 void EventCode::AppendProc(const std::string& header, const std::vector<std::string>& lines) const {

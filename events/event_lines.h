@@ -66,6 +66,10 @@ class EventCode {
   // The analysis row of a new procedure whose header the file already has at
   // `found`.
   void ReportDuplicate(const std::string& header, int found) const;
+  // A procedure of the module under `header`, which the event about to be
+  // written would define a second time, is renamed with "_NotEvent" and
+  // reported.
+  void SetAsideDuplicate(const std::string& header) const;
 
   // Replaces the line `oldLine` by `newLine` wherever it stands, exactly, in
   // the code section of `sectionForm`.

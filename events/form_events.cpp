@@ -159,10 +159,12 @@ class FormEventWriter {
   // form wrote already joins its lines to that one, since a module takes a
   // procedure name once.
   void AppendOrJoin(const std::string& header, const std::vector<std::string>& lines) const {
-    if (isSubform_ && code_.IsDuplicateLine(header) > 0)
+    if (isSubform_ && code_.IsDuplicateLine(header) > 0) {
       InsertAtEnd(header, lines);
-    else
+    } else {
+      code_.SetAsideDuplicate(header);
       code_.AppendProc(header, lines);
+    }
   }
   // The macro's call or the expression's: an event value that is neither
   // empty nor "[Event Procedure]".

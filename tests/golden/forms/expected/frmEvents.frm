@@ -293,6 +293,11 @@ Private Function Form_BeforeUpdate() as Integer
     If IsNull(Me.Customer) Then Form_BeforeUpdate = True
 End Function
 
+' Access runs =StartUp() when the form loads, never this procedure.
+Private Sub Form_Load_NotEvent()
+    Me.Caption = "Not run"
+End Sub
+
 ' Access runs =Noted() on a click, never this procedure.
 Private Sub cmdStop_Click_NotEvent()
     MsgBox "Stop"
