@@ -451,7 +451,9 @@ QueryExport QueryFromExport(const std::vector<std::string>& lines, std::string* 
     }
     std::string key = KeyOf(t);
     if (key == "Operation") g.Operation = std::atoi(NumberText(t).c_str());
-    if (key == "Name") g.Target = QuotedValueAt(lines, &i);
+    // The target table stands ahead of the grid; the layout blocks at the
+    // end name their tables as well.
+    if (key == "Name" && !hasGrid) g.Target = QuotedValueAt(lines, &i);
     if (key == "Option") g.Option = std::atoi(NumberText(t).c_str());
     if (key == "Where") g.Where = QuotedValueAt(lines, &i);
     if (key == "Having") g.Having = QuotedValueAt(lines, &i);

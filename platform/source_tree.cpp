@@ -391,6 +391,7 @@ bool DirectorySourceTree::Resolve(std::string* err) {
       Warn(objects_[index].File, "its code is kept in \"" + Windows1252ToUtf8(stub) +
                                      "\", which the tree does not hold; the " +
                                      KindWord(objects_[index].Kind) + " is read without code");
+  std::map<fs::path, int> tableDefinitions;
   for (const auto& f : found_) {
     if (f.Kind != ExportKind::Sql) continue;
     std::string name = StripKindPrefix(f.Stem, AccessObjectKind::Query);
@@ -410,13 +411,18 @@ bool DirectorySourceTree::Resolve(std::string* err) {
     }
     // Export tools write each table's definition as a .sql file of its own
     // (CREATE TABLE ...): a table, which the database holds, not a query.
+    // One line a folder says so.
     if (IsTableDefinition(sql)) {
-      Warn(f.File, "the definition of a table, not a query; tables are read from the database");
+      ++tableDefinitions[f.File.parent_path()];
       continue;
     }
     if (!AddObject(AccessObjectKind::Query, name, f.File, err)) return false;
     queries_[Lower(name)] = {QueryInfo{name, sql, QueryTypeOfSql(sql)}, false, 0};
   }
+  for (const auto& [folder, count] : tableDefinitions)
+    Warn(folder, std::to_string(count) +
+                     " table definition(s) (CREATE TABLE), not queries; tables are read from "
+                     "the database");
   found_.clear();
   besideDesign_.clear();
   withCodeBehind_.clear();

@@ -317,7 +317,7 @@ TEST(Convert, FilesThatAreNoObjectAreNamedInTheAnalysisAndAnEmptyMacroIsOne) {
     if (object == "(source tree)") notes += note + "\n";
   for (const char* said :
        {"frmUser.frm: a VBA user form (Microsoft Forms 2.0), which Visual Basic 6 cannot load",
-        "tbldefs/Orders.sql: the definition of a table, not a query"})
+        "tbldefs: 1 table definition(s) (CREATE TABLE), not queries"})
     EXPECT_NE(notes.find(said), std::string::npos) << said << "\n" << notes;
   // Said as warnings before the run, not again among what it could not do.
   EXPECT_EQ(r.out.find("Not done"), std::string::npos) << r.out;

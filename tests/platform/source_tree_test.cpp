@@ -190,7 +190,7 @@ TEST(SourceTreeTest, FolderTreeWithCodeFilesSqlAndMetadata) {
   ASSERT_TRUE(tree);
   EXPECT_EQ(tree->Layout(), "msaccess-vcs");
   ASSERT_EQ(tree->Warnings().size(), 2u);
-  EXPECT_NE(tree->Warnings()[0].find("the definition of a table, not a query"), std::string::npos);
+  EXPECT_NE(tree->Warnings()[0].find("1 table definition(s) (CREATE TABLE), not queries"), std::string::npos);
   EXPECT_FALSE(tree->Find(AccessObjectKind::Query, "Orders"));
   const SourceObject* form = tree->Find(AccessObjectKind::Form, "frmMain");
   ASSERT_TRUE(form);
@@ -507,7 +507,7 @@ TEST(SourceTreeTest, GridsOfOtherShapes) {
        "Operation =3\nName =\"Archive Rows\"\nBegin InputTables\n Name =\"T\"\nEnd\n"
        "Begin OutputColumns\n Name =\"a\"\n Expression =\"T.a\"\n Alias =\"x\"\n Name =\"b\"\n"
        " Expression =\"T.b+1\"\n Expression =\"T.c\"\nEnd\nBegin OrderBy\n Expression =\"T.a\"\n"
-       " Flag =0\nEnd\n",
+       " Flag =0\nEnd\nBegin\n Begin\n  Name =\"T\"\n  Name =\"\"\n End\nEnd\n",
        "INSERT INTO [Archive Rows] ( a, b )\r\nSELECT T.a, T.b+1 AS x\r\nFROM T\r\nORDER BY T.a;",
        false},
       {"make-table",
