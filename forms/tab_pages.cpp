@@ -107,6 +107,7 @@ void WriteTabControl(FormWriter& w, const ControlDesign& tab) {
   AddTipLine(head, tab);
   AddTagLine(head, tab);
   for (size_t i = 0; i < pages.size(); ++i) {
+    s.Form().TabPages[ToLower(pages[i]->Name())] = {name, static_cast<int>(i)};
     AddLine(head, "TabCaption(" + std::to_string(i) + ") = \"" + PageCaption(*pages[i]) + "\"");
     AddTabPicture(head, w, i);
     // A page Access hides is a tab the control hides.

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <array>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -41,6 +42,14 @@ struct FormState {
   int ControlsNotConverted = 0;
   std::string CurrentControlName;
   bool PlainListControl = false;
+  // The pages of the form's tab controls, by their Access name in lower
+  // case: the SSTab that shows a page and the page's tab there, for the code
+  // that names a page, which no control of the form stands for.
+  struct TabPage {
+    std::string Tab;
+    int Index = 0;
+  };
+  std::map<std::string, TabPage> TabPages;
 };
 
 }  // namespace morvane

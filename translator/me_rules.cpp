@@ -10,6 +10,7 @@
 #include "platform/support_db.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
+#include "translator/analysis_writers.h"
 #include "translator/rule_outcomes.h"
 #include "translator/text_helpers.h"
 #include "translator/vb_code.h"
@@ -65,6 +66,38 @@ bool GoToPage(ModuleTranslation& t, std::string& line, const std::string& owner,
   return false;
 }
 
+// What the code asks of a tab page, which is no control here, asked of the
+// SSTab that shows it: its caption, visibility and enabled state become the
+// tab's, SetFocus selects the tab and PageIndex is the tab's number. `head`
+// ends with "Me."; `after` follows the page's name. The text put in, or
+// empty with a review row when the member has no counterpart.
+std::string PageRule(ModuleTranslation& t, std::string& line, const std::string& head,
+                     const std::string& after, const FormState::TabPage& page) {
+  const std::string index = std::to_string(page.Index);
+  const std::string member = after.starts_with(".") ? LeadingIdentifier(after.substr(1)) : "";
+  const std::string behind = after.substr(member.empty() ? 0 : member.size() + 1);
+  std::string text;
+  if (EqualsNoCase(member, "Caption"))
+    text = page.Tab + ".TabCaption(" + index + ")";
+  else if (EqualsNoCase(member, "Visible"))
+    text = page.Tab + ".TabVisible(" + index + ")";
+  else if (EqualsNoCase(member, "Enabled"))
+    text = page.Tab + ".TabEnabled(" + index + ")";
+  else if (EqualsNoCase(member, "SetFocus"))
+    text = page.Tab + ".Tab = " + index;
+  if (!text.empty()) {
+    line = head + text + behind;
+    return text;
+  }
+  if (EqualsNoCase(member, "PageIndex")) {
+    line = head.substr(0, head.size() - 3) + index + behind;
+    return index;
+  }
+  ReportRule(t, kReasonReview, line,
+             "a page of the tab control " + page.Tab + ", which no control stands for");
+  return {};
+}
+
 void RulesFor(ModuleTranslation& t, std::string& line, const std::string& owner) {
   ConversionSession& s = t.Session;
   const std::string key = owner + ".";
@@ -105,6 +138,13 @@ void RulesFor(ModuleTranslation& t, std::string& line, const std::string& owner)
         s.Form().*(rule->flag) = true;
         break;
       case Member::Other:
+        if (owner == "Me" && !m.empty()) {
+          const auto page = s.Form().TabPages.find(ToLower(m));
+          if (page != s.Form().TabPages.end()) {
+            inserted = PageRule(t, line, head, rest.substr(m.size()), page->second);
+            break;
+          }
+        }
         if (owner != "Me" || m.empty() || !s.SupportDb) break;
         if (auto field = s.SupportDb->FindField(m)) {
           inserted = "dat" + field->Form + ".recordset.Fields(\"" + m + "\")";

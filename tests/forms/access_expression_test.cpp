@@ -61,7 +61,9 @@ TEST(VbExpression, ReadsWhatTheFormCanComputeAndNothingElse) {
   for (const Row& r : rows) {
     bool approximate = false;
     EXPECT_EQ(VbExpression(r.access, scope, &approximate), r.vb) << r.access;
-    if (r.vb) EXPECT_EQ(approximate, r.approximate) << r.access;
+    if (r.vb) {
+      EXPECT_EQ(approximate, r.approximate) << r.access;
+    }
   }
   // A form without records has no fields to read.
   scope.DataControl.clear();

@@ -583,6 +583,10 @@ Option Explicit
 
 Private Sub cmdCall_Click()
     MsgBox "Calling " & Me.datfrmTabs.recordset.Fields("CustomerID")
+    Me.tabOrder.TabCaption(1) = "Lines of " & Me.datfrmTabs.recordset.Fields("CustomerID")
+    If Me.tabOrder.TabVisible(2) Then Me.tabOrder.Tab = 0
+    Me.tabOrder.TabEnabled(1) = (2 > 0)
+    Me.pgLines.Requery
 End Sub
 Private Function InitialDataCtlCaptions()
     On Error Resume Next
