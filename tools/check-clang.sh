@@ -1,6 +1,7 @@
 #!/bin/sh
-# Builds everything with clang, warnings as errors, and runs the tests of that
-# build, so that code that only GCC accepts is caught before it lands.
+# Builds everything with clang, warnings as errors and the address and
+# undefined-behaviour sanitizers on, and runs the tests of that build: code
+# that only GCC accepts, memory errors and leaks are caught before they land.
 # Installs clang first when it is missing (run as root on a fresh machine).
 #
 #   sh tools/check-clang.sh
