@@ -447,6 +447,7 @@ TextDocument MacroConverterImpl::ConvertMacros(ConversionSession& s) {
 bool MacroNeedsContext(ConversionSession& s, std::string& name) {
   MacroTables tables(s.SupportDb);
   s.MacroProcNames.assign(1, std::string());
+  s.MacroProcIdentifiers.clear();
   const size_t dot = name.find('.');
   const std::string macro = dot == std::string::npos ? name : name.substr(0, dot);
   const std::string sub = dot == std::string::npos ? std::string() : name.substr(dot + 1);

@@ -58,7 +58,19 @@ std::string MacroProcName(ConversionSession& s, const std::string& macro, const 
   } else {
     n = CleanMacroName(macro, "Proc", 29);
   }
-  return MacroIdentifier(UniqueMacroName(s.MacroProcNames, n));
+  const std::string identifier = MacroIdentifier(UniqueMacroName(s.MacroProcNames, n));
+  // Names that differ only in case or in characters an identifier cannot
+  // hold ("+{F1}", "^{F1}") would define one procedure twice: the later one
+  // is numbered.
+  auto taken = [&](const std::string& name) {
+    for (const auto& used : s.MacroProcIdentifiers)
+      if (EqualsNoCase(used, name)) return true;
+    return false;
+  };
+  std::string unique = identifier;
+  for (int k = 1; taken(unique); ++k) unique = identifier.substr(0, 28) + std::to_string(k);
+  s.MacroProcIdentifiers.push_back(unique);
+  return unique;
 }
 
 }  // namespace morvane

@@ -71,6 +71,9 @@ struct ConversionSession {
   int BlockingFindings = 0;
   // Procedure names the macro converter has given out; grows across macros.
   std::vector<std::string> MacroProcNames;
+  // The identifiers those names became, which must differ without regard to
+  // case: two names can become one identifier.
+  std::vector<std::string> MacroProcIdentifiers;
 
   // The state of the form or report being converted; a session always has
   // one, so code that runs outside a conversion still finds a state.

@@ -1,6 +1,46 @@
 Attribute VB_Name = "MacroCode"
 Public CodeContextObject As VB.Form
 '------------------------------------------------------------
+' AutoKeys___F1_
+'
+'------------------------------------------------------------
+Function AutoKeys___F1_ ()
+    On Error GoTo AutoKeys___F1__Err
+
+    Beep
+
+
+AutoKeys___F1__Exit:
+    Exit Function
+
+AutoKeys___F1__Err:
+    MsgBox Error$
+    Resume AutoKeys___F1__Exit
+
+End Function
+
+
+'------------------------------------------------------------
+' AutoKeys___F1_1
+'
+'------------------------------------------------------------
+Function AutoKeys___F1_1 ()
+    On Error GoTo AutoKeys___F1_1_Err
+
+    Beep
+
+
+AutoKeys___F1_1_Exit:
+    Exit Function
+
+AutoKeys___F1_1_Err:
+    MsgBox Error$
+    Resume AutoKeys___F1_1_Exit
+
+End Function
+
+
+'------------------------------------------------------------
 ' mcrBeep
 '
 '------------------------------------------------------------
