@@ -3,6 +3,7 @@
 // becomes a frame "grp<name>" holding its buttons as one control array
 // indexed by their option values, or a Sheridan option set when the options
 // ask for one on a bound form.
+#include <set>
 #include <string_view>
 
 #include "design/control_types.h"
@@ -107,6 +108,9 @@ void AddToggleLines(std::string& text, const ControlDesign& k) {
 void AddTogglePicture(std::string& text, FormWriter& w, const ControlDesign& k) {
   if (HasPicture(k)) AddLine(text, "", PictureLine(w, w.Text().OwnerFormName, k));
 }
+
+// Reason of an analysis row that asks the user to review a result.
+constexpr long kReasonReview = 7;
 
 // The members of an option group, in the form's order.
 class GroupMembers {
@@ -215,11 +219,24 @@ class GroupMembers {
   }
 
   // Members share the group's control name and differ by Index, which is
-  // their option value.
-  static std::optional<std::string> IndexOf(const ControlDesign& k) {
+  // their option value. Buttons that share a value (a group whose values
+  // its code sets at run time) would share an Index, which Visual Basic does
+  // not load: the later ones take the next free number, with a row.
+  std::optional<std::string> IndexOf(const ControlDesign& k) {
     auto value = k.Text("OptionValue");
     if (!value) return std::nullopt;
-    return AbsText(*value);
+    const std::optional<std::string> index = AbsText(*value);
+    if (!index || usedIndexes_.insert(*index).second) return index;
+    long next = 0;
+    while (usedIndexes_.count(std::to_string(next))) ++next;
+    const std::string given = std::to_string(next);
+    usedIndexes_.insert(given);
+    AddHint(s_, ReportRowHint{t_.OwnerFormName, kReasonReview, k.Name() + " OptionValue=" + *value,
+                              0,
+                              "its option value is another button's: it is button " + given +
+                                  " of " + s_.Form().CurrentControlName,
+                              ""});
+    return given;
   }
 
   FormWriter& w_;
@@ -230,6 +247,7 @@ class GroupMembers {
   bool sheridan_ = false;
   std::string optionSet_;
   int n_ = 0;
+  std::set<std::string> usedIndexes_;
   long firstTop_ = 0;
   int cols_ = 0;
 };

@@ -303,6 +303,13 @@ Begin VB.Form frmControls
          BackColor= &H8000000F&
          ForeColor= &H80000012&
       End
+      Begin VB.OptionButton grpShipVia
+         Height = 210
+         Left = 1330
+         Index = 0
+         TabIndex = 94
+         Top = 750
+      End
    End
    Begin VB.Label optRoad_Label
       BackColor= &H8000000F&
