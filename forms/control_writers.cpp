@@ -27,6 +27,44 @@ constexpr const char* kThreedFile = "THREED32.OCX";
 // only in part.
 constexpr long kPartlyConverted = 4;
 
+// The inside of the quoted string expression that gives `caption` in code:
+// each line break as it was written (vbCrLf, or vbCr or vbLf alone) and,
+// when the statement would be too long for one line of code, continued
+// lines of pieces short enough for it.
+std::string CaptionCode(const std::string& caption) {
+  struct Part {
+    std::string text;
+    std::string_view lineBreak;
+  };
+  std::vector<Part> parts(1);
+  for (size_t i = 0; i < caption.size(); ++i) {
+    const char c = caption[i];
+    if (c != '\r' && c != '\n') {
+      parts.back().text += c;
+      continue;
+    }
+    const bool crlf = c == '\r' && i + 1 < caption.size() && caption[i + 1] == '\n';
+    parts.back().lineBreak = crlf ? "vbCrLf" : c == '\r' ? "vbCr" : "vbLf";
+    if (crlf) ++i;
+    parts.emplace_back();
+  }
+  constexpr size_t kLongest = 900;  // room for the statement's head
+  constexpr size_t kPiece = 800;
+  std::string flat;
+  for (const Part& p : parts) {
+    flat += EscapeQuotes(p.text);
+    if (!p.lineBreak.empty()) flat += "\" & " + std::string(p.lineBreak) + " & \"";
+  }
+  if (flat.size() <= kLongest) return flat;
+  std::string code;
+  for (const Part& p : parts) {
+    const std::vector<std::string> pieces = QuotedPieces(EscapeQuotes(p.text), kPiece);
+    for (size_t k = 0; k < pieces.size(); ++k) code += (k ? "\" & _\r\n\"" : "") + pieces[k];
+    if (!p.lineBreak.empty()) code += "\" & " + std::string(p.lineBreak) + " & _\r\n\"";
+  }
+  return code;
+}
+
 // A label's caption holding a line break cannot stand in the form text; the
 // form's load code sets it.
 void AddLabelCaption(std::string& text, FormWriter& w, const ControlDesign& c) {
@@ -37,13 +75,7 @@ void AddLabelCaption(std::string& text, FormWriter& w, const ControlDesign& c) {
     return;
   }
   AddLine(text, "Caption=\"Caption set in Form_Load event\"");
-  if (!caption) return;
-  // Each break as it was written: CR LF, or a CR or LF alone.
-  std::string code = ReplaceAllText(EscapeQuotes(*caption), "\r\n", "\x01");
-  code = ReplaceAllText(code, "\r", "\" & vbCr & \"");
-  code = ReplaceAllText(code, "\n", "\" & vbLf & \"");
-  AddHint(s, LabelCaptionHint{s.Form().CurrentControlName,
-                              ReplaceAllText(code, "\x01", "\" & vbCrLf & \"")});
+  if (caption) AddHint(s, LabelCaptionHint{s.Form().CurrentControlName, CaptionCode(*caption)});
 }
 
 // A label whose caption the control it belongs to writes: one in an option

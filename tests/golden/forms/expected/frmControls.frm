@@ -100,6 +100,26 @@ Begin VB.Form frmControls
       Width = 2000
       ToolTipText ="The title"
    End
+   Begin VB.Label lblNotice
+      BackColor= &H8000000F&
+      BackStyle=0
+      BorderStyle=0
+      Caption="Caption set in Form_Load event"
+      ForeColor= &H80000012&
+      BeginProperty Font
+         Name = "Tahoma"
+         charset = 0
+         weight = 400
+         Size = 8
+         underline = 0
+         italic = 0
+         strikethrough = 0
+      EndProperty
+      Height = 255
+      Left = 3300
+      Top = 120
+      Width = 2000
+   End
    Begin VB.TextBox OrderID
       DataSource ="datfrmControls"
       DataField ="OrderID"
@@ -481,6 +501,11 @@ Private Sub Form_Load()
 
     OrderDate.Value = Date
     grpShipVia(1).Value = True
+
+    Me.lblNotice.Caption = "PLEASE NOTE: the order stays open until every line has shipped the order stays open until every line has shipped the order stays open until every line has shipped the order stays open until every line has shipped the order stays open until every line has shipped the order stays open until every line has shipped the order stays open until every line has shipped the order stays open until every line has shipped the order stays open until every line has shipped the order stays open until every line has shipped the order stays open until every line has shipped the order stays open until every line has shipped" & vbCrLf & _
+        "" & vbCrLf & _
+        "Cancel leaves the order ""as it was"" Cancel leaves the order ""as it was"" Cancel leaves the order ""as it was"" Cancel leaves the order ""as it was"" Cancel leaves the order ""as it was"" Cancel leaves the order ""as it was"" Cancel leaves the order ""as it was"" Cancel leaves the order ""as it was"" Cancel leaves the order ""as it was"" Cancel leaves the order ""as it was""" & vbLf & _
+        "end"
 End Sub
 Private Sub Form_Activate()
     Dim vReturnValue as variant
