@@ -24,6 +24,7 @@ constexpr const char* kDatePickerObject =
     "Object=\"{86CF1D34-0C5F-11D2-A9FC-0000F8754DA1}#2.0#0\"; \"MSCOMCT2.OCX\"";
 // A property whose name differs from its field.
 constexpr long kPropertyRenamed = 13;
+constexpr long kReasonReview = 7;
 constexpr int kAlignmentMap[] = {3, 0, 2, 1};
 
 // The date formats a date picker shows, and its Format value for each.
@@ -47,7 +48,8 @@ class UserControlWriter {
       : s_(s), f_(f), className_(className), ctxFile_(ctxFile), pictures_(s, store) {
     // The properties have their fields' names; no control takes one.
     for (const ControlDesign& k : f.Controls())
-      if (k.Section() == 0 && (k.ControlType() == kTextBox || k.ControlType() == kCheckBox))
+      if (k.Section() == 0 && (k.ControlType() == kTextBox || k.ControlType() == kCheckBox ||
+                               k.ControlType() == kComboBox))
         if (auto source = k.Text("ControlSource");
             source && !source->empty() && (*source)[0] != '=')
           used_.push_back(RepeaterPropertyName(*source));
@@ -83,6 +85,7 @@ class UserControlWriter {
       if (bound_) AddProperty(k, &out.Records);
     }
     AddLine(text, "End");
+    out.Records.insert(out.Records.end(), rows_.begin(), rows_.end());
     AddLine(text, "Attribute VB_Name = \"" + className_ + "\"");
     AddLine(text, "Attribute VB_GlobalNameSpace = False");
     AddLine(text, "Attribute VB_Creatable = True");
@@ -114,6 +117,8 @@ class UserControlWriter {
         return WriteGroup(k, text);
       case kTextBox:
         return WriteTextBox(k, text);
+      case kComboBox:
+        return WriteComboBox(k, text);
       default:
         return false;
     }
@@ -435,6 +440,34 @@ class UserControlWriter {
 
   // The change handler and the property of a bound control. The property
   // has the field's name; where that is no identifier, the analysis says so.
+  // A combo box of the repeated row shows and edits its field's value as
+  // the text of a drop-down combo; its list, which each row would fill
+  // again, is not filled, and a row says so.
+  bool WriteComboBox(const ControlDesign& k, std::string& text) {
+    picker_ = false;
+    const std::string name = UniqueName(k);
+    AddLine(text, "Begin VB.ComboBox " + name);
+    AddDataField(text, k);
+    AddLine(text, "Left = ", ValueText(k, "Left"));
+    AddLine(text, "Top = ", ValueText(k, "Top"));
+    AddLine(text, "Width = ", ValueText(k, "Width"));
+    AddEnabledLine(text, k);
+    AddLine(text, "HelpContextID = ", ValueText(k, "HelpContextID"));
+    AddTabStopLine(text, k);
+    AddLine(text, "TabIndex =", ValueText(k, "TabIndex"));
+    AddLine(text, "BackColor= &H", Hex(k, "BackColor"), "&");
+    AddLine(text, "ForeColor= &H", Hex(k, "ForeColor"), "&");
+    AddFontLines(text, k);
+    AddTipTag(text, k);
+    AddVisibleLine(text, k);
+    AddLine(text, "End");
+    rows_.push_back(ReportRowHint{className_, kReasonReview, name, 0,
+                                  "shows its field's value as text; its list is not filled in "
+                                  "the repeated row",
+                                  ""});
+    return true;
+  }
+
   void AddProperty(const ControlDesign& k, std::vector<HintRecord>* records) {
     const std::string field = k.Text("ControlSource").value_or("");
     const std::string prop = RepeaterPropertyName(field);
@@ -465,6 +498,7 @@ class UserControlWriter {
     for (const std::string& line : lines) code_ += line + "\r\n";
   }
 
+  std::vector<HintRecord> rows_;  // analysis rows of the controls written
   ConversionSession& s_;
   const FormDesign& f_;
   std::string className_;

@@ -573,7 +573,7 @@ std::vector<const ControlDesign*> RepeatedFields(const FormDesign& f) {
   std::set<std::string> names;
   for (const Column& column : FormColumns(f)) {
     const int type = column.Control->ControlType();
-    if (type != kTextBox && type != kCheckBox) continue;
+    if (type != kTextBox && type != kCheckBox && type != kComboBox) continue;
     if (names.insert(ToLower(RepeaterPropertyName(column.Field))).second)
       fields.push_back(column.Control);
   }

@@ -97,6 +97,25 @@ Begin VB.UserControl cfsfrmNotes
       Width = 400
       HelpContextID = 0
    End
+   Begin VB.ComboBox cboKind
+      DataField ="Kind"
+      Left = 100
+      Top = 320
+      Width = 1200
+      HelpContextID = 0
+      TabIndex =3
+      BackColor= &H80000005&
+      ForeColor= &H80000008&
+      BeginProperty Font
+         Name = "MS Sans Serif"
+         charset = 0
+         weight = 400
+         Size = 8
+         underline = 0
+         italic = 0
+         strikethrough = 0
+      EndProperty
+   End
 End
 Attribute VB_Name = "cfsfrmNotes"
 Attribute VB_GlobalNameSpace = False
@@ -144,5 +163,19 @@ End Property
 Public Property Let Done(ByVal bNewValue As Boolean)
     chkDone.Value = IIf(bNewValue, vbChecked, vbUnchecked)
     'PropertyChanged "Done"
+End Property
+
+Private Sub cboKind_Change()
+    'PropertyChanged "Kind"
+End Sub
+
+Public Property Get Kind() As Variant
+    Attribute Kind.VB_MemberFlags = "14"
+    Kind = cboKind.Text
+End Property
+
+Public Property Let Kind(ByVal vNewValue As Variant)
+    cboKind.Text = vNewValue
+    'PropertyChanged "Kind"
 End Property
 

@@ -356,7 +356,7 @@ Begin VB.Form frmOrders
             _Version = 65536
             Name = "input_CF.cfsfrmNotes"
          EndProperty
-         RepeaterBindings = 3
+         RepeaterBindings = 4
          BeginProperty RepeaterBinding(0) {7D21A594-FC9B-11D0-A320-00AA00688B10}
             _StreamID = -1412567295
             _Version = 65536
@@ -392,6 +392,21 @@ Begin VB.Form frmOrders
             _Version = 65536
             PropertyName = "Done"
             DataField = "Done"
+            BeginProperty DataFormat {6D835690-900B-11D0-9484-00A0C91110ED}
+               Type = 0
+               Format = ""
+               HaveTrueFalseNull = 0
+               FirstDayOfWeek = 0
+               FirstWeekOfYear = 0
+               LCID = 1033
+               SubFormatType = 0
+            EndProperty
+         EndProperty
+         BeginProperty RepeaterBinding(3) {7D21A594-FC9B-11D0-A320-00AA00688B10}
+            _StreamID = -1412567295
+            _Version = 65536
+            PropertyName = "Kind"
+            DataField = "Kind"
             BeginProperty DataFormat {6D835690-900B-11D0-9484-00A0C91110ED}
                Type = 0
                Format = ""

@@ -186,6 +186,8 @@ Begin VB.Form sfrmNotes
          strikethrough = 0
       EndProperty
       ForeColor= &H80000008&
+      DataSource ="datsfrmNotes"
+      DataField ="Kind"
    End
    Begin VB.Frame Section
       Caption =  ""
