@@ -7,6 +7,7 @@
 // compiler directives stand at column 0. Unbalanced blocks never make a
 // level negative: a stray closing line is written at the current level.
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <span>
 #include <string>
@@ -90,12 +91,18 @@ struct Classified {
   int closes = 0;  // blocks the statement ends before it is written
   bool closeProcedure = false;
   bool middle = false;       // Else, ElseIf, Case: one level out for this line only
-  std::vector<Block> opens;  // blocks it starts behind it
+  // The blocks it starts behind it.
+  struct Opens {
+    std::array<Block, 8> blocks;
+    size_t count = 0;
+    void push_back(Block b) { blocks[count++] = b; }
+    const Block* begin() const { return blocks.data(); }
+    const Block* end() const { return blocks.data() + count; }
+  } opens;
 };
 
-Classified Classify(std::string_view code) {
+Classified Classify(std::string_view code, Folded& folded) {
   Classified c;
-  Folded folded;
   const std::string_view l = folded.Of(code);
   const std::string_view u = WithoutScope(l);
   if (IsWord(l, "end")) {
@@ -163,7 +170,7 @@ class CodeIndenter {
       code_ += c;
       code_ += ' ';
     }
-    Classified c = Classify(Trim(code_));
+    Classified c = Classify(Trim(code_), folded_);
     if (c.closeProcedure) {
       while (!stack_.empty() && stack_.back() != kProcedure) stack_.pop_back();
       if (!stack_.empty()) stack_.pop_back();
@@ -190,6 +197,7 @@ class CodeIndenter {
  private:
   std::vector<Block> stack_;
   std::string code_;
+  Folded folded_;
 };
 
 }  // namespace

@@ -3,6 +3,19 @@
 
 namespace morvane {
 
+namespace {
+
+// The first CR or LF at or after `from`, or npos. A plain loop: the
+// library's find_first_of calls memchr on the two-character set once per
+// character of the text.
+size_t FindBreak(std::string_view text, size_t from) {
+  for (size_t i = from; i < text.size(); ++i)
+    if (text[i] == '\r' || text[i] == '\n') return i;
+  return std::string_view::npos;
+}
+
+}  // namespace
+
 TextDocument TextDocument::FromBytes(std::string_view bytes) {
   TextDocument d;
   d.Append(bytes);
@@ -25,7 +38,7 @@ void TextDocument::Append(std::string_view bytes) {
     open_ = true;
   }
   while (i < bytes.size()) {
-    const size_t end = bytes.find_first_of("\r\n", i);
+    const size_t end = FindBreak(bytes, i);
     if (end == std::string_view::npos) {
       lines_.back().append(bytes.substr(i));
       return;
@@ -55,7 +68,7 @@ void TextDocument::AppendLines(const std::vector<std::string>& lines) {
 
 void TextDocument::SplitBreaks(size_t from, size_t to) {
   for (size_t i = from; i < to && i < lines_.size(); ++i) {
-    if (lines_[i].find_first_of("\r\n") == std::string::npos) continue;
+    if (FindBreak(lines_[i], 0) == std::string_view::npos) continue;
     std::vector<std::string> parts;
     TextDocument piece;
     piece.Append(lines_[i]);

@@ -76,13 +76,15 @@ bool StartsDateLiteral(std::string_view line, size_t pos) {
 
 MaskedLine Mask(std::string_view line) {
   MaskedLine m;
+  m.code.reserve(line.size() + 2);
   size_t i = 0;
   bool statementStart = true;
   while (i < line.size()) {
     const char c = line[i];
     // "Rem" opens a comment where a statement begins, followed by anything
     // but a name's character ("Rem//" too).
-    if (statementStart && line.size() >= i + 3 && EqualsNoCase(line.substr(i, 3), "rem") &&
+    if (statementStart && (c == 'r' || c == 'R') && line.size() >= i + 3 &&
+        EqualsNoCase(line.substr(i, 3), "rem") &&
         (line.size() == i + 3 || !IsNameChar(line[i + 3]))) {
       m.hasComment = true;
       m.comment = line.substr(i);
@@ -118,8 +120,15 @@ MaskedLine Mask(std::string_view line) {
       m.comment = line.substr(i);
       return m;
     } else {
-      m.code += c;
-      ++i;
+      // A run of characters that neither open nor close anything is copied
+      // at once.
+      size_t j = i + 1;
+      if (!statementStart)
+        while (j < line.size() && line[j] != '"' && line[j] != '#' && line[j] != '\'' &&
+               line[j] != ':')
+          ++j;
+      m.code.append(line.substr(i, j - i));
+      i = j;
     }
   }
   return m;
@@ -133,6 +142,7 @@ bool EndsWithContinuation(std::string_view text) {
 
 // The statements of a logical line: split at ":" (not ":=").
 std::vector<std::string> SplitStatements(std::string_view code) {
+  if (code.find(':') == std::string_view::npos) return {std::string(Trim(code))};
   std::vector<std::string> statements;
   std::string current;
   for (size_t i = 0; i < code.size(); ++i) {
@@ -332,11 +342,11 @@ constexpr std::string_view kModuleLevelWords[] = {
 
 constexpr std::string_view kModifiers[] = {"public", "private", "friend", "static", "global"};
 
-bool IsModifier(const std::string& word) {
+bool IsModifier(std::string_view word) {
   return std::find(std::begin(kModifiers), std::end(kModifiers), word) != std::end(kModifiers);
 }
 
-std::string KindName(const std::string& word) {
+std::string KindName(std::string_view word) {
   if (word == "sub") return "Sub";
   if (word == "function") return "Function";
   if (word == "property") return "Property";
@@ -345,7 +355,7 @@ std::string KindName(const std::string& word) {
   if (word == "if") return "If";
   if (word == "select") return "Select";
   if (word == "with") return "With";
-  return word;
+  return std::string(word);
 }
 
 struct Open {
@@ -660,13 +670,16 @@ class Checker {
     auto [w1, after1] = SplitWord(statement);
     if (w1.empty()) return true;
     const auto [w2, after2] = SplitWord(after1);
-    if (w1 == "rem") return false;
+    // The words compared as views: a std::string compared with a literal
+    // measures the literal first.
+    const std::string_view v1 = w1, v2 = w2;
+    if (v1 == "rem") return false;
     if (w1.front() == '#') return Directive(line, w1, w2, after1);
     // Visual Basic 6 does not read a branch it does not compile.
     if (!Compiled()) return false;
 
     if (typeBlock_) {
-      if (w1 == "end" && (w2 == "type" || w2 == "enum")) {
+      if (v1 == "end" && (v2 == "type" || v2 == "enum")) {
         if (KindName(w2) != typeBlock_->kind)
           Problem(line, "End " + KindName(w2) + " closes the " + typeBlock_->kind +
                             " opened on line " + std::to_string(typeBlock_->line + 1));
@@ -689,7 +702,7 @@ class Checker {
       procedure_ = Open{header->kind, line};
       return true;
     }
-    if (w1 == "end" && (w2 == "sub" || w2 == "function" || w2 == "property")) {
+    if (v1 == "end" && (v2 == "sub" || v2 == "function" || v2 == "property")) {
       EndProcedure(line, KindName(w2));
       return true;
     }
@@ -707,9 +720,9 @@ class Checker {
       return true;
     }
 
-    if (w1 == "type" || w1 == "enum" || (IsModifier(w1) && (w2 == "type" || w2 == "enum"))) {
-      Problem(line, KindName(w1 == "type" || w1 == "enum" ? w1 : w2) + " inside a procedure");
-    } else if (w1 == "if") {
+    if (v1 == "type" || v1 == "enum" || (IsModifier(w1) && (v2 == "type" || v2 == "enum"))) {
+      Problem(line, KindName(v1 == "type" || v1 == "enum" ? w1 : w2) + " inside a procedure");
+    } else if (v1 == "if") {
       const auto then = FindThen(statement);
       if (!then) {
         Problem(line, "If without Then");
@@ -718,49 +731,49 @@ class Checker {
       } else {
         blocks_.push_back({"If", line});
       }
-    } else if (w1 == "elseif") {
+    } else if (v1 == "elseif") {
       Expect(line, "If", "ElseIf");
-    } else if (w1 == "else") {
+    } else if (v1 == "else") {
       Expect(line, "If", "Else");
       // "Else If x Then" is Else followed by a nested If.
       if (!after1.empty()) return Statement(line, after1, restOfLine);
-    } else if (w1 == "select") {
-      if (w2 != "case") Problem(line, "Select without Case");
+    } else if (v1 == "select") {
+      if (v2 != "case") Problem(line, "Select without Case");
       blocks_.push_back({"Select", line});
-    } else if (w1 == "case") {
+    } else if (v1 == "case") {
       Expect(line, "Select", "Case");
-    } else if (w1 == "for") {
+    } else if (v1 == "for") {
       blocks_.push_back({"For", line});
-    } else if (w1 == "next") {
+    } else if (v1 == "next") {
       const size_t count = after1.empty() ? 1 : std::count(after1.begin(), after1.end(), ',') + 1;
       for (size_t n = 0; n < count; ++n) Close(line, "For", "Next");
-    } else if (w1 == "do") {
+    } else if (v1 == "do") {
       blocks_.push_back({"Do", line});
-    } else if (w1 == "loop") {
+    } else if (v1 == "loop") {
       Close(line, "Do", "Loop");
-    } else if (w1 == "while") {
+    } else if (v1 == "while") {
       blocks_.push_back({"While", line});
-    } else if (w1 == "wend") {
+    } else if (v1 == "wend") {
       Close(line, "While", "Wend");
-    } else if (w1 == "with") {
+    } else if (v1 == "with") {
       blocks_.push_back({"With", line});
-    } else if (w1 == "end") {
-      if (w2 == "if" || w2 == "select" || w2 == "with") {
+    } else if (v1 == "end") {
+      if (v2 == "if" || v2 == "select" || v2 == "with") {
         const std::string kind = KindName(w2);
         Close(line, kind, "End " + kind);
-      } else if (w2 == "type" || w2 == "enum") {
+      } else if (v2 == "type" || v2 == "enum") {
         Problem(line, "End " + KindName(w2) + " without " + KindName(w2));
       } else if (!w2.empty()) {
         Problem(line, "unknown End statement");
       }
-    } else if (w1 == "exit") {
+    } else if (v1 == "exit") {
       ExitStatement(line, w2);
     }
     return true;
   }
 
   // #If blocks: balanced, and which branch Visual Basic 6 compiles.
-  bool Directive(size_t line, const std::string& w1, const std::string& w2, std::string_view rest) {
+  bool Directive(size_t line, std::string_view w1, std::string_view w2, std::string_view rest) {
     if (w1 == "#if") {
       Conditional c{line, false, false, false};
       const auto holds = Holds(rest);
@@ -827,7 +840,8 @@ class Checker {
   static std::optional<ProcedureHeader> ProcedureStart(std::string_view statement) {
     auto [word, rest] = SplitWord(statement);
     while (IsModifier(word)) std::tie(word, rest) = SplitWord(rest);
-    if (word != "sub" && word != "function" && word != "property") return std::nullopt;
+    const std::string_view w = word;
+    if (w != "sub" && w != "function" && w != "property") return std::nullopt;
     ProcedureHeader header{KindName(word), ""};
     auto [name, behind] = SplitWord(rest);
     if (word == "property") {
@@ -880,7 +894,7 @@ class Checker {
     procedure_.reset();
   }
 
-  void ExitStatement(size_t line, const std::string& w2) {
+  void ExitStatement(size_t line, std::string_view w2) {
     if (w2 == "sub" || w2 == "function" || w2 == "property") {
       if (procedure_ && procedure_->kind != KindName(w2))
         Problem(line, "Exit " + KindName(w2) + " inside a " + procedure_->kind);

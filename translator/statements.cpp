@@ -114,6 +114,15 @@ std::string TranslateSafely(ModuleTranslation& t, const std::string& statement, 
 // Type ... End Type blocks of the declarations, for the rules that read a
 // member line differently.
 void TrackTypeBlock(ModuleTranslation& t, const std::string& statement, bool after) {
+  // The code part is a beginning of the statement past its blanks: a
+  // statement that does not begin with a word looked for here cannot have a
+  // code part that does.
+  std::string_view start = statement;
+  while (!start.empty() && (start.front() == ' ' || start.front() == '\t')) start.remove_prefix(1);
+  if (after ? !StartsWithNoCase(start, "End Type")
+            : !StartsWithNoCase(start, "Public ") && !StartsWithNoCase(start, "Private ") &&
+                  !StartsWithNoCase(start, "Type "))
+    return;
   const std::string code = CodePart(statement);
   if (after) {
     if (StartsWithNoCase(code, "End Type")) t.InTypeBlock = false;
