@@ -8,21 +8,16 @@ namespace morvane {
 
 std::vector<std::string> SplitLines(std::string_view text) {
   std::vector<std::string> lines;
-  std::string current;
-  bool pending = false;
-  for (size_t i = 0; i < text.size(); ++i) {
-    char c = text[i];
-    if (c == '\r' || c == '\n') {
-      lines.push_back(std::move(current));
-      current.clear();
-      pending = false;
-      if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n') ++i;
-    } else {
-      current.push_back(c);
-      pending = true;
-    }
+  const size_t n = text.size();
+  size_t start = 0;
+  for (size_t i = 0; i < n; ++i) {
+    const char c = text[i];
+    if (c != '\r' && c != '\n') continue;
+    lines.emplace_back(text.substr(start, i - start));
+    if (c == '\r' && i + 1 < n && text[i + 1] == '\n') ++i;
+    start = i + 1;
   }
-  if (pending) lines.push_back(std::move(current));
+  if (start < n) lines.emplace_back(text.substr(start));
   return lines;
 }
 
@@ -44,7 +39,11 @@ bool ReadFileBytes(const std::filesystem::path& path, std::string* bytes, std::s
     if (err) *err = "cannot open " + path.string() + " for reading";
     return false;
   }
-  bytes->assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+  // Read in blocks: an iterator over the stream takes a call per byte.
+  bytes->clear();
+  char block[1 << 16];
+  for (std::streamsize got; (got = in.rdbuf()->sgetn(block, sizeof block)) > 0;)
+    bytes->append(block, static_cast<size_t>(got));
   if (in.bad()) {
     if (err) *err = "cannot read " + path.string();
     return false;

@@ -66,6 +66,8 @@ bool IsSubHeader(ModuleTranslation& t, const std::string& written, std::string_v
 }  // namespace
 
 void InjectAfterLine(ModuleTranslation& t, const std::string& written) {
+  // Both headers hold "Sub Form_": a line without it is neither.
+  if (FindNoCase(written, "Sub Form_") == std::string::npos) return;
   const ConversionSession& s = t.Session;
   if (IsSubHeader(t, written, "Form_Load")) {
     t.FormLoadSeen = true;

@@ -85,6 +85,13 @@ constexpr Replacement kSysCmdConstants[] = {
     {"SYSCMD_GETOBJECTSTATE", "10"},
 };
 
+constexpr bool RequestsEndInParenthesis() {
+  for (const auto& r : kRequests)
+    if (r.text.empty() || r.text.back() != '(') return false;
+  return true;
+}
+static_assert(RequestsEndInParenthesis(), "every request ends in \"(\"");
+
 template <size_t N>
 constexpr bool NoEmptyFind(const Replacement (&table)[N]) {
   for (const auto& r : table)
@@ -122,7 +129,8 @@ class FoldedLine {
   // A hit that the rule must leave: counted as passed over.
   void Pass() { ++*passed_; }
   void Changed() {
-    lower_ = ToLower(line_);
+    lower_.assign(line_);
+    for (char& c : lower_) c = Lower(c);
     pairs_.reset();
     for (size_t i = 0; i + 1 < lower_.size(); ++i) pairs_.set(PairKey(lower_[i], lower_[i + 1]));
   }
@@ -141,6 +149,38 @@ class FoldedLine {
 template <size_t N>
 void ReplaceAll(FoldedLine& folded, const Replacement (&table)[N]) {
   for (const auto& r : table) folded.Replace(r.find, r.with);
+}
+
+constexpr char FoldConst(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; }
+
+constexpr bool HoldsNoCase(std::string_view text, std::string_view part) {
+  for (size_t i = 0; i + part.size() <= text.size(); ++i) {
+    bool all = true;
+    for (size_t j = 0; j < part.size() && all; ++j)
+      all = FoldConst(text[i + j]) == FoldConst(part[j]);
+    if (all) return true;
+  }
+  return false;
+}
+
+template <size_t N>
+constexpr bool AllHold(const Replacement (&table)[N], std::string_view common) {
+  for (const auto& r : table)
+    if (!HoldsNoCase(r.find, common)) return false;
+  return true;
+}
+
+// The texts of a table that all hold `common`: a line without it is left
+// at once, as none of them can change it.
+constexpr std::string_view kDatabaseVariableCommon = "db";
+constexpr std::string_view kSysCmdCommon = "syscmd";
+static_assert(AllHold(kDatabaseVariable, kDatabaseVariableCommon) &&
+                  AllHold(kSysCmdConstants, kSysCmdCommon),
+              "every text of the table holds the common part");
+
+template <size_t N>
+void ReplaceAll(FoldedLine& folded, const Replacement (&table)[N], std::string_view common) {
+  if (folded.Contains(common)) ReplaceAll(folded, table);
 }
 
 constexpr std::string_view kLookup = "GetFormFromName(";
@@ -290,7 +330,7 @@ void GlobalSubstitutions(ModuleTranslation& t, std::string& line) {
   ConversionSession& s = t.Session;
   FoldedLine folded(line, &t.PassedHits);
   ReplaceAll(folded, kDatabaseNames);
-  if (!s.IsAdp) ReplaceAll(folded, kDatabaseVariable);
+  if (!s.IsAdp) ReplaceAll(folded, kDatabaseVariable, kDatabaseVariableCommon);
   for (const auto& r : kProperties) {
     if (r.find == " Form,") {
       FormArgumentRule(folded, line);
@@ -301,9 +341,12 @@ void GlobalSubstitutions(ModuleTranslation& t, std::string& line) {
     }
   }
 
-  for (const auto& request : kRequests)
-    if (folded.Contains(request.text))
-      s.ListControlsUsed[static_cast<size_t>(request.template_index)] = true;
+  // Every request ends in "(".
+  if (folded.Contains("(")) {
+    for (const auto& request : kRequests)
+      if (folded.Contains(request.text))
+        s.ListControlsUsed[static_cast<size_t>(request.template_index)] = true;
+  }
 
   // Each step removes one reference; the bound only guards against a text
   // that would not shrink.
@@ -332,7 +375,7 @@ void GlobalSubstitutions(ModuleTranslation& t, std::string& line) {
     folded.Replace("SysCmd(", "SysCmdVB(");
     s.ListControlsUsed[s.Options.IsMdi ? 6 : 7] = true;
   }
-  ReplaceAll(folded, kSysCmdConstants);
+  ReplaceAll(folded, kSysCmdConstants, kSysCmdCommon);
   folded.Replace(".TimerInterval", ".Timer1.Interval");
 }
 
