@@ -1,15 +1,28 @@
 // The in-memory text file.
 #include "platform/text_document.h"
 
+#include <cstdint>
+#include <cstring>
+
 namespace morvane {
 
 namespace {
 
-// The first CR or LF at or after `from`, or npos. A plain loop: the
-// library's find_first_of calls memchr on the two-character set once per
-// character of the text.
+// The first CR or LF at or after `from`, or npos. The library's
+// find_first_of calls memchr on the two-character set once per character of
+// the text.
 size_t FindBreak(std::string_view text, size_t from) {
-  for (size_t i = from; i < text.size(); ++i)
+  size_t i = from;
+  // Eight bytes at a time while none of them is below 14 (CR is 13, LF 10):
+  // the test is exact for bytes below 128 and only sends higher ones to the
+  // byte loop.
+  constexpr uint64_t kOnes = 0x0101010101010101ull, kHighs = 0x8080808080808080ull;
+  for (; i + 8 <= text.size(); i += 8) {
+    uint64_t word;
+    std::memcpy(&word, text.data() + i, 8);
+    if (((word - kOnes * 14) & ~word & kHighs) != 0) break;
+  }
+  for (; i < text.size(); ++i)
     if (text[i] == '\r' || text[i] == '\n') return i;
   return std::string_view::npos;
 }

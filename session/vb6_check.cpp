@@ -819,6 +819,11 @@ class Checker {
   // VBA7's words in code that Visual Basic 6 compiles. A module that
   // declares LongPtr itself for older hosts may use it.
   void Vba64Words(size_t line, std::string_view code) {
+    // Each word holds "ptr" or "longlong": a line without either is left at
+    // once.
+    if (FindNoCase(code, "ptr") == std::string_view::npos &&
+        FindNoCase(code, "longlong") == std::string_view::npos)
+      return;
     for (std::string_view word : {"PtrSafe", "LongPtr", "LongLong"}) {
       for (size_t p = FindNoCase(code, word); p != std::string_view::npos;
            p = FindNoCase(code, word, p + 1)) {
