@@ -3,6 +3,7 @@
 #include "translator/statements.h"
 
 #include <exception>
+#include <span>
 #include <string_view>
 
 #include "session/naming.h"
@@ -68,7 +69,7 @@ std::vector<std::string> Cut(const std::string& text, const std::vector<std::str
 // where the lines began. A commented-out statement is commented on every
 // line, so that no mark stands inside a statement that goes on.
 std::vector<std::string> PhysicalLines(const std::string& text, const std::string& joined,
-                                       const std::vector<std::string>& originals,
+                                       std::span<const std::string> originals,
                                        const std::vector<std::string>& parts) {
   std::vector<std::string> out;
   if (text == joined) {
@@ -136,27 +137,25 @@ void TrackTypeBlock(ModuleTranslation& t, const std::string& statement, bool aft
 
 // `continued`: the lines of a statement continued over several lines.
 void WriteStatement(ModuleTranslation& t, const std::string& statement, bool newLine,
-                    const std::vector<std::string>* continued) {
+                    std::span<const std::string> continued) {
   const bool designer = t.InDesignerBlock();
   BeforeDirective(t, statement);
   TrackTypeBlock(t, statement, false);
   const std::string text = TranslateSafely(t, statement, newLine);
-  std::vector<std::string> lines;
-  if (continued) {
-    std::vector<std::string> parts;
-    for (const auto& line : *continued) parts.push_back(WithoutContinuation(line));
-    lines = PhysicalLines(text, statement, *continued, parts);
-  } else {
-    lines = {text};
-  }
-  for (const auto& line : lines) {
-    // Designer lines are copied as they are; a code line that a rule made
-    // longer than Visual Basic reads is continued on the next.
-    if (designer || t.InDesignerBlock()) {
+  // Designer lines are copied as they are; a code line that a rule made
+  // longer than Visual Basic reads is continued on the next.
+  auto write = [&t, designer](const std::string& line) {
+    if (designer || t.InDesignerBlock() || line.size() <= kFittedLineLength)
       t.Write(line);
-      continue;
-    }
-    for (auto& fitted : FitLineLength(line)) t.Write(std::move(fitted));
+    else
+      for (auto& fitted : FitLineLength(line)) t.Write(std::move(fitted));
+  };
+  if (!continued.empty()) {
+    std::vector<std::string> parts;
+    for (const auto& line : continued) parts.push_back(WithoutContinuation(line));
+    for (const auto& line : PhysicalLines(text, statement, continued, parts)) write(line);
+  } else {
+    write(text);
   }
   InjectAfterLine(t, text);
   AfterDirective(t, statement);
@@ -172,7 +171,7 @@ bool IsWholeLine(const ModuleTranslation& t, const std::string& trimmed) {
          StartsWithNoCase(trimmed, "Attribute ") || !t.Compiled();
 }
 
-void TranslateLogicalLine(ModuleTranslation& t, const std::vector<std::string>& lines) {
+void TranslateLogicalLine(ModuleTranslation& t, std::span<const std::string> lines) {
   std::string joined = TrimBlanks(lines[0]);
   if (lines.size() > 1) {
     joined = TrimBlanks(WithoutContinuation(lines[0]));
@@ -183,7 +182,8 @@ void TranslateLogicalLine(ModuleTranslation& t, const std::vector<std::string>& 
       IsWholeLine(t, joined) ? std::vector<std::string>{joined} : SplitStatements(joined);
   for (size_t k = 0; k < statements.size(); ++k) {
     const bool single = statements.size() == 1 && lines.size() > 1;
-    WriteStatement(t, statements[k], k == 0, single ? &lines : nullptr);
+    WriteStatement(t, statements[k], k == 0,
+                   single ? lines : std::span<const std::string>());
   }
   // The other lines of a continued statement count as lines of the module.
   const int more = static_cast<int>(lines.size()) - 1;
@@ -200,14 +200,13 @@ void TranslateLines(ModuleTranslation& t, const std::vector<std::string>& lines)
   for (size_t i = 0; i < lines.size();) {
     // The designer block is copied line by line; the gate opens behind it.
     if (t.InDesignerBlock()) {
-      WriteStatement(t, lines[i], true, nullptr);
+      WriteStatement(t, lines[i], true, {});
       ++i;
       continue;
     }
     size_t last = i;
     while (last + 1 < lines.size() && ContinuesOnNextLine(lines[last])) ++last;
-    TranslateLogicalLine(t, std::vector<std::string>(lines.begin() + static_cast<long>(i),
-                                                     lines.begin() + static_cast<long>(last) + 1));
+    TranslateLogicalLine(t, std::span<const std::string>(lines).subspan(i, last + 1 - i));
     i = last + 1;
   }
 }

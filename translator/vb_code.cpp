@@ -296,10 +296,9 @@ std::string WithoutContinuation(std::string_view line) {
 std::vector<std::string> FitLineLength(const std::string& line) {
   std::vector<std::string> out;
   std::string rest = line;
-  // The re-indenter puts blanks ahead of every code line after this, so a
-  // piece leaves room for them; and room for " _" or "\" & _" behind a cut.
-  constexpr size_t kIndentRoom = 64;
-  constexpr size_t kLimit = kMaxLineLength - kIndentRoom;
+  // A piece leaves room for the indent, and for " _" or "\" & _" behind a
+  // cut.
+  constexpr size_t kLimit = kFittedLineLength;
   constexpr size_t kRoom = kLimit - 5;
   while (rest.size() > kLimit && out.size() < kMaxContinuations) {
     const std::string kinds = CharKinds(rest);
