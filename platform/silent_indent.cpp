@@ -104,8 +104,14 @@ struct Classified {
 Classified Classify(std::string_view code, Folded& folded) {
   Classified c;
   const std::string_view l = folded.Of(code);
-  const std::string_view u = WithoutScope(l);
-  if (IsWord(l, "end")) {
+  // A word can only open the statement whose first letter it shares, so each
+  // test is only made where that letter leads; the scope words all begin
+  // with one of "pfsg".
+  const char f = l.empty() ? '\0' : l[0];
+  const std::string_view u =
+      (f == 'p' || f == 'f' || f == 's' || f == 'g') ? WithoutScope(l) : l;
+  const char g = u.empty() ? '\0' : u[0];
+  if (f == 'e' && IsWord(l, "end")) {
     if (Starts(l, "end sub") || Starts(l, "end function") || Starts(l, "end property"))
       c.closeProcedure = true;
     else if (Starts(l, "end if") || Starts(l, "end select") || Starts(l, "end with") ||
@@ -113,42 +119,40 @@ Classified Classify(std::string_view code, Folded& folded) {
       c.closes = 1;
     return c;
   }
-  if (IsWord(l, "next")) {
+  if (f == 'n' && IsWord(l, "next")) {
     c.closes = 1 + static_cast<int>(std::count(l.begin(), l.end(), ','));
     return c;
   }
-  if (IsWord(l, "loop") || IsWord(l, "wend")) {
+  if ((f == 'l' && IsWord(l, "loop")) || (f == 'w' && IsWord(l, "wend"))) {
     c.closes = 1;
     return c;
   }
-  if (IsWord(l, "else")) {
+  if (f == 'e' && (IsWord(l, "else") || IsWord(l, "elseif"))) {
     c.middle = true;
     return c;
   }
-  if (IsWord(l, "elseif")) {
+  if (f == 'c' && IsWord(l, "case")) {
     c.middle = true;
     return c;
   }
-  if (IsWord(l, "case")) {
-    c.middle = true;
-    return c;
-  }
-  if (IsWord(u, "sub") || IsWord(u, "function") || IsWord(u, "property")) {
+  if ((g == 's' && IsWord(u, "sub")) || (g == 'f' && IsWord(u, "function")) ||
+      (g == 'p' && IsWord(u, "property"))) {
     c.opens.push_back(kProcedure);
     return c;
   }
-  if (IsWord(l, "if")) {
+  if (f == 'i' && IsWord(l, "if")) {
     if (l.size() >= 4 && l.compare(l.size() - 4, 4, "then") == 0 &&
         (l.size() == 4 || l[l.size() - 5] == ' ' || l[l.size() - 5] == ')'))
       c.opens.push_back(kIf);
     return c;
   }
-  if (IsWord(l, "for")) c.opens.push_back(kFor);
-  if (IsWord(l, "do")) c.opens.push_back(kDo);
-  if (Starts(l, "select case")) c.opens.push_back(kSelect);
-  if (IsWord(l, "with")) c.opens.push_back(kWith);
-  if (IsWord(l, "while")) c.opens.push_back(kWhile);
-  if ((IsWord(u, "type") || IsWord(u, "enum")) && l.find('=') == std::string_view::npos)
+  if (f == 'f' && IsWord(l, "for")) c.opens.push_back(kFor);
+  if (f == 'd' && IsWord(l, "do")) c.opens.push_back(kDo);
+  if (f == 's' && Starts(l, "select case")) c.opens.push_back(kSelect);
+  if (f == 'w' && IsWord(l, "with")) c.opens.push_back(kWith);
+  if (f == 'w' && IsWord(l, "while")) c.opens.push_back(kWhile);
+  if (((g == 't' && IsWord(u, "type")) || (g == 'e' && IsWord(u, "enum"))) &&
+      l.find('=') == std::string_view::npos)
     c.opens.push_back(kType);
   return c;
 }
@@ -189,7 +193,10 @@ class CodeIndenter {
   }
 
   static std::string Padded(int depth, std::string_view t) {
-    std::string line(static_cast<size_t>(std::max(0, depth)) * 4, ' ');
+    const size_t blanks = static_cast<size_t>(std::max(0, depth)) * 4;
+    std::string line;
+    line.reserve(blanks + t.size());
+    line.append(blanks, ' ');
     line += t;
     return line;
   }

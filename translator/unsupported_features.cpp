@@ -5,7 +5,8 @@
 
 #include <algorithm>
 #include <array>
-#include <bitset>
+#include <bit>
+#include <cstdint>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -123,6 +124,19 @@ constexpr size_t MinNeedle() {
 }
 constexpr size_t kMinNeedle = MinNeedle();
 
+// The one entry that ends the list at an "Attribute " line.
+constexpr size_t AttributeEntry() {
+  size_t at = std::size(kFeatures);
+  for (size_t i = 0; i < std::size(kFeatures); ++i)
+    if (kFeatures[i].match == Match::AttributeLine) {
+      if (at != std::size(kFeatures)) return std::size(kFeatures);
+      at = i;
+    }
+  return at;
+}
+constexpr size_t kAttributeEntry = AttributeEntry();
+static_assert(kAttributeEntry < std::size(kFeatures), "one Attribute entry");
+
 // Buckets of three neighbouring lower-case characters, hashed.
 constexpr size_t kBuckets = 4096;
 
@@ -133,7 +147,25 @@ size_t TripleKey(char a, char b, char c) {
 }
 
 // The entries of the list, one bit each.
-using EntrySet = std::bitset<std::size(kFeatures)>;
+struct EntrySet {
+  static constexpr size_t kWords = (std::size(kFeatures) + 63) / 64;
+  std::array<uint64_t, kWords> words{};
+  void set(size_t i) { words[i / 64] |= uint64_t{1} << (i % 64); }
+  EntrySet& operator|=(const EntrySet& o) {
+    for (size_t w = 0; w < kWords; ++w) words[w] |= o.words[w];
+    return *this;
+  }
+  // The first entry at or after `from` in the set, or kNone.
+  static constexpr size_t kNone = static_cast<size_t>(-1);
+  size_t Next(size_t from) const {
+    for (size_t w = from / 64; w < kWords; ++w) {
+      uint64_t bits = words[w];
+      if (w == from / 64) bits &= ~uint64_t{0} << (from % 64);
+      if (bits != 0) return w * 64 + static_cast<size_t>(std::countr_zero(bits));
+    }
+    return kNone;
+  }
+};
 
 // The needles of the list prepared once: the lower-case spelling of those
 // matched without regard to case, and for each bucket the entries one of
@@ -186,7 +218,10 @@ const Feature* FirstFeature(const std::string& line, bool* attribute, int* passe
   EntrySet candidates;
   for (size_t i = 0; i + 2 < lower.size(); ++i)
     candidates |= needles.starts[TripleKey(lower[i], lower[i + 1], lower[i + 2])];
-  for (size_t i = 0; i < std::size(kFeatures); ++i) {
+  // The "Attribute " entry is tried at its place in the order whether the
+  // line holds its text or not.
+  candidates.set(kAttributeEntry);
+  for (size_t i = candidates.Next(0); i != EntrySet::kNone; i = candidates.Next(i + 1)) {
     const Feature& f = kFeatures[i];
     if (f.match == Match::AttributeLine) {
       if (StartsWithNoCase(line, f.text)) {
@@ -195,7 +230,6 @@ const Feature* FirstFeature(const std::string& line, bool* attribute, int* passe
       }
       continue;
     }
-    if (!candidates.test(i)) continue;
     auto holds = [&](std::string_view text, const std::string& low, bool exact) {
       return Holds(line, lower, text, low, exact, passed);
     };
