@@ -252,8 +252,10 @@ void RecordsetPass(ConversionSession& s, TextDocument& text, const std::string& 
   std::string pendingOption;  // the option button whose block is open
   for (auto& line : lines) {
     ++number;
-    const std::string trimmed = TrimBlanks(line);
     if (line.empty() || line[0] == '\'') continue;
+    std::string_view trimmed = line;
+    while (!trimmed.empty() && trimmed.front() == ' ') trimmed.remove_prefix(1);
+    while (!trimmed.empty() && trimmed.back() == ' ') trimmed.remove_suffix(1);
     if (StartsWithNoCase(line, "Dim")) {
       for (size_t at = FindNoCase(line, " As Recordset"); at != std::string::npos;
            at = FindNoCase(line, " As Recordset", at + 1)) {
@@ -300,6 +302,10 @@ void RecordsetPass(ConversionSession& s, TextDocument& text, const std::string& 
         pendingOption.clear();
       }
     }
+    // Without a recordset variable in scope or an option group, no rule can
+    // change the line.
+    if (members[0].empty() && locals[0].empty() && !(groups.size() > 1 && !inDeclarations))
+      continue;
     const std::string before = line;
     int kept = 0;
     RecordsetRule(line, members, &kept);
