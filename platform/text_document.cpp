@@ -79,6 +79,19 @@ void TextDocument::AppendLines(const std::vector<std::string>& lines) {
   }
 }
 
+void TextDocument::AppendLines(std::vector<std::string>&& lines) {
+  for (auto& l : lines) {
+    // A line without a break of its own behind a finished line becomes a
+    // line as it is.
+    if (!open_ && !pendingCr_ && FindBreak(l, 0) == std::string_view::npos) {
+      lines_.push_back(std::move(l));
+      continue;
+    }
+    Append(l);
+    Append("\r\n");
+  }
+}
+
 void TextDocument::SplitBreaks(size_t from, size_t to) {
   for (size_t i = from; i < to && i < lines_.size(); ++i) {
     if (FindBreak(lines_[i], 0) == std::string_view::npos) continue;

@@ -374,10 +374,14 @@ std::string CloserOf(const std::string& kind) {
 class Checker {
  public:
   explicit Checker(const std::vector<std::string>& lines) : lines_(lines) {
-    for (const auto& l : lines_)
+    for (const auto& l : lines_) {
+      if (FindNoCase(l, "LongPtr") == std::string::npos) continue;
       if (FindNoCase(l, "Enum LongPtr") != std::string::npos ||
-          FindNoCase(l, "Type LongPtr") != std::string::npos)
+          FindNoCase(l, "Type LongPtr") != std::string::npos) {
         declaresLongPtr_ = true;
+        break;
+      }
+    }
   }
 
   std::vector<Vb6Finding> Run(FileKind kind) {
@@ -501,8 +505,8 @@ class Checker {
         ++depth;
         ControlLine(i, t, files);
         open.push_back(controls_.size() - 1);
-      } else if (propertyDepth == 0 && !open.empty() && IsPropertyLine(t) &&
-                 EqualsNoCase(SplitWord(t).first, "index")) {
+      } else if (propertyDepth == 0 && !open.empty() && StartsWithNoCase(t, "index") &&
+                 IsPropertyLine(t) && EqualsNoCase(SplitWord(t).first, "index")) {
         controls_[open.back()].Indexed = true;
         controls_[open.back()].Index = std::string(Trim(t.substr(t.find('=') + 1)));
       } else if (StartsWithWord(t, "BeginProperty")) {
@@ -514,7 +518,7 @@ class Checker {
         }
       } else if (!IsPropertyLine(t)) {
         Problem(i, "unexpected line in the designer block");
-      } else if (Mask(t).openString) {
+      } else if (t.find('"') != std::string_view::npos && Mask(t).openString) {
         Problem(i, "property value with a string left open");
       }
     }

@@ -38,7 +38,13 @@ constexpr std::string_view kEndFormCodeMark = "'MORVANE End Form Code for ";
 
 std::string TranslateStatement(ModuleTranslation& t, std::string line, bool newLine) {
   // Only blanks go: a leading tab stays.
-  line = TrimBlanks(line);
+  const size_t first = line.find_first_not_of(' ');
+  if (first == std::string::npos) {
+    line.clear();
+  } else {
+    line.erase(line.find_last_not_of(' ') + 1);
+    line.erase(0, first);
+  }
   if (newLine) {
     Bump(t.TotalLines);
     if (StartsWithNoCase(line, "Begin ")) Bump(t.BeginCount);

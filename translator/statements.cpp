@@ -178,8 +178,11 @@ void TranslateLogicalLine(ModuleTranslation& t, std::span<const std::string> lin
     for (size_t k = 1; k < lines.size(); ++k) joined += " " + WithoutContinuation(lines[k]);
   }
   const bool comment = !joined.empty() && joined[0] == '\'';
-  const std::vector<std::string> statements =
-      IsWholeLine(t, joined) ? std::vector<std::string>{joined} : SplitStatements(joined);
+  std::vector<std::string> statements;
+  if (IsWholeLine(t, joined))
+    statements.push_back(std::move(joined));
+  else
+    statements = SplitStatements(joined);
   for (size_t k = 0; k < statements.size(); ++k) {
     const bool single = statements.size() == 1 && lines.size() > 1;
     WriteStatement(t, statements[k], k == 0,
