@@ -243,7 +243,9 @@ void SilentIndent(TextDocument& doc) {
         bool opens = Starts(il, "begin ") || il == "begin" || Starts(il, "beginproperty ");
         bool closes = il == "end" || il == "endproperty";
         if (closes) depth = std::max(0, depth - 1);
-        std::string line(static_cast<size_t>(depth) * 3, ' ');
+        std::string line;
+        line.reserve(static_cast<size_t>(depth) * 3 + inner.size());
+        line.append(static_cast<size_t>(depth) * 3, ' ');
         line += inner;
         out.push_back(std::move(line));
         if (opens) ++depth;

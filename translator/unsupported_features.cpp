@@ -211,7 +211,11 @@ bool Holds(const std::string& line, const std::string& lower, std::string_view t
 // The first entry that fires, or nothing; `attribute` is set when the list
 // stops at an "Attribute " line.
 const Feature* FirstFeature(const std::string& line, bool* attribute, int* passed) {
-  const std::string lower = ToLower(line);
+  // The lower-case copy lives in a buffer that each line reuses.
+  thread_local std::string lower;
+  lower.assign(line);
+  for (char& c : lower)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 32);
   const Needles& needles = PreparedNeedles();
   // The entries whose text the line may hold; the others cannot fire, nor
   // pass over a hit.
