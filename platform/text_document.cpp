@@ -1,33 +1,9 @@
 // The in-memory text file.
 #include "platform/text_document.h"
 
-#include <cstdint>
-#include <cstring>
+#include "platform/text_file.h"
 
 namespace morvane {
-
-namespace {
-
-// The first CR or LF at or after `from`, or npos. The library's
-// find_first_of calls memchr on the two-character set once per character of
-// the text.
-size_t FindBreak(std::string_view text, size_t from) {
-  size_t i = from;
-  // Eight bytes at a time while none of them is below 14 (CR is 13, LF 10):
-  // the test is exact for bytes below 128 and only sends higher ones to the
-  // byte loop.
-  constexpr uint64_t kOnes = 0x0101010101010101ull, kHighs = 0x8080808080808080ull;
-  for (; i + 8 <= text.size(); i += 8) {
-    uint64_t word;
-    std::memcpy(&word, text.data() + i, 8);
-    if (((word - kOnes * 14) & ~word & kHighs) != 0) break;
-  }
-  for (; i < text.size(); ++i)
-    if (text[i] == '\r' || text[i] == '\n') return i;
-  return std::string_view::npos;
-}
-
-}  // namespace
 
 TextDocument TextDocument::FromBytes(std::string_view bytes) {
   TextDocument d;
@@ -51,7 +27,7 @@ void TextDocument::Append(std::string_view bytes) {
     open_ = true;
   }
   while (i < bytes.size()) {
-    const size_t end = FindBreak(bytes, i);
+    const size_t end = FindLineBreak(bytes, i);
     if (end == std::string_view::npos) {
       lines_.back().append(bytes.substr(i));
       return;
@@ -83,7 +59,7 @@ void TextDocument::AppendLines(std::vector<std::string>&& lines) {
   for (auto& l : lines) {
     // A line without a break of its own behind a finished line becomes a
     // line as it is.
-    if (!open_ && !pendingCr_ && FindBreak(l, 0) == std::string_view::npos) {
+    if (!open_ && !pendingCr_ && FindLineBreak(l, 0) == std::string_view::npos) {
       lines_.push_back(std::move(l));
       continue;
     }
@@ -94,7 +70,7 @@ void TextDocument::AppendLines(std::vector<std::string>&& lines) {
 
 void TextDocument::SplitBreaks(size_t from, size_t to) {
   for (size_t i = from; i < to && i < lines_.size(); ++i) {
-    if (FindBreak(lines_[i], 0) == std::string_view::npos) continue;
+    if (FindLineBreak(lines_[i], 0) == std::string_view::npos) continue;
     std::vector<std::string> parts;
     TextDocument piece;
     piece.Append(lines_[i]);

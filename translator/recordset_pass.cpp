@@ -250,6 +250,7 @@ void RecordsetPass(ConversionSession& s, TextDocument& text, const std::string& 
   std::vector<std::string> members{""}, locals{""}, groups{""};
   bool inDeclarations = true;
   std::string pendingOption;  // the option button whose block is open
+  bool edited = false;         // a line was changed, and may now hold a break
   for (auto& line : lines) {
     ++number;
     if (line.empty() || line[0] == '\'') continue;
@@ -275,8 +276,10 @@ void RecordsetPass(ConversionSession& s, TextDocument& text, const std::string& 
         const std::string event = SafeName(groups[gi]) + "_";
         if (EndsWithNoCase(line, "()") && (StartsWithNoCase(line, "Public Sub " + event) ||
                                            StartsWithNoCase(line, "Private Sub " + event) ||
-                                           StartsWithNoCase(line, "Sub " + event)))
+                                           StartsWithNoCase(line, "Sub " + event))) {
           line = line.substr(0, line.size() - 1) + "Index as Integer)";
+          edited = true;
+        }
       }
       continue;
     }
@@ -311,12 +314,13 @@ void RecordsetPass(ConversionSession& s, TextDocument& text, const std::string& 
     RecordsetRule(line, members, &kept);
     RecordsetRule(line, locals, &kept);
     if (groups.size() > 1 && !inDeclarations) OptionGroupRule(s, line, groups, &kept);
+    if (line != before) edited = true;
     // The row's line number is the line's place in the written file.
     if (kept > 0)
       ReportLine(s, moduleName, kReasonKeptChoice, TrimBlanks(before), static_cast<int>(number),
                  TrimBlanks(line), "");
   }
-  text.SplitBreaks(0, lines.size());
+  if (edited) text.SplitBreaks(0, lines.size());
 }
 
 }  // namespace morvane
