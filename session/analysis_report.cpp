@@ -82,6 +82,7 @@ bool IsReview(long reasonId) {
 // declares its encoding.
 std::string Html(const std::string& text) {
   std::string out;
+  out.reserve(text.size());
   for (char c : text) {
     switch (c) {
       case '&':
