@@ -74,8 +74,12 @@ bool StartsDateLiteral(std::string_view line, size_t pos) {
   return true;
 }
 
-MaskedLine Mask(std::string_view line) {
-  MaskedLine m;
+// Into `m`, whose buffer the caller may reuse from line to line.
+void Mask(std::string_view line, MaskedLine& m) {
+  m.code.clear();
+  m.comment = {};
+  m.hasComment = false;
+  m.openString = false;
   m.code.reserve(line.size() + 2);
   size_t i = 0;
   bool statementStart = true;
@@ -88,7 +92,7 @@ MaskedLine Mask(std::string_view line) {
         (line.size() == i + 3 || !IsNameChar(line[i + 3]))) {
       m.hasComment = true;
       m.comment = line.substr(i);
-      return m;
+      return;
     }
     if (!IsBlank(c)) statementStart = c == ':';
     if (c == '"') {
@@ -108,7 +112,7 @@ MaskedLine Mask(std::string_view line) {
       m.code += "\"\"";
       if (!closed) {
         m.openString = true;
-        return m;
+        return;
       }
       i = j + 1;
     } else if (c == '#' && StartsDateLiteral(line, i)) {
@@ -118,7 +122,7 @@ MaskedLine Mask(std::string_view line) {
     } else if (c == '\'') {
       m.hasComment = true;
       m.comment = line.substr(i);
-      return m;
+      return;
     } else {
       // A run of characters that neither open nor close anything is copied
       // at once.
@@ -131,6 +135,12 @@ MaskedLine Mask(std::string_view line) {
       i = j;
     }
   }
+  return;
+}
+
+MaskedLine Mask(std::string_view line) {
+  MaskedLine m;
+  Mask(line, m);
   return m;
 }
 
@@ -140,21 +150,18 @@ bool EndsWithContinuation(std::string_view text) {
   return text.size() == 1 || IsBlank(text[text.size() - 2]);
 }
 
-// The statements of a logical line: split at ":" (not ":=").
-std::vector<std::string> SplitStatements(std::string_view code) {
-  if (code.find(':') == std::string_view::npos) return {std::string(Trim(code))};
-  std::vector<std::string> statements;
-  std::string current;
+// The statements of a logical line: split at ":" (not ":="), each a part of
+// `code`.
+void SplitStatements(std::string_view code, std::vector<std::string_view>* statements) {
+  statements->clear();
+  size_t start = 0;
   for (size_t i = 0; i < code.size(); ++i) {
     if (code[i] == ':' && (i + 1 >= code.size() || code[i + 1] != '=')) {
-      statements.emplace_back(Trim(current));
-      current.clear();
-    } else {
-      current += code[i];
+      statements->push_back(Trim(code.substr(start, i - start)));
+      start = i + 1;
     }
   }
-  statements.emplace_back(Trim(current));
-  return statements;
+  statements->push_back(Trim(code.substr(start)));
 }
 
 // Position just behind the keyword "Then" in masked code, if any.
@@ -596,18 +603,22 @@ class Checker {
     std::string Index;
   };
   std::vector<Control> controls_;
+  MaskedLine masked_;  // the buffer each code line is masked into
+  std::vector<std::string_view> statements_;  // those of the logical line being read
 
   // --- Code ---------------------------------------------------------------
 
   void Code(size_t i) {
+    std::string code;  // the logical line's code, its buffer reused
     while (i < lines_.size()) {
       const size_t start = i;
-      std::string code;
+      code.clear();
       size_t continuations = 0;
       while (true) {
         const std::string_view raw = lines_[i];
         if (StartsWithWord(raw, "Attribute")) break;  // procedure attributes
-        const MaskedLine m = Mask(raw);
+        Mask(raw, masked_);
+        const MaskedLine& m = masked_;
         if (m.openString) Problem(i, "string literal without its closing quote");
         if (m.hasComment) {
           code += m.code;
@@ -654,13 +665,14 @@ class Checker {
       Vba64Words(line, code);
       if (auto problem = ExpressionProblem(code)) Problem(line, *problem);
     }
-    std::vector<std::string> statements = SplitStatements(code);
+    std::vector<std::string_view>& statements = statements_;
+    SplitStatements(code, &statements);
     // A line number in front of the first statement.
-    std::string& first = statements.front();
+    std::string_view& first = statements.front();
     size_t digits = 0;
     while (digits < first.size() && first[digits] >= '0' && first[digits] <= '9') ++digits;
     if (digits > 0 && (digits == first.size() || IsBlank(first[digits])))
-      first = std::string(Trim(std::string_view(first).substr(digits)));
+      first = Trim(first.substr(digits));
     for (size_t k = 0; k < statements.size(); ++k) {
       std::string rest;
       for (size_t r = k + 1; r < statements.size(); ++r) rest += statements[r];
@@ -692,7 +704,7 @@ class Checker {
       return true;  // members
     }
 
-    if (const auto header = ProcedureStart(statement)) {
+    if (const auto header = ProcedureStart(w1, after1)) {
       if (procedure_) {
         Problem(line, header->kind + " inside the " + procedure_->kind + " opened on line " +
                           std::to_string(procedure_->line + 1));
@@ -846,8 +858,8 @@ class Checker {
     std::string key;   // the name in lower case, with "/get", "/let", "/set" for a property
   };
 
-  static std::optional<ProcedureHeader> ProcedureStart(std::string_view statement) {
-    auto [word, rest] = SplitWord(statement);
+  // From the statement's first word (in lower case) and the text behind it.
+  static std::optional<ProcedureHeader> ProcedureStart(std::string word, std::string_view rest) {
     while (IsModifier(word)) std::tie(word, rest) = SplitWord(rest);
     const std::string_view w = word;
     if (w != "sub" && w != "function" && w != "property") return std::nullopt;
