@@ -141,28 +141,33 @@ void WriteStatement(ModuleTranslation& t, const std::string& statement, bool new
   const bool designer = t.InDesignerBlock();
   BeforeDirective(t, statement);
   TrackTypeBlock(t, statement, false);
-  const std::string text = TranslateSafely(t, statement, newLine);
+  std::string text = TranslateSafely(t, statement, newLine);
+  // Past its writing the text is read only by the injection after a form's
+  // Load or Activate header, which holds a "_", and by the row of a kept
+  // choice; otherwise it is handed over rather than copied.
+  const bool textNeeded =
+      text.find('_') != std::string::npos || (t.PassedHits > 0 && !t.StatementMarked);
   // Designer lines are copied as they are; a code line that a rule made
   // longer than Visual Basic reads is continued on the next.
-  auto write = [&t, designer](const std::string& line) {
+  auto write = [&t, designer](std::string&& line) {
     if (designer || t.InDesignerBlock() || line.size() <= kFittedLineLength)
-      t.Write(line);
+      t.Write(std::move(line));
     else
       for (auto& fitted : FitLineLength(line)) t.Write(std::move(fitted));
   };
   if (!continued.empty()) {
     std::vector<std::string> parts;
     for (const auto& line : continued) parts.push_back(WithoutContinuation(line));
-    for (const auto& line : PhysicalLines(text, statement, continued, parts)) write(line);
+    for (auto& line : PhysicalLines(text, statement, continued, parts)) write(std::move(line));
   } else {
-    write(text);
+    write(textNeeded ? std::string(text) : std::move(text));
   }
-  InjectAfterLine(t, text);
+  if (textNeeded) InjectAfterLine(t, text);
   AfterDirective(t, statement);
   TrackTypeBlock(t, statement, true);
   // A rule that left code alone where its plain text would have changed it
   // says so; a statement commented out needs no such row.
-  if (t.PassedHits > 0 && !t.StatementMarked)
+  if (textNeeded && t.PassedHits > 0 && !t.StatementMarked)
     ReportRule(t, kReasonKeptChoice, TrimBlanks(statement), text);
 }
 
