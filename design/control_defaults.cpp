@@ -54,10 +54,19 @@ bool IsNumberText(std::string_view v) {
 
 }  // namespace
 
+size_t PropertySchema::FoldedHash::operator()(std::string_view name) const {
+  size_t h = 14695981039346656037ull;  // FNV-1a over the folded bytes
+  for (char c : name) h = (h ^ static_cast<unsigned char>(text::Fold(c))) * 1099511628211ull;
+  return h;
+}
+
+bool PropertySchema::FoldedEqual::operator()(std::string_view a, std::string_view b) const {
+  return text::IEquals(a, b);
+}
+
 const PropertyDefault* PropertySchema::Find(std::string_view name) const {
-  auto it = std::lower_bound(properties_.begin(), properties_.end(), name, LessFolded);
-  if (it == properties_.end() || !text::IEquals(it->Name, name)) return nullptr;
-  return &*it;
+  const auto it = index_.find(name);
+  return it == index_.end() ? nullptr : &properties_[it->second];
 }
 
 bool ParseControlDefaults(std::string_view text, std::vector<PropertySchema>* out,
@@ -107,6 +116,11 @@ bool ParseControlDefaults(std::string_view text, std::vector<PropertySchema>* ou
     if (it != props.end() && text::IEquals(it->Name, d.Name))
       return fail(out->back().type_ + " lists " + d.Name + " twice");
     props.insert(it, std::move(d));
+  }
+  for (auto& schema : *out) {
+    schema.index_.clear();
+    for (size_t i = 0; i < schema.properties_.size(); ++i)
+      schema.index_.emplace(schema.properties_[i].Name, i);
   }
   return true;
 }

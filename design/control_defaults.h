@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace morvane {
@@ -28,8 +29,20 @@ class PropertySchema {
 
  private:
   friend bool ParseControlDefaults(std::string_view, std::vector<PropertySchema>*, std::string*);
+  // Case-blind hashing and equality of names, so that a name in any case
+  // finds its row without a folded copy.
+  struct FoldedHash {
+    using is_transparent = void;
+    size_t operator()(std::string_view name) const;
+  };
+  struct FoldedEqual {
+    using is_transparent = void;
+    bool operator()(std::string_view a, std::string_view b) const;
+  };
   std::string type_;
   std::vector<PropertyDefault> properties_;  // sorted by name, case folded
+  // The position of each property in properties_, by name.
+  std::unordered_map<std::string, size_t, FoldedHash, FoldedEqual> index_;
 };
 
 // The schema of a block type ("TextBox", "Form", "GroupedCheckBox", ...)

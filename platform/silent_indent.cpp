@@ -7,6 +7,7 @@
 // compiler directives stand at column 0. Unbalanced blocks never make a
 // level negative: a stray closing line is written at the current level.
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <span>
 #include <string>
@@ -90,15 +91,27 @@ struct Classified {
   int closes = 0;  // blocks the statement ends before it is written
   bool closeProcedure = false;
   bool middle = false;       // Else, ElseIf, Case: one level out for this line only
-  std::vector<Block> opens;  // blocks it starts behind it
+  // The blocks it starts behind it.
+  struct Opens {
+    std::array<Block, 8> blocks;
+    size_t count = 0;
+    void push_back(Block b) { blocks[count++] = b; }
+    const Block* begin() const { return blocks.data(); }
+    const Block* end() const { return blocks.data() + count; }
+  } opens;
 };
 
-Classified Classify(std::string_view code) {
+Classified Classify(std::string_view code, Folded& folded) {
   Classified c;
-  Folded folded;
   const std::string_view l = folded.Of(code);
-  const std::string_view u = WithoutScope(l);
-  if (IsWord(l, "end")) {
+  // A word can only open the statement whose first letter it shares, so each
+  // test is only made where that letter leads; the scope words all begin
+  // with one of "pfsg".
+  const char f = l.empty() ? '\0' : l[0];
+  const std::string_view u =
+      (f == 'p' || f == 'f' || f == 's' || f == 'g') ? WithoutScope(l) : l;
+  const char g = u.empty() ? '\0' : u[0];
+  if (f == 'e' && IsWord(l, "end")) {
     if (Starts(l, "end sub") || Starts(l, "end function") || Starts(l, "end property"))
       c.closeProcedure = true;
     else if (Starts(l, "end if") || Starts(l, "end select") || Starts(l, "end with") ||
@@ -106,42 +119,40 @@ Classified Classify(std::string_view code) {
       c.closes = 1;
     return c;
   }
-  if (IsWord(l, "next")) {
+  if (f == 'n' && IsWord(l, "next")) {
     c.closes = 1 + static_cast<int>(std::count(l.begin(), l.end(), ','));
     return c;
   }
-  if (IsWord(l, "loop") || IsWord(l, "wend")) {
+  if ((f == 'l' && IsWord(l, "loop")) || (f == 'w' && IsWord(l, "wend"))) {
     c.closes = 1;
     return c;
   }
-  if (IsWord(l, "else")) {
+  if (f == 'e' && (IsWord(l, "else") || IsWord(l, "elseif"))) {
     c.middle = true;
     return c;
   }
-  if (IsWord(l, "elseif")) {
+  if (f == 'c' && IsWord(l, "case")) {
     c.middle = true;
     return c;
   }
-  if (IsWord(l, "case")) {
-    c.middle = true;
-    return c;
-  }
-  if (IsWord(u, "sub") || IsWord(u, "function") || IsWord(u, "property")) {
+  if ((g == 's' && IsWord(u, "sub")) || (g == 'f' && IsWord(u, "function")) ||
+      (g == 'p' && IsWord(u, "property"))) {
     c.opens.push_back(kProcedure);
     return c;
   }
-  if (IsWord(l, "if")) {
+  if (f == 'i' && IsWord(l, "if")) {
     if (l.size() >= 4 && l.compare(l.size() - 4, 4, "then") == 0 &&
         (l.size() == 4 || l[l.size() - 5] == ' ' || l[l.size() - 5] == ')'))
       c.opens.push_back(kIf);
     return c;
   }
-  if (IsWord(l, "for")) c.opens.push_back(kFor);
-  if (IsWord(l, "do")) c.opens.push_back(kDo);
-  if (Starts(l, "select case")) c.opens.push_back(kSelect);
-  if (IsWord(l, "with")) c.opens.push_back(kWith);
-  if (IsWord(l, "while")) c.opens.push_back(kWhile);
-  if ((IsWord(u, "type") || IsWord(u, "enum")) && l.find('=') == std::string_view::npos)
+  if (f == 'f' && IsWord(l, "for")) c.opens.push_back(kFor);
+  if (f == 'd' && IsWord(l, "do")) c.opens.push_back(kDo);
+  if (f == 's' && Starts(l, "select case")) c.opens.push_back(kSelect);
+  if (f == 'w' && IsWord(l, "with")) c.opens.push_back(kWith);
+  if (f == 'w' && IsWord(l, "while")) c.opens.push_back(kWhile);
+  if (((g == 't' && IsWord(u, "type")) || (g == 'e' && IsWord(u, "enum"))) &&
+      l.find('=') == std::string_view::npos)
     c.opens.push_back(kType);
   return c;
 }
@@ -163,7 +174,7 @@ class CodeIndenter {
       code_ += c;
       code_ += ' ';
     }
-    Classified c = Classify(Trim(code_));
+    Classified c = Classify(Trim(code_), folded_);
     if (c.closeProcedure) {
       while (!stack_.empty() && stack_.back() != kProcedure) stack_.pop_back();
       if (!stack_.empty()) stack_.pop_back();
@@ -182,7 +193,10 @@ class CodeIndenter {
   }
 
   static std::string Padded(int depth, std::string_view t) {
-    std::string line(static_cast<size_t>(std::max(0, depth)) * 4, ' ');
+    const size_t blanks = static_cast<size_t>(std::max(0, depth)) * 4;
+    std::string line;
+    line.reserve(blanks + t.size());
+    line.append(blanks, ' ');
     line += t;
     return line;
   }
@@ -190,6 +204,7 @@ class CodeIndenter {
  private:
   std::vector<Block> stack_;
   std::string code_;
+  Folded folded_;
 };
 
 }  // namespace
@@ -228,7 +243,9 @@ void SilentIndent(TextDocument& doc) {
         bool opens = Starts(il, "begin ") || il == "begin" || Starts(il, "beginproperty ");
         bool closes = il == "end" || il == "endproperty";
         if (closes) depth = std::max(0, depth - 1);
-        std::string line(static_cast<size_t>(depth) * 3, ' ');
+        std::string line;
+        line.reserve(static_cast<size_t>(depth) * 3 + inner.size());
+        line.append(static_cast<size_t>(depth) * 3, ' ');
         line += inner;
         out.push_back(std::move(line));
         if (opens) ++depth;

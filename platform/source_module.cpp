@@ -2,6 +2,10 @@
 // declarations section.
 #include "platform/source_module.h"
 
+#include <algorithm>
+#include <type_traits>
+#include <utility>
+
 #include "platform/text_fold.h"
 
 namespace morvane {
@@ -61,10 +65,47 @@ bool IsMemberAttributeLine(std::string_view line) {
   return dot != std::string_view::npos && dot < blank && IStartsWith(rest.substr(dot + 1), "VB_");
 }
 
-void AppendCode(const std::vector<std::string>& lines, size_t from, ModuleCode* out) {
-  for (size_t i = from; i < lines.size(); ++i)
-    if (!IsMemberAttributeLine(lines[i])) out->Code.push_back(lines[i]);
+// `Lines` is a const vector, whose lines are copied, or a vector the caller
+// gives up, whose lines are moved.
+template <typename Lines>
+void AppendCode(Lines& lines, size_t from, ModuleCode* out) {
+  out->Code.reserve(lines.size() - std::min(from, lines.size()));
+  for (size_t i = from; i < lines.size(); ++i) {
+    if (IsMemberAttributeLine(lines[i])) continue;
+    if constexpr (std::is_const_v<Lines>)
+      out->Code.push_back(lines[i]);
+    else
+      out->Code.push_back(std::move(lines[i]));
+  }
   out->CountOfDeclarationLines = CountDeclarationLines(out->Code);
+}
+
+template <typename Lines>
+ModuleCode FromExport(Lines& lines, std::string* vbName) {
+  ModuleCode out;
+  if (vbName) vbName->clear();
+  size_t i = ClassHeaderLength(lines);
+  if (i > 0) out.Type = 1;
+  for (; i < lines.size() && IsAttributeLine(lines[i]); ++i) {
+    if (IsClassAttributeLine(lines[i])) out.Type = 1;
+    std::string name = VbNameOf(lines[i]);
+    if (!name.empty() && vbName) *vbName = name;
+  }
+  AppendCode(lines, i, &out);
+  return out;
+}
+
+template <typename Lines>
+ModuleCode FromDesign(Lines& lines) {
+  ModuleCode out;
+  out.Type = 1;
+  size_t i = 0;
+  while (i < lines.size() && Trim(lines[i]) != "CodeBehindForm") ++i;
+  if (i == lines.size()) return out;
+  ++i;
+  while (i < lines.size() && IsAttributeLine(lines[i])) ++i;
+  AppendCode(lines, i, &out);
+  return out;
 }
 
 }  // namespace
@@ -126,17 +167,11 @@ size_t ClassHeaderLength(const std::vector<std::string>& lines) {
 // VERSION 1.0 CLASS header, and Access's own text of a class, which starts
 // with the class's Attribute lines and names no VB_Name.
 ModuleCode ModuleFromExport(const std::vector<std::string>& lines, std::string* vbName) {
-  ModuleCode out;
-  if (vbName) vbName->clear();
-  size_t i = ClassHeaderLength(lines);
-  if (i > 0) out.Type = 1;
-  for (; i < lines.size() && IsAttributeLine(lines[i]); ++i) {
-    if (IsClassAttributeLine(lines[i])) out.Type = 1;
-    std::string name = VbNameOf(lines[i]);
-    if (!name.empty() && vbName) *vbName = name;
-  }
-  AppendCode(lines, i, &out);
-  return out;
+  return FromExport(lines, vbName);
+}
+
+ModuleCode ModuleFromExport(std::vector<std::string>&& lines, std::string* vbName) {
+  return FromExport(lines, vbName);
 }
 
 bool HasCodeBehind(const std::vector<std::string>& lines) {
@@ -145,17 +180,9 @@ bool HasCodeBehind(const std::vector<std::string>& lines) {
   return false;
 }
 
-ModuleCode CodeBehindFromDesign(const std::vector<std::string>& lines) {
-  ModuleCode out;
-  out.Type = 1;
-  size_t i = 0;
-  while (i < lines.size() && Trim(lines[i]) != "CodeBehindForm") ++i;
-  if (i == lines.size()) return out;
-  ++i;
-  while (i < lines.size() && IsAttributeLine(lines[i])) ++i;
-  AppendCode(lines, i, &out);
-  return out;
-}
+ModuleCode CodeBehindFromDesign(const std::vector<std::string>& lines) { return FromDesign(lines); }
+
+ModuleCode CodeBehindFromDesign(std::vector<std::string>&& lines) { return FromDesign(lines); }
 
 std::string CodeFileOfStub(const std::vector<std::string>& lines) {
   size_t i = 0;

@@ -26,6 +26,8 @@ int CountDeclarationLines(const std::vector<std::string>& code);
 // A standard or class module's export. `vbName` receives the value of
 // `Attribute VB_Name` (empty when the file has none).
 ModuleCode ModuleFromExport(const std::vector<std::string>& lines, std::string* vbName);
+// The same, taking the lines over rather than copying them.
+ModuleCode ModuleFromExport(std::vector<std::string>&& lines, std::string* vbName);
 
 // Whether the line is one of the Attribute lines that only a class module
 // carries (VB_GlobalNameSpace, VB_Creatable, VB_PredeclaredId, VB_Exposed).
@@ -38,6 +40,7 @@ size_t ClassHeaderLength(const std::vector<std::string>& lines);
 // The code behind of a form or report text: the lines after the
 // CodeBehindForm line, without its Attribute lines. Empty when there is none.
 ModuleCode CodeBehindFromDesign(const std::vector<std::string>& lines);
+ModuleCode CodeBehindFromDesign(std::vector<std::string>&& lines);
 
 // Where a design's code lies in a file of its own, the design keeps after
 // CodeBehindForm only a comment naming that file (' See "Name.cls"). The

@@ -495,11 +495,11 @@ bool DirectorySourceTree::LoadModule(AccessObjectKind kind, const std::string& n
   std::vector<std::string> lines;
   if (kind == AccessObjectKind::Module) {
     if (!ReadLines(o->File, &lines, err)) return false;
-    *out = ModuleFromExport(lines, nullptr);
+    *out = ModuleFromExport(std::move(lines), nullptr);
     return true;
   }
   if (!LoadDesignText(kind, name, &lines, err)) return false;
-  *out = CodeBehindFromDesign(lines);
+  *out = CodeBehindFromDesign(std::move(lines));
   return true;
 }
 

@@ -4,6 +4,10 @@
 
 #include <sqlite3.h>
 
+#include <iterator>
+#include <string>
+#include <vector>
+
 #include "platform/text_file.h"
 
 namespace morvane {
@@ -212,7 +216,7 @@ bool SupportDatabase::AddReportOutput(const ReportOutputRow& row) {
 
 bool SupportDatabase::MergeStats(const StatsRow& row) {
   {
-    Statement ins(db_, "INSERT OR IGNORE INTO tblStats (ModuleName) VALUES (?)");
+    Statement ins(Kept("INSERT OR IGNORE INTO tblStats (ModuleName) VALUES (?)"));
     if (!ins.Bind(1, row.ModuleName).Run()) return false;
   }
   const std::pair<const char*, int> fields[] = {
@@ -227,10 +231,18 @@ bool SupportDatabase::MergeStats(const StatsRow& row) {
       {"CtlsPartiallyConverted", row.CtlsPartiallyConverted},
       {"CodeLines", row.CodeLines},
   };
-  for (auto& [name, value] : fields) {
+  // One kept statement per field, its text made once.
+  static const std::vector<std::string> updates = [&fields] {
+    std::vector<std::string> sql;
+    for (const auto& field : fields)
+      sql.push_back(std::string("UPDATE tblStats SET ") + field.first +
+                    " = ? WHERE ModuleName = ?");
+    return sql;
+  }();
+  for (size_t i = 0; i < std::size(fields); ++i) {
+    const int value = fields[i].second;
     if (value == 0) continue;  // a count of 0 keeps what an earlier call wrote
-    std::string sql = std::string("UPDATE tblStats SET ") + name + " = ? WHERE ModuleName = ?";
-    Statement up(db_, sql.c_str());
+    Statement up(Kept(updates[i].c_str()));
     if (!up.Bind(1, static_cast<long long>(value)).Bind(2, row.ModuleName).Run()) return false;
   }
   return true;

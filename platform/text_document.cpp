@@ -1,6 +1,8 @@
 // The in-memory text file.
 #include "platform/text_document.h"
 
+#include "platform/text_file.h"
+
 namespace morvane {
 
 TextDocument TextDocument::FromBytes(std::string_view bytes) {
@@ -25,7 +27,7 @@ void TextDocument::Append(std::string_view bytes) {
     open_ = true;
   }
   while (i < bytes.size()) {
-    const size_t end = bytes.find_first_of("\r\n", i);
+    const size_t end = FindLineBreak(bytes, i);
     if (end == std::string_view::npos) {
       lines_.back().append(bytes.substr(i));
       return;
@@ -53,9 +55,22 @@ void TextDocument::AppendLines(const std::vector<std::string>& lines) {
   }
 }
 
+void TextDocument::AppendLines(std::vector<std::string>&& lines) {
+  for (auto& l : lines) {
+    // A line without a break of its own behind a finished line becomes a
+    // line as it is.
+    if (!open_ && !pendingCr_ && FindLineBreak(l, 0) == std::string_view::npos) {
+      lines_.push_back(std::move(l));
+      continue;
+    }
+    Append(l);
+    Append("\r\n");
+  }
+}
+
 void TextDocument::SplitBreaks(size_t from, size_t to) {
   for (size_t i = from; i < to && i < lines_.size(); ++i) {
-    if (lines_[i].find_first_of("\r\n") == std::string::npos) continue;
+    if (FindLineBreak(lines_[i], 0) == std::string_view::npos) continue;
     std::vector<std::string> parts;
     TextDocument piece;
     piece.Append(lines_[i]);

@@ -36,6 +36,8 @@ class TextDocument {
   void Append(std::string_view bytes);
   // Each line followed by CR LF.
   void AppendLines(const std::vector<std::string>& lines);
+  // The same, taking the lines over.
+  void AppendLines(std::vector<std::string>&& lines);
   // Gives the last line its line end, as writing the lines back to the file
   // does after an edit.
   void CloseLastLine() {

@@ -9,6 +9,9 @@
 
 namespace morvane {
 
+// The position of the first CR or LF at or after `from`; npos when none.
+size_t FindLineBreak(std::string_view text, size_t from = 0);
+
 // Splits text at CR LF, LF or lone CR. A final line end does not start an
 // extra empty line.
 std::vector<std::string> SplitLines(std::string_view text);

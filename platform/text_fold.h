@@ -33,10 +33,9 @@ inline std::string Lower(std::string_view text) {
 
 // Blanks and tabs off both ends.
 inline std::string_view Trim(std::string_view text) {
-  size_t b = text.find_first_not_of(" \t");
-  if (b == std::string_view::npos) return {};
-  size_t e = text.find_last_not_of(" \t");
-  return text.substr(b, e - b + 1);
+  while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) text.remove_prefix(1);
+  while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) text.remove_suffix(1);
+  return text;
 }
 
 // Case-insensitive ordering, ties broken by the bytes so the order is total.

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <filesystem>
 #include <functional>
+#include <string>
+#include <unordered_map>
 
 #include "platform/encoding.h"
 #include "platform/output_directory.h"
@@ -80,6 +82,7 @@ bool IsReview(long reasonId) {
 // declares its encoding.
 std::string Html(const std::string& text) {
   std::string out;
+  out.reserve(text.size());
   for (char c : text) {
     switch (c) {
       case '&':
@@ -145,11 +148,20 @@ struct Object {
 // or the report log name.
 std::vector<Object> Objects(const SupportDatabase& db) {
   std::vector<Object> objects;
+  // The object each name spelling came to, so that the rows of one object
+  // do not search the list again: an object added later never comes before
+  // the one a name first found.
+  std::unordered_map<std::string, size_t> found;
   auto find = [&](const std::string& name) -> Object& {
-    for (auto& o : objects)
-      if (EqualsNoCase(o.Name, name) || EqualsNoCase(o.Name, SafeName(name))) return o;
-    objects.push_back({name, {}, {}, {}});
-    return objects.back();
+    if (const auto it = found.find(name); it != found.end()) return objects[it->second];
+    const std::string safe = SafeName(name);
+    size_t at = 0;
+    while (at < objects.size() && !EqualsNoCase(objects[at].Name, name) &&
+           !EqualsNoCase(objects[at].Name, safe))
+      ++at;
+    if (at == objects.size()) objects.push_back({name, {}, {}, {}});
+    found.emplace(name, at);
+    return objects[at];
   };
   for (const auto& r : db.Stats()) find(r.ModuleName).Count = CountsOf(r);
   for (auto& r : db.ReportOutput()) find(r.ModuleName).Lines.push_back(std::move(r));

@@ -176,16 +176,6 @@ bool IsDeviceName(std::string_view stem) {
   return false;
 }
 
-bool EqualsNoCase(std::string_view a, std::string_view b) { return text::IEquals(a, b); }
-
-bool StartsWithNoCase(std::string_view s, std::string_view prefix) {
-  return text::IStartsWith(s, prefix);
-}
-
-bool EndsWithNoCase(std::string_view s, std::string_view suffix) {
-  return text::IEndsWith(s, suffix);
-}
-
 size_t FindNoCase(std::string_view text, std::string_view find, size_t from) {
   if (find.empty()) return from <= text.size() ? from : std::string_view::npos;
   if (text.size() < find.size()) return std::string_view::npos;

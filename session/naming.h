@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/text_fold.h"
+
 namespace morvane {
 
 // Each character below code 129 that is no ASCII letter or digit becomes "_";
@@ -53,9 +55,14 @@ bool IsReservedWord(std::string_view name);
 bool IsDeviceName(std::string_view stem);
 
 // Case-insensitive comparisons over Windows-1252 text (ASCII letters fold).
-bool EqualsNoCase(std::string_view a, std::string_view b);
-bool StartsWithNoCase(std::string_view text, std::string_view prefix);
-bool EndsWithNoCase(std::string_view text, std::string_view suffix);
+// Inline, so that a test against a fixed word costs no call.
+inline bool EqualsNoCase(std::string_view a, std::string_view b) { return text::IEquals(a, b); }
+inline bool StartsWithNoCase(std::string_view s, std::string_view prefix) {
+  return text::IStartsWith(s, prefix);
+}
+inline bool EndsWithNoCase(std::string_view s, std::string_view suffix) {
+  return text::IEndsWith(s, suffix);
+}
 // 0-based position of `find` in `text` from `from`, ignoring case; npos if none.
 size_t FindNoCase(std::string_view text, std::string_view find, size_t from = 0);
 std::string ToLower(std::string_view text);

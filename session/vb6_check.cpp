@@ -34,7 +34,7 @@ bool IsNameChar(char c) {
 
 bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 
-std::string_view Trim(std::string_view text) {
+inline std::string_view Trim(std::string_view text) {
   while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
   while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
   return text;
@@ -74,19 +74,25 @@ bool StartsDateLiteral(std::string_view line, size_t pos) {
   return true;
 }
 
-MaskedLine Mask(std::string_view line) {
-  MaskedLine m;
+// Into `m`, whose buffer the caller may reuse from line to line.
+void Mask(std::string_view line, MaskedLine& m) {
+  m.code.clear();
+  m.comment = {};
+  m.hasComment = false;
+  m.openString = false;
+  m.code.reserve(line.size() + 2);
   size_t i = 0;
   bool statementStart = true;
   while (i < line.size()) {
     const char c = line[i];
     // "Rem" opens a comment where a statement begins, followed by anything
     // but a name's character ("Rem//" too).
-    if (statementStart && line.size() >= i + 3 && EqualsNoCase(line.substr(i, 3), "rem") &&
+    if (statementStart && (c == 'r' || c == 'R') && line.size() >= i + 3 &&
+        EqualsNoCase(line.substr(i, 3), "rem") &&
         (line.size() == i + 3 || !IsNameChar(line[i + 3]))) {
       m.hasComment = true;
       m.comment = line.substr(i);
-      return m;
+      return;
     }
     if (!IsBlank(c)) statementStart = c == ':';
     if (c == '"') {
@@ -106,7 +112,7 @@ MaskedLine Mask(std::string_view line) {
       m.code += "\"\"";
       if (!closed) {
         m.openString = true;
-        return m;
+        return;
       }
       i = j + 1;
     } else if (c == '#' && StartsDateLiteral(line, i)) {
@@ -116,12 +122,25 @@ MaskedLine Mask(std::string_view line) {
     } else if (c == '\'') {
       m.hasComment = true;
       m.comment = line.substr(i);
-      return m;
+      return;
     } else {
-      m.code += c;
-      ++i;
+      // A run of characters that neither open nor close anything is copied
+      // at once.
+      size_t j = i + 1;
+      if (!statementStart)
+        while (j < line.size() && line[j] != '"' && line[j] != '#' && line[j] != '\'' &&
+               line[j] != ':')
+          ++j;
+      m.code.append(line.substr(i, j - i));
+      i = j;
     }
   }
+  return;
+}
+
+MaskedLine Mask(std::string_view line) {
+  MaskedLine m;
+  Mask(line, m);
   return m;
 }
 
@@ -131,20 +150,18 @@ bool EndsWithContinuation(std::string_view text) {
   return text.size() == 1 || IsBlank(text[text.size() - 2]);
 }
 
-// The statements of a logical line: split at ":" (not ":=").
-std::vector<std::string> SplitStatements(std::string_view code) {
-  std::vector<std::string> statements;
-  std::string current;
+// The statements of a logical line: split at ":" (not ":="), each a part of
+// `code`.
+void SplitStatements(std::string_view code, std::vector<std::string_view>* statements) {
+  statements->clear();
+  size_t start = 0;
   for (size_t i = 0; i < code.size(); ++i) {
     if (code[i] == ':' && (i + 1 >= code.size() || code[i + 1] != '=')) {
-      statements.emplace_back(Trim(current));
-      current.clear();
-    } else {
-      current += code[i];
+      statements->push_back(Trim(code.substr(start, i - start)));
+      start = i + 1;
     }
   }
-  statements.emplace_back(Trim(current));
-  return statements;
+  statements->push_back(Trim(code.substr(start)));
 }
 
 // Position just behind the keyword "Then" in masked code, if any.
@@ -332,11 +349,11 @@ constexpr std::string_view kModuleLevelWords[] = {
 
 constexpr std::string_view kModifiers[] = {"public", "private", "friend", "static", "global"};
 
-bool IsModifier(const std::string& word) {
+bool IsModifier(std::string_view word) {
   return std::find(std::begin(kModifiers), std::end(kModifiers), word) != std::end(kModifiers);
 }
 
-std::string KindName(const std::string& word) {
+std::string KindName(std::string_view word) {
   if (word == "sub") return "Sub";
   if (word == "function") return "Function";
   if (word == "property") return "Property";
@@ -345,7 +362,7 @@ std::string KindName(const std::string& word) {
   if (word == "if") return "If";
   if (word == "select") return "Select";
   if (word == "with") return "With";
-  return word;
+  return std::string(word);
 }
 
 struct Open {
@@ -364,10 +381,14 @@ std::string CloserOf(const std::string& kind) {
 class Checker {
  public:
   explicit Checker(const std::vector<std::string>& lines) : lines_(lines) {
-    for (const auto& l : lines_)
+    for (const auto& l : lines_) {
+      if (FindNoCase(l, "LongPtr") == std::string::npos) continue;
       if (FindNoCase(l, "Enum LongPtr") != std::string::npos ||
-          FindNoCase(l, "Type LongPtr") != std::string::npos)
+          FindNoCase(l, "Type LongPtr") != std::string::npos) {
         declaresLongPtr_ = true;
+        break;
+      }
+    }
   }
 
   std::vector<Vb6Finding> Run(FileKind kind) {
@@ -491,8 +512,8 @@ class Checker {
         ++depth;
         ControlLine(i, t, files);
         open.push_back(controls_.size() - 1);
-      } else if (propertyDepth == 0 && !open.empty() && IsPropertyLine(t) &&
-                 EqualsNoCase(SplitWord(t).first, "index")) {
+      } else if (propertyDepth == 0 && !open.empty() && StartsWithNoCase(t, "index") &&
+                 IsPropertyLine(t) && EqualsNoCase(SplitWord(t).first, "index")) {
         controls_[open.back()].Indexed = true;
         controls_[open.back()].Index = std::string(Trim(t.substr(t.find('=') + 1)));
       } else if (StartsWithWord(t, "BeginProperty")) {
@@ -504,7 +525,7 @@ class Checker {
         }
       } else if (!IsPropertyLine(t)) {
         Problem(i, "unexpected line in the designer block");
-      } else if (Mask(t).openString) {
+      } else if (t.find('"') != std::string_view::npos && Mask(t).openString) {
         Problem(i, "property value with a string left open");
       }
     }
@@ -582,18 +603,22 @@ class Checker {
     std::string Index;
   };
   std::vector<Control> controls_;
+  MaskedLine masked_;  // the buffer each code line is masked into
+  std::vector<std::string_view> statements_;  // those of the logical line being read
 
   // --- Code ---------------------------------------------------------------
 
   void Code(size_t i) {
+    std::string code;  // the logical line's code, its buffer reused
     while (i < lines_.size()) {
       const size_t start = i;
-      std::string code;
+      code.clear();
       size_t continuations = 0;
       while (true) {
         const std::string_view raw = lines_[i];
         if (StartsWithWord(raw, "Attribute")) break;  // procedure attributes
-        const MaskedLine m = Mask(raw);
+        Mask(raw, masked_);
+        const MaskedLine& m = masked_;
         if (m.openString) Problem(i, "string literal without its closing quote");
         if (m.hasComment) {
           code += m.code;
@@ -640,13 +665,14 @@ class Checker {
       Vba64Words(line, code);
       if (auto problem = ExpressionProblem(code)) Problem(line, *problem);
     }
-    std::vector<std::string> statements = SplitStatements(code);
+    std::vector<std::string_view>& statements = statements_;
+    SplitStatements(code, &statements);
     // A line number in front of the first statement.
-    std::string& first = statements.front();
+    std::string_view& first = statements.front();
     size_t digits = 0;
     while (digits < first.size() && first[digits] >= '0' && first[digits] <= '9') ++digits;
     if (digits > 0 && (digits == first.size() || IsBlank(first[digits])))
-      first = std::string(Trim(std::string_view(first).substr(digits)));
+      first = Trim(first.substr(digits));
     for (size_t k = 0; k < statements.size(); ++k) {
       std::string rest;
       for (size_t r = k + 1; r < statements.size(); ++r) rest += statements[r];
@@ -660,13 +686,16 @@ class Checker {
     auto [w1, after1] = SplitWord(statement);
     if (w1.empty()) return true;
     const auto [w2, after2] = SplitWord(after1);
-    if (w1 == "rem") return false;
+    // The words compared as views: a std::string compared with a literal
+    // measures the literal first.
+    const std::string_view v1 = w1, v2 = w2;
+    if (v1 == "rem") return false;
     if (w1.front() == '#') return Directive(line, w1, w2, after1);
     // Visual Basic 6 does not read a branch it does not compile.
     if (!Compiled()) return false;
 
     if (typeBlock_) {
-      if (w1 == "end" && (w2 == "type" || w2 == "enum")) {
+      if (v1 == "end" && (v2 == "type" || v2 == "enum")) {
         if (KindName(w2) != typeBlock_->kind)
           Problem(line, "End " + KindName(w2) + " closes the " + typeBlock_->kind +
                             " opened on line " + std::to_string(typeBlock_->line + 1));
@@ -675,7 +704,7 @@ class Checker {
       return true;  // members
     }
 
-    if (const auto header = ProcedureStart(statement)) {
+    if (const auto header = ProcedureStart(w1, after1)) {
       if (procedure_) {
         Problem(line, header->kind + " inside the " + procedure_->kind + " opened on line " +
                           std::to_string(procedure_->line + 1));
@@ -689,7 +718,7 @@ class Checker {
       procedure_ = Open{header->kind, line};
       return true;
     }
-    if (w1 == "end" && (w2 == "sub" || w2 == "function" || w2 == "property")) {
+    if (v1 == "end" && (v2 == "sub" || v2 == "function" || v2 == "property")) {
       EndProcedure(line, KindName(w2));
       return true;
     }
@@ -707,9 +736,9 @@ class Checker {
       return true;
     }
 
-    if (w1 == "type" || w1 == "enum" || (IsModifier(w1) && (w2 == "type" || w2 == "enum"))) {
-      Problem(line, KindName(w1 == "type" || w1 == "enum" ? w1 : w2) + " inside a procedure");
-    } else if (w1 == "if") {
+    if (v1 == "type" || v1 == "enum" || (IsModifier(w1) && (v2 == "type" || v2 == "enum"))) {
+      Problem(line, KindName(v1 == "type" || v1 == "enum" ? w1 : w2) + " inside a procedure");
+    } else if (v1 == "if") {
       const auto then = FindThen(statement);
       if (!then) {
         Problem(line, "If without Then");
@@ -718,49 +747,49 @@ class Checker {
       } else {
         blocks_.push_back({"If", line});
       }
-    } else if (w1 == "elseif") {
+    } else if (v1 == "elseif") {
       Expect(line, "If", "ElseIf");
-    } else if (w1 == "else") {
+    } else if (v1 == "else") {
       Expect(line, "If", "Else");
       // "Else If x Then" is Else followed by a nested If.
       if (!after1.empty()) return Statement(line, after1, restOfLine);
-    } else if (w1 == "select") {
-      if (w2 != "case") Problem(line, "Select without Case");
+    } else if (v1 == "select") {
+      if (v2 != "case") Problem(line, "Select without Case");
       blocks_.push_back({"Select", line});
-    } else if (w1 == "case") {
+    } else if (v1 == "case") {
       Expect(line, "Select", "Case");
-    } else if (w1 == "for") {
+    } else if (v1 == "for") {
       blocks_.push_back({"For", line});
-    } else if (w1 == "next") {
+    } else if (v1 == "next") {
       const size_t count = after1.empty() ? 1 : std::count(after1.begin(), after1.end(), ',') + 1;
       for (size_t n = 0; n < count; ++n) Close(line, "For", "Next");
-    } else if (w1 == "do") {
+    } else if (v1 == "do") {
       blocks_.push_back({"Do", line});
-    } else if (w1 == "loop") {
+    } else if (v1 == "loop") {
       Close(line, "Do", "Loop");
-    } else if (w1 == "while") {
+    } else if (v1 == "while") {
       blocks_.push_back({"While", line});
-    } else if (w1 == "wend") {
+    } else if (v1 == "wend") {
       Close(line, "While", "Wend");
-    } else if (w1 == "with") {
+    } else if (v1 == "with") {
       blocks_.push_back({"With", line});
-    } else if (w1 == "end") {
-      if (w2 == "if" || w2 == "select" || w2 == "with") {
+    } else if (v1 == "end") {
+      if (v2 == "if" || v2 == "select" || v2 == "with") {
         const std::string kind = KindName(w2);
         Close(line, kind, "End " + kind);
-      } else if (w2 == "type" || w2 == "enum") {
+      } else if (v2 == "type" || v2 == "enum") {
         Problem(line, "End " + KindName(w2) + " without " + KindName(w2));
       } else if (!w2.empty()) {
         Problem(line, "unknown End statement");
       }
-    } else if (w1 == "exit") {
+    } else if (v1 == "exit") {
       ExitStatement(line, w2);
     }
     return true;
   }
 
   // #If blocks: balanced, and which branch Visual Basic 6 compiles.
-  bool Directive(size_t line, const std::string& w1, const std::string& w2, std::string_view rest) {
+  bool Directive(size_t line, std::string_view w1, std::string_view w2, std::string_view rest) {
     if (w1 == "#if") {
       Conditional c{line, false, false, false};
       const auto holds = Holds(rest);
@@ -806,6 +835,11 @@ class Checker {
   // VBA7's words in code that Visual Basic 6 compiles. A module that
   // declares LongPtr itself for older hosts may use it.
   void Vba64Words(size_t line, std::string_view code) {
+    // Each word holds "ptr" or "longlong": a line without either is left at
+    // once.
+    if (FindNoCase(code, "ptr") == std::string_view::npos &&
+        FindNoCase(code, "longlong") == std::string_view::npos)
+      return;
     for (std::string_view word : {"PtrSafe", "LongPtr", "LongLong"}) {
       for (size_t p = FindNoCase(code, word); p != std::string_view::npos;
            p = FindNoCase(code, word, p + 1)) {
@@ -824,10 +858,11 @@ class Checker {
     std::string key;   // the name in lower case, with "/get", "/let", "/set" for a property
   };
 
-  static std::optional<ProcedureHeader> ProcedureStart(std::string_view statement) {
-    auto [word, rest] = SplitWord(statement);
+  // From the statement's first word (in lower case) and the text behind it.
+  static std::optional<ProcedureHeader> ProcedureStart(std::string word, std::string_view rest) {
     while (IsModifier(word)) std::tie(word, rest) = SplitWord(rest);
-    if (word != "sub" && word != "function" && word != "property") return std::nullopt;
+    const std::string_view w = word;
+    if (w != "sub" && w != "function" && w != "property") return std::nullopt;
     ProcedureHeader header{KindName(word), ""};
     auto [name, behind] = SplitWord(rest);
     if (word == "property") {
@@ -880,7 +915,7 @@ class Checker {
     procedure_.reset();
   }
 
-  void ExitStatement(size_t line, const std::string& w2) {
+  void ExitStatement(size_t line, std::string_view w2) {
     if (w2 == "sub" || w2 == "function" || w2 == "property") {
       if (procedure_ && procedure_->kind != KindName(w2))
         Problem(line, "Exit " + KindName(w2) + " inside a " + procedure_->kind);

@@ -16,6 +16,10 @@ namespace {
 // The directive word of a statement ("#if", "#elseif", "#else", "#end",
 // "#const") and the text behind it.
 std::pair<std::string, std::string> Directive(const std::string& statement) {
+  // The code part begins with the statement's first character past its
+  // blanks, so a statement whose first one is no "#" is no directive.
+  const size_t first = statement.find_first_not_of(" \t");
+  if (first == std::string::npos || statement[first] != '#') return {};
   const std::string code = CodePart(statement);
   if (code.empty() || code[0] != '#') return {};
   size_t end = 1;

@@ -66,6 +66,11 @@ bool IsSubHeader(ModuleTranslation& t, const std::string& written, std::string_v
 }  // namespace
 
 void InjectAfterLine(ModuleTranslation& t, const std::string& written) {
+  // Both headers hold "Sub Form_": a line without it (or without its "_",
+  // which is quicker to look for) is neither.
+  if (written.find('_') == std::string::npos ||
+      FindNoCase(written, "Sub Form_") == std::string::npos)
+    return;
   const ConversionSession& s = t.Session;
   if (IsSubHeader(t, written, "Form_Load")) {
     t.FormLoadSeen = true;

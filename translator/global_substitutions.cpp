@@ -18,8 +18,29 @@ namespace morvane {
 
 namespace {
 
+char Fold(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; }
+constexpr char FoldConst(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; }
+
+// Pairs of neighbouring characters of lower-case text, hashed.
+constexpr size_t PairKey(char a, char b) {
+  return (static_cast<unsigned char>(a) * 31u + static_cast<unsigned char>(b)) & 4095u;
+}
+
+// A text to look for, with the keys of its first and last pair (in lower
+// case) worked out when the program is built.
+struct Needle {
+  consteval Needle(const char* t) : Needle(std::string_view(t)) {}
+  consteval Needle(std::string_view t)
+      : text(t),
+        first(t.size() >= 2 ? PairKey(FoldConst(t[0]), FoldConst(t[1])) : 0),
+        last(t.size() >= 2 ? PairKey(FoldConst(t[t.size() - 2]), FoldConst(t[t.size() - 1]))
+                           : 0) {}
+  std::string_view text;
+  size_t first, last;
+};
+
 struct Replacement {
-  std::string_view find;
+  Needle find;
   std::string_view with;
 };
 
@@ -70,7 +91,7 @@ constexpr Replacement kProperties[] = {
 // Functions of the conversion code that a line calls: the text stays, the
 // template is asked for.
 struct Request {
-  std::string_view text;
+  Needle text;
   int template_index;
 };
 constexpr Request kRequests[] = {
@@ -89,10 +110,17 @@ constexpr Replacement kSysCmdConstants[] = {
     {"SYSCMD_GETOBJECTSTATE", "10"},
 };
 
+constexpr bool RequestsEndInParenthesis() {
+  for (const auto& r : kRequests)
+    if (r.text.text.empty() || r.text.text.back() != '(') return false;
+  return true;
+}
+static_assert(RequestsEndInParenthesis(), "every request ends in \"(\"");
+
 template <size_t N>
 constexpr bool NoEmptyFind(const Replacement (&table)[N]) {
   for (const auto& r : table)
-    if (r.find.empty()) return false;
+    if (r.find.text.empty()) return false;
   return true;
 }
 static_assert(NoEmptyFind(kDatabaseNames) && NoEmptyFind(kDatabaseVariable) &&
@@ -106,36 +134,32 @@ static_assert(NoEmptyFind(kDatabaseNames) && NoEmptyFind(kDatabaseVariable) &&
 class FoldedLine {
  public:
   FoldedLine(std::string& line, int* passed) : line_(line), passed_(passed) { Changed(); }
-  bool Contains(std::string_view find) const {
+  bool Contains(const Needle& needle) const {
+    const std::string_view find = needle.text;
     char buf[64];
     if (find.size() > sizeof buf) return FindNoCase(line_, find) != std::string::npos;
     // Most needles are ruled out by their first or last pair of characters,
     // which the line does not hold, before any search.
     const size_t n = find.size();
-    if (n >= 2 && (!pairs_.test(PairKey(Lower(find[0]), Lower(find[1]))) ||
-                   !pairs_.test(PairKey(Lower(find[n - 2]), Lower(find[n - 1])))))
-      return false;
-    for (size_t i = 0; i < n; ++i) buf[i] = Lower(find[i]);
+    if (n >= 2 && (!pairs_.test(needle.first) || !pairs_.test(needle.last))) return false;
+    for (size_t i = 0; i < n; ++i) buf[i] = Fold(find[i]);
     return lower_.find(std::string_view(buf, n)) != std::string::npos;
   }
-  void Replace(std::string_view find, std::string_view with) {
+  void Replace(const Needle& find, std::string_view with) {
     if (!Contains(find)) return;
-    line_ = ReplaceWords(line_, find, with, kInCodeOrComment, passed_);
+    line_ = ReplaceWords(line_, find.text, with, kInCodeOrComment, passed_);
     Changed();
   }
   // A hit that the rule must leave: counted as passed over.
   void Pass() { ++*passed_; }
   void Changed() {
-    lower_ = ToLower(line_);
+    lower_.assign(line_);
+    for (char& c : lower_) c = Fold(c);
     pairs_.reset();
     for (size_t i = 0; i + 1 < lower_.size(); ++i) pairs_.set(PairKey(lower_[i], lower_[i + 1]));
   }
 
  private:
-  static char Lower(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; }
-  static size_t PairKey(char a, char b) {
-    return (static_cast<unsigned char>(a) * 31u + static_cast<unsigned char>(b)) & 4095u;
-  }
   std::string& line_;
   std::string lower_;
   std::bitset<4096> pairs_;  // the pairs of neighbouring characters of lower_, hashed
@@ -145,6 +169,36 @@ class FoldedLine {
 template <size_t N>
 void ReplaceAll(FoldedLine& folded, const Replacement (&table)[N]) {
   for (const auto& r : table) folded.Replace(r.find, r.with);
+}
+
+constexpr bool HoldsNoCase(std::string_view text, std::string_view part) {
+  for (size_t i = 0; i + part.size() <= text.size(); ++i) {
+    bool all = true;
+    for (size_t j = 0; j < part.size() && all; ++j)
+      all = FoldConst(text[i + j]) == FoldConst(part[j]);
+    if (all) return true;
+  }
+  return false;
+}
+
+template <size_t N>
+constexpr bool AllHold(const Replacement (&table)[N], std::string_view common) {
+  for (const auto& r : table)
+    if (!HoldsNoCase(r.find.text, common)) return false;
+  return true;
+}
+
+// The texts of a table that all hold `common`: a line without it is left
+// at once, as none of them can change it.
+constexpr Needle kDatabaseVariableCommon = "db";
+constexpr Needle kSysCmdCommon = "syscmd";
+static_assert(AllHold(kDatabaseVariable, kDatabaseVariableCommon.text) &&
+                  AllHold(kSysCmdConstants, kSysCmdCommon.text),
+              "every text of the table holds the common part");
+
+template <size_t N>
+void ReplaceAll(FoldedLine& folded, const Replacement (&table)[N], const Needle& common) {
+  if (folded.Contains(common)) ReplaceAll(folded, table);
 }
 
 constexpr std::string_view kLookup = "GetFormFromName(";
@@ -294,20 +348,23 @@ void GlobalSubstitutions(ModuleTranslation& t, std::string& line) {
   ConversionSession& s = t.Session;
   FoldedLine folded(line, &t.PassedHits);
   ReplaceAll(folded, kDatabaseNames);
-  if (!s.IsAdp) ReplaceAll(folded, kDatabaseVariable);
+  if (!s.IsAdp) ReplaceAll(folded, kDatabaseVariable, kDatabaseVariableCommon);
   for (const auto& r : kProperties) {
-    if (r.find == " Form,") {
+    if (r.find.text == " Form,") {
       FormArgumentRule(folded, line);
-    } else if (r.find == "Forms.") {
+    } else if (r.find.text == "Forms.") {
       FormsDotRule(folded, line);
     } else {
       folded.Replace(r.find, r.with);
     }
   }
 
-  for (const auto& request : kRequests)
-    if (folded.Contains(request.text))
-      s.ListControlsUsed[static_cast<size_t>(request.template_index)] = true;
+  // Every request ends in "(".
+  if (folded.Contains("(")) {
+    for (const auto& request : kRequests)
+      if (folded.Contains(request.text))
+        s.ListControlsUsed[static_cast<size_t>(request.template_index)] = true;
+  }
 
   // Each step removes one reference; the bound only guards against a text
   // that would not shrink.
@@ -336,7 +393,7 @@ void GlobalSubstitutions(ModuleTranslation& t, std::string& line) {
     folded.Replace("SysCmd(", "SysCmdVB(");
     s.ListControlsUsed[s.Options.IsMdi ? 6 : 7] = true;
   }
-  ReplaceAll(folded, kSysCmdConstants);
+  ReplaceAll(folded, kSysCmdConstants, kSysCmdCommon);
   folded.Replace(".TimerInterval", ".Timer1.Interval");
 }
 

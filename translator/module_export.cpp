@@ -42,9 +42,10 @@ std::string NameAttribute(const std::string& name) {
   return "Attribute VB_Name = \"" + name + "\"";
 }
 
-void AddCodeLines(const ModuleCode& code, int start, int count, std::vector<std::string>* out) {
+// Moves the lines out of `code`, which the caller no longer reads.
+void AddCodeLines(ModuleCode& code, int start, int count, std::vector<std::string>* out) {
   for (int i = std::max(start, 1); i < start + count && i <= code.CountOfLines(); ++i)
-    out->push_back(code.Code[static_cast<size_t>(i - 1)]);
+    out->push_back(std::move(code.Code[static_cast<size_t>(i - 1)]));
 }
 
 std::string TrimmedStart(const std::string& line) {
@@ -91,7 +92,7 @@ bool ExportModuleText(ConversionSession& s, const std::string& name, int mode, T
   if (mode == kModeForm) out.emplace_back();
   AddCodeLines(code, declarations + 1, code.CountOfLines() - declarations, &out);
 
-  into.Append(JoinCrLf(out));
+  into.AppendLines(std::move(out));
   return true;
 }
 

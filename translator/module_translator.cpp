@@ -51,7 +51,13 @@ bool SetsTheCurrentDatabase(const std::string& line) {
 
 std::string TranslateStatement(ModuleTranslation& t, std::string line, bool newLine) {
   // Only blanks go: a leading tab stays.
-  line = TrimBlanks(line);
+  const size_t first = line.find_first_not_of(' ');
+  if (first == std::string::npos) {
+    line.clear();
+  } else {
+    line.erase(line.find_last_not_of(' ') + 1);
+    line.erase(0, first);
+  }
   if (newLine) {
     Bump(t.TotalLines);
     if (StartsWithNoCase(line, "Begin ")) Bump(t.BeginCount);

@@ -259,10 +259,13 @@ void RecordsetPass(ConversionSession& s, TextDocument& text, const std::string& 
   std::vector<std::string> members{""}, locals{""}, groups{""};
   bool inDeclarations = true;
   std::string pendingOption;  // the option button whose block is open
+  bool edited = false;         // a line was changed, and may now hold a break
   for (auto& line : lines) {
     ++number;
-    const std::string trimmed = TrimBlanks(line);
     if (line.empty() || line[0] == '\'') continue;
+    std::string_view trimmed = line;
+    while (!trimmed.empty() && trimmed.front() == ' ') trimmed.remove_prefix(1);
+    while (!trimmed.empty() && trimmed.back() == ' ') trimmed.remove_suffix(1);
     if (StartsWithNoCase(line, "Dim")) {
       for (size_t at = FindNoCase(line, " As Recordset"); at != std::string::npos;
            at = FindNoCase(line, " As Recordset", at + 1)) {
@@ -282,8 +285,10 @@ void RecordsetPass(ConversionSession& s, TextDocument& text, const std::string& 
         const std::string event = SafeName(groups[gi]) + "_";
         if (EndsWithNoCase(line, "()") && (StartsWithNoCase(line, "Public Sub " + event) ||
                                            StartsWithNoCase(line, "Private Sub " + event) ||
-                                           StartsWithNoCase(line, "Sub " + event)))
+                                           StartsWithNoCase(line, "Sub " + event))) {
           line = line.substr(0, line.size() - 1) + "Index as Integer)";
+          edited = true;
+        }
       }
       continue;
     }
@@ -309,17 +314,22 @@ void RecordsetPass(ConversionSession& s, TextDocument& text, const std::string& 
         pendingOption.clear();
       }
     }
+    // Without a recordset variable in scope or an option group, no rule can
+    // change the line.
+    if (members[0].empty() && locals[0].empty() && !(groups.size() > 1 && !inDeclarations))
+      continue;
     const std::string before = line;
     int kept = 0;
     RecordsetRule(line, members, &kept);
     RecordsetRule(line, locals, &kept);
     if (groups.size() > 1 && !inDeclarations) OptionGroupRule(s, line, groups, &kept);
+    if (line != before) edited = true;
     // The row's line number is the line's place in the written file.
     if (kept > 0)
       ReportLine(s, moduleName, kReasonKeptChoice, TrimBlanks(before), static_cast<int>(number),
                  TrimBlanks(line), "");
   }
-  text.SplitBreaks(0, lines.size());
+  if (edited) text.SplitBreaks(0, lines.size());
 }
 
 }  // namespace morvane

@@ -3,6 +3,7 @@
 #include "translator/statements.h"
 
 #include <exception>
+#include <span>
 #include <string_view>
 
 #include "session/naming.h"
@@ -68,7 +69,7 @@ std::vector<std::string> Cut(const std::string& text, const std::vector<std::str
 // where the lines began. A commented-out statement is commented on every
 // line, so that no mark stands inside a statement that goes on.
 std::vector<std::string> PhysicalLines(const std::string& text, const std::string& joined,
-                                       const std::vector<std::string>& originals,
+                                       std::span<const std::string> originals,
                                        const std::vector<std::string>& parts) {
   std::vector<std::string> out;
   if (text == joined) {
@@ -114,6 +115,15 @@ std::string TranslateSafely(ModuleTranslation& t, const std::string& statement, 
 // Type ... End Type blocks of the declarations, for the rules that read a
 // member line differently.
 void TrackTypeBlock(ModuleTranslation& t, const std::string& statement, bool after) {
+  // The code part is a beginning of the statement past its blanks: a
+  // statement that does not begin with a word looked for here cannot have a
+  // code part that does.
+  std::string_view start = statement;
+  while (!start.empty() && (start.front() == ' ' || start.front() == '\t')) start.remove_prefix(1);
+  if (after ? !StartsWithNoCase(start, "End Type")
+            : !StartsWithNoCase(start, "Public ") && !StartsWithNoCase(start, "Private ") &&
+                  !StartsWithNoCase(start, "Type "))
+    return;
   const std::string code = CodePart(statement);
   if (after) {
     if (StartsWithNoCase(code, "End Type")) t.InTypeBlock = false;
@@ -127,34 +137,37 @@ void TrackTypeBlock(ModuleTranslation& t, const std::string& statement, bool aft
 
 // `continued`: the lines of a statement continued over several lines.
 void WriteStatement(ModuleTranslation& t, const std::string& statement, bool newLine,
-                    const std::vector<std::string>* continued) {
+                    std::span<const std::string> continued) {
   const bool designer = t.InDesignerBlock();
   BeforeDirective(t, statement);
   TrackTypeBlock(t, statement, false);
-  const std::string text = TranslateSafely(t, statement, newLine);
-  std::vector<std::string> lines;
-  if (continued) {
+  std::string text = TranslateSafely(t, statement, newLine);
+  // Past its writing the text is read only by the injection after a form's
+  // Load or Activate header, which holds a "_", and by the row of a kept
+  // choice; otherwise it is handed over rather than copied.
+  const bool textNeeded =
+      text.find('_') != std::string::npos || (t.PassedHits > 0 && !t.StatementMarked);
+  // Designer lines are copied as they are; a code line that a rule made
+  // longer than Visual Basic reads is continued on the next.
+  auto write = [&t, designer](std::string&& line) {
+    if (designer || t.InDesignerBlock() || line.size() <= kFittedLineLength)
+      t.Write(std::move(line));
+    else
+      for (auto& fitted : FitLineLength(line)) t.Write(std::move(fitted));
+  };
+  if (!continued.empty()) {
     std::vector<std::string> parts;
-    for (const auto& line : *continued) parts.push_back(WithoutContinuation(line));
-    lines = PhysicalLines(text, statement, *continued, parts);
+    for (const auto& line : continued) parts.push_back(WithoutContinuation(line));
+    for (auto& line : PhysicalLines(text, statement, continued, parts)) write(std::move(line));
   } else {
-    lines = {text};
+    write(textNeeded ? std::string(text) : std::move(text));
   }
-  for (const auto& line : lines) {
-    // Designer lines are copied as they are; a code line that a rule made
-    // longer than Visual Basic reads is continued on the next.
-    if (designer || t.InDesignerBlock()) {
-      t.Write(line);
-      continue;
-    }
-    for (auto& fitted : FitLineLength(line)) t.Write(std::move(fitted));
-  }
-  InjectAfterLine(t, text);
+  if (textNeeded) InjectAfterLine(t, text);
   AfterDirective(t, statement);
   TrackTypeBlock(t, statement, true);
   // A rule that left code alone where its plain text would have changed it
   // says so; a statement commented out needs no such row.
-  if (t.PassedHits > 0 && !t.StatementMarked)
+  if (textNeeded && t.PassedHits > 0 && !t.StatementMarked)
     ReportRule(t, kReasonKeptChoice, TrimBlanks(statement), text);
 }
 
@@ -163,18 +176,22 @@ bool IsWholeLine(const ModuleTranslation& t, const std::string& trimmed) {
          StartsWithNoCase(trimmed, "Attribute ") || !t.Compiled();
 }
 
-void TranslateLogicalLine(ModuleTranslation& t, const std::vector<std::string>& lines) {
+void TranslateLogicalLine(ModuleTranslation& t, std::span<const std::string> lines) {
   std::string joined = TrimBlanks(lines[0]);
   if (lines.size() > 1) {
     joined = TrimBlanks(WithoutContinuation(lines[0]));
     for (size_t k = 1; k < lines.size(); ++k) joined += " " + WithoutContinuation(lines[k]);
   }
   const bool comment = !joined.empty() && joined[0] == '\'';
-  const std::vector<std::string> statements =
-      IsWholeLine(t, joined) ? std::vector<std::string>{joined} : SplitStatements(joined);
+  std::vector<std::string> statements;
+  if (IsWholeLine(t, joined))
+    statements.push_back(std::move(joined));
+  else
+    statements = SplitStatements(joined);
   for (size_t k = 0; k < statements.size(); ++k) {
     const bool single = statements.size() == 1 && lines.size() > 1;
-    WriteStatement(t, statements[k], k == 0, single ? &lines : nullptr);
+    WriteStatement(t, statements[k], k == 0,
+                   single ? lines : std::span<const std::string>());
   }
   // The other lines of a continued statement count as lines of the module.
   const int more = static_cast<int>(lines.size()) - 1;
@@ -191,14 +208,13 @@ void TranslateLines(ModuleTranslation& t, const std::vector<std::string>& lines)
   for (size_t i = 0; i < lines.size();) {
     // The designer block is copied line by line; the gate opens behind it.
     if (t.InDesignerBlock()) {
-      WriteStatement(t, lines[i], true, nullptr);
+      WriteStatement(t, lines[i], true, {});
       ++i;
       continue;
     }
     size_t last = i;
     while (last + 1 < lines.size() && ContinuesOnNextLine(lines[last])) ++last;
-    TranslateLogicalLine(t, std::vector<std::string>(lines.begin() + static_cast<long>(i),
-                                                     lines.begin() + static_cast<long>(last) + 1));
+    TranslateLogicalLine(t, std::span<const std::string>(lines).subspan(i, last + 1 - i));
     i = last + 1;
   }
 }

@@ -3,8 +3,10 @@
 // written at once.
 #include "translator/unsupported_features.h"
 
+#include <algorithm>
 #include <array>
-#include <bitset>
+#include <bit>
+#include <cstdint>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -111,14 +113,75 @@ constexpr bool FeaturesAreWellFormed() {
 }
 static_assert(FeaturesAreWellFormed(), "no empty or repeated entry");
 
+// The shortest text or alternative of the list.
+constexpr size_t MinNeedle() {
+  size_t n = 1000;
+  for (const Feature& f : kFeatures) {
+    n = std::min(n, f.text.size());
+    if (!f.alternative.empty()) n = std::min(n, f.alternative.size());
+  }
+  return n;
+}
+constexpr size_t kMinNeedle = MinNeedle();
+
+// The one entry that ends the list at an "Attribute " line.
+constexpr size_t AttributeEntry() {
+  size_t at = std::size(kFeatures);
+  for (size_t i = 0; i < std::size(kFeatures); ++i)
+    if (kFeatures[i].match == Match::AttributeLine) {
+      if (at != std::size(kFeatures)) return std::size(kFeatures);
+      at = i;
+    }
+  return at;
+}
+constexpr size_t kAttributeEntry = AttributeEntry();
+static_assert(kAttributeEntry < std::size(kFeatures), "one Attribute entry");
+
+// Buckets of three neighbouring lower-case characters, hashed.
+constexpr size_t kBuckets = 4096;
+
+size_t TripleKey(char a, char b, char c) {
+  return (static_cast<unsigned char>(a) * 961u + static_cast<unsigned char>(b) * 31u +
+          static_cast<unsigned char>(c)) &
+         (kBuckets - 1);
+}
+
+// The entries of the list, one bit each.
+struct EntrySet {
+  static constexpr size_t kWords = (std::size(kFeatures) + 63) / 64;
+  std::array<uint64_t, kWords> words{};
+  void set(size_t i) { words[i / 64] |= uint64_t{1} << (i % 64); }
+  EntrySet& operator|=(const EntrySet& o) {
+    for (size_t w = 0; w < kWords; ++w) words[w] |= o.words[w];
+    return *this;
+  }
+  // The first entry at or after `from` in the set, or kNone.
+  static constexpr size_t kNone = static_cast<size_t>(-1);
+  size_t Next(size_t from) const {
+    for (size_t w = from / 64; w < kWords; ++w) {
+      uint64_t bits = words[w];
+      if (w == from / 64) bits &= ~uint64_t{0} << (from % 64);
+      if (bits != 0) return w * 64 + static_cast<size_t>(std::countr_zero(bits));
+    }
+    return kNone;
+  }
+};
+
 // The needles of the list prepared once: the lower-case spelling of those
-// matched without regard to case.
+// matched without regard to case, and for each bucket the entries one of
+// whose needles (in lower case) begins with three characters of the bucket.
+// A line can hold an entry's text, in either case, only where three of its
+// characters fall into a bucket of the entry.
 struct Needles {
   std::array<std::string, std::size(kFeatures)> lowText, lowAlternative;
+  std::vector<EntrySet> starts = std::vector<EntrySet>(kBuckets);
   Needles() {
+    static_assert(kMinNeedle >= 3);
     for (size_t i = 0; i < std::size(kFeatures); ++i) {
       lowText[i] = ToLower(kFeatures[i].text);
       lowAlternative[i] = ToLower(kFeatures[i].alternative);
+      for (const std::string* low : {&lowText[i], &lowAlternative[i]})
+        if (!low->empty()) starts[TripleKey((*low)[0], (*low)[1], (*low)[2])].set(i);
     }
   }
 };
@@ -128,36 +191,14 @@ const Needles& PreparedNeedles() {
   return needles;
 }
 
-// Whether `line` holds `text`. Most needles are ruled out without a search
-// by a pair of neighbouring characters that the line does not hold.
-class LineSearch {
- public:
-  explicit LineSearch(const std::string& line) : line_(line) {
-    for (size_t i = 0; i + 1 < line.size(); ++i) pairs_.set(PairKey(line[i], line[i + 1]));
-  }
-  bool Holds(std::string_view text) const {
-    const size_t n = text.size();
-    if (n >= 2 && (!pairs_.test(PairKey(text[0], text[1])) ||
-                   !pairs_.test(PairKey(text[n - 2], text[n - 1]))))
-      return false;
-    return line_.find(text) != std::string::npos;
-  }
-
- private:
-  static size_t PairKey(char a, char b) {
-    return (static_cast<unsigned char>(a) * 31u + static_cast<unsigned char>(b)) & 4095u;
-  }
-  const std::string& line_;
-  std::bitset<4096> pairs_;
-};
-
 // `exact` searches the line as written, else its lower-case copy with the
 // lower-case needle. A plain search that fails rules the entry out at once,
 // which is the case for nearly every line.
-bool Holds(const std::string& line, const LineSearch& exactSearch, const LineSearch& lowerSearch,
-           std::string_view text, std::string_view lowText, bool exact, int* passed) {
+bool Holds(const std::string& line, const std::string& lower, std::string_view text,
+           std::string_view lowText, bool exact, int* passed) {
   if (text.empty()) return false;
-  if (exact ? !exactSearch.Holds(text) : !lowerSearch.Holds(lowText)) return false;
+  if (exact ? line.find(text) == std::string::npos : lower.find(lowText) == std::string::npos)
+    return false;
   // Only a whole word of the code counts: a word inside a string literal or
   // a comment, or a part of a longer name (".Format" for ".form"), is no use
   // of the feature and must not comment out the statement.
@@ -170,13 +211,31 @@ bool Holds(const std::string& line, const LineSearch& exactSearch, const LineSea
 // The first entry that fires, or nothing; `attribute` is set when the list
 // stops at an "Attribute " line.
 const Feature* FirstFeature(const std::string& line, bool* attribute, int* passed) {
-  const std::string lower = ToLower(line);
+  // The lower-case copy lives in a buffer that each line reuses.
+  thread_local std::string lower;
+  lower.assign(line);
+  for (char& c : lower)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 32);
   const Needles& needles = PreparedNeedles();
-  LineSearch exactSearch(line), lowerSearch(lower);
-  for (size_t i = 0; i < std::size(kFeatures); ++i) {
+  // The entries whose text the line may hold; the others cannot fire, nor
+  // pass over a hit.
+  EntrySet candidates;
+  for (size_t i = 0; i + 2 < lower.size(); ++i)
+    candidates |= needles.starts[TripleKey(lower[i], lower[i + 1], lower[i + 2])];
+  // The "Attribute " entry is tried at its place in the order whether the
+  // line holds its text or not.
+  candidates.set(kAttributeEntry);
+  for (size_t i = candidates.Next(0); i != EntrySet::kNone; i = candidates.Next(i + 1)) {
     const Feature& f = kFeatures[i];
+    if (f.match == Match::AttributeLine) {
+      if (StartsWithNoCase(line, f.text)) {
+        *attribute = true;
+        return nullptr;
+      }
+      continue;
+    }
     auto holds = [&](std::string_view text, const std::string& low, bool exact) {
-      return Holds(line, exactSearch, lowerSearch, text, low, exact, passed);
+      return Holds(line, lower, text, low, exact, passed);
     };
     bool fires = false;
     switch (f.match) {
@@ -189,10 +248,6 @@ const Feature* FirstFeature(const std::string& line, bool* attribute, int* passe
                 holds(f.alternative, needles.lowAlternative[i], false);
         break;
       case Match::AttributeLine:
-        if (StartsWithNoCase(line, f.text)) {
-          *attribute = true;
-          return nullptr;
-        }
         break;
       case Match::FormReference:
         fires = holds(f.text, needles.lowText[i], false) && !holds("vb.form", "vb.form", false);

@@ -114,13 +114,22 @@ bool IsSingleLineIf(std::string_view statement, std::string_view kinds) {
 
 }  // namespace
 
-std::string CharKinds(std::string_view line) {
-  std::string kinds(line.size(), 'c');
+namespace {
+
+// Reads the line as Visual Basic does, calling `mark(from, to, kind)` for each
+// string or date literal ('s', [from, to]) and for the comment ('m', from
+// `from` to the end). Returns where the comment begins, or npos.
+template <typename Mark>
+size_t ScanKinds(std::string_view line, Mark&& mark) {
   const size_t n = line.size();
   bool statementStart = true;
   size_t i = 0;
   while (i < n) {
     const char c = line[i];
+    if (statementStart && IsBlank(c)) {
+      ++i;
+      continue;
+    }
     if (c == '"') {
       size_t j = i + 1;
       while (j < n) {
@@ -134,36 +143,43 @@ std::string CharKinds(std::string_view line) {
         ++j;
       }
       const size_t end = std::min(j, n - 1);
-      std::fill(kinds.begin() + static_cast<long>(i), kinds.begin() + static_cast<long>(end) + 1,
-                's');
+      mark(i, end, 's');
       i = end + 1;
       statementStart = false;
       continue;
     }
-    if (c == '\'' || (statementStart && IsRemAt(line, i))) {
-      std::fill(kinds.begin() + static_cast<long>(i), kinds.end(), 'm');
-      break;
+    if (c == '\'' || (statementStart && (c == 'r' || c == 'R') && IsRemAt(line, i))) {
+      mark(i, n - 1, 'm');
+      return i;
     }
     if (c == '#') {
       const size_t close = DateLiteralEnd(line, i);
       if (close != std::string_view::npos) {
-        std::fill(kinds.begin() + static_cast<long>(i),
-                  kinds.begin() + static_cast<long>(close) + 1, 's');
+        mark(i, close, 's');
         i = close + 1;
         statementStart = false;
         continue;
       }
     }
-    if (!(statementStart && IsBlank(c)))
-      statementStart = c == ':' && !(i + 1 < n && line[i + 1] == '=');
+    statementStart = c == ':' && !(i + 1 < n && line[i + 1] == '=');
     ++i;
   }
+  return std::string_view::npos;
+}
+
+}  // namespace
+
+std::string CharKinds(std::string_view line) {
+  std::string kinds(line.size(), 'c');
+  ScanKinds(line, [&kinds](size_t from, size_t to, char kind) {
+    std::fill(kinds.begin() + static_cast<long>(from), kinds.begin() + static_cast<long>(to) + 1,
+              kind);
+  });
   return kinds;
 }
 
 std::string CodePart(std::string_view line) {
-  const std::string kinds = CharKinds(line);
-  const size_t comment = kinds.find('m');
+  const size_t comment = ScanKinds(line, [](size_t, size_t, char) {});
   return std::string(TrimView(line.substr(0, comment)));
 }
 
@@ -208,6 +224,9 @@ std::string ReplaceWords(std::string_view line, std::string_view find, std::stri
 }
 
 std::vector<std::string> SplitStatements(std::string_view line) {
+  // Without a colon the line is one statement, unless it begins with Else.
+  if (line.find(':') == std::string_view::npos && !StartsWithNoCase(TrimView(line), "else"))
+    return {std::string(line)};
   const std::string kinds = CharKinds(line);
   std::vector<std::string> out;
   auto push = [&out](std::string_view statement) {
@@ -277,10 +296,9 @@ std::string WithoutContinuation(std::string_view line) {
 std::vector<std::string> FitLineLength(const std::string& line) {
   std::vector<std::string> out;
   std::string rest = line;
-  // The re-indenter puts blanks ahead of every code line after this, so a
-  // piece leaves room for them; and room for " _" or "\" & _" behind a cut.
-  constexpr size_t kIndentRoom = 64;
-  constexpr size_t kLimit = kMaxLineLength - kIndentRoom;
+  // A piece leaves room for the indent, and for " _" or "\" & _" behind a
+  // cut.
+  constexpr size_t kLimit = kFittedLineLength;
   constexpr size_t kRoom = kLimit - 5;
   while (rest.size() > kLimit && out.size() < kMaxContinuations) {
     const std::string kinds = CharKinds(rest);

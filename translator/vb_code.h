@@ -59,6 +59,10 @@ std::string WithoutContinuation(std::string_view line);
 inline constexpr size_t kMaxLineLength = 1023;
 inline constexpr size_t kMaxContinuations = 24;
 
+// The longest line FitLineLength leaves whole: the re-indenter puts blanks
+// ahead of every code line after it, so a line leaves room for them.
+inline constexpr size_t kFittedLineLength = kMaxLineLength - 64;
+
 // A logical line cut into physical lines at blanks of the code, joined by
 // " _", each short enough to stay within kMaxLineLength bytes once indented.
 // A line that fits, or that has no place to cut, comes back as it is.

@@ -22,15 +22,27 @@ constexpr Replacement kVba64Words[] = {
     {"LongLong", "Currency"},         {"CLngLng(", "CCur("},
 };
 
+// Whether the line holds "ptr", "longlong" or "lnglng" in any case, found
+// in one pass over it.
+bool HoldsMarker(std::string_view line) {
+  for (size_t i = 0; i < line.size(); ++i) {
+    const char c = line[i];
+    if (c == 'p' || c == 'P') {
+      if (StartsWithNoCase(line.substr(i), "ptr")) return true;
+    } else if (c == 'l' || c == 'L') {
+      const std::string_view rest = line.substr(i);
+      if (StartsWithNoCase(rest, "longlong") || StartsWithNoCase(rest, "lnglng")) return true;
+    }
+  }
+  return false;
+}
+
 }  // namespace
 
 std::string Vba64Rewrite(const std::string& line) {
   // Every word of the list holds one of these; a line without them is left
   // at once.
-  if (FindNoCase(line, "ptr") == std::string::npos &&
-      FindNoCase(line, "longlong") == std::string::npos &&
-      FindNoCase(line, "lnglng") == std::string::npos)
-    return line;
+  if (!HoldsMarker(line)) return line;
   // A module that declares LongPtr itself for older hosts ("Enum LongPtr")
   // keeps that name.
   if (ContainsWord(line, "Enum LongPtr", kInCode) || ContainsWord(line, "Type LongPtr", kInCode))
