@@ -157,6 +157,19 @@ Classified Classify(std::string_view code, Folded& folded) {
   return c;
 }
 
+// Gives `line` its text without blanks or tabs at either end, behind
+// `blanks` blanks (an empty text gives the blanks alone), in place: most
+// lines keep their buffer.
+void Indent(std::string& line, size_t blanks) {
+  size_t b = 0;
+  while (b < line.size() && (line[b] == ' ' || line[b] == '\t')) ++b;
+  size_t e = line.size();
+  while (e > b && (line[e - 1] == ' ' || line[e - 1] == '\t')) --e;
+  line.resize(e);
+  if (b == blanks && line.find('\t') >= b) return;  // the blanks it has are the ones it needs
+  line.replace(0, b, blanks, ' ');
+}
+
 class CodeIndenter {
  public:
   int Depth() const {
@@ -166,7 +179,7 @@ class CodeIndenter {
   }
 
   // Indents one statement (its first line and its continuation lines).
-  void Statement(std::vector<std::string>& out, std::span<const std::string> parts) {
+  void Statement(std::span<std::string> parts) {
     code_.clear();
     for (const auto& p : parts) {
       std::string_view c = CodePart(p);
@@ -183,23 +196,13 @@ class CodeIndenter {
       stack_.pop_back();
     int depth = Depth();
     if (c.middle && !stack_.empty() && stack_.back() != kProcedure) depth -= 1;
-    for (size_t i = 0; i < parts.size(); ++i)
-      out.push_back(Padded(depth + (i > 0 ? 1 : 0), Trim(parts[i])));
+    for (size_t i = 0; i < parts.size(); ++i) Indent(parts[i], Blanks(depth + (i > 0 ? 1 : 0)));
     for (Block b : c.opens) stack_.push_back(b);
   }
 
-  void Comment(std::vector<std::string>& out, std::string_view t) {
-    out.push_back(Padded(Depth(), t));
-  }
+  void Comment(std::string& line) { Indent(line, Blanks(Depth())); }
 
-  static std::string Padded(int depth, std::string_view t) {
-    const size_t blanks = static_cast<size_t>(std::max(0, depth)) * 4;
-    std::string line;
-    line.reserve(blanks + t.size());
-    line.append(blanks, ' ');
-    line += t;
-    return line;
-  }
+  static size_t Blanks(int depth) { return static_cast<size_t>(std::max(0, depth)) * 4; }
 
  private:
   std::vector<Block> stack_;
@@ -210,9 +213,7 @@ class CodeIndenter {
 }  // namespace
 
 void SilentIndent(TextDocument& doc) {
-  const std::vector<std::string>& lines = doc.Lines();
-  std::vector<std::string> out;
-  out.reserve(lines.size());
+  std::vector<std::string> lines = std::move(doc.Lines());
   size_t i = 0;
   Folded folded;
 
@@ -222,32 +223,29 @@ void SilentIndent(TextDocument& doc) {
     const std::string_view l = folded.Of(t);
     if (Starts(l, "version ") || Starts(l, "object =") || Starts(l, "object=") ||
         Starts(l, "attribute ")) {
-      out.emplace_back(t);
+      Indent(lines[i], 0);
       ++i;
     } else if (t == "BEGIN") {
-      out.emplace_back(t);
+      Indent(lines[i], 0);
       for (++i; i < lines.size(); ++i) {
-        const std::string_view inner = Trim(lines[i]);
-        if (text::IEquals(inner, "end")) {
-          out.emplace_back(inner);
+        if (text::IEquals(Trim(lines[i]), "end")) {
+          Indent(lines[i], 0);
           ++i;
           break;
         }
-        out.push_back(inner.empty() ? std::string() : "  " + std::string(inner));
+        if (Trim(lines[i]).empty())
+          lines[i].clear();
+        else
+          Indent(lines[i], 2);
       }
     } else if (IsWord(l, "begin") && Starts(l, "begin ")) {
       int depth = 0;
       for (; i < lines.size(); ++i) {
-        const std::string_view inner = Trim(lines[i]);
-        const std::string_view il = folded.Of(inner);
+        const std::string_view il = folded.Of(Trim(lines[i]));
         bool opens = Starts(il, "begin ") || il == "begin" || Starts(il, "beginproperty ");
         bool closes = il == "end" || il == "endproperty";
         if (closes) depth = std::max(0, depth - 1);
-        std::string line;
-        line.reserve(static_cast<size_t>(depth) * 3 + inner.size());
-        line.append(static_cast<size_t>(depth) * 3, ' ');
-        line += inner;
-        out.push_back(std::move(line));
+        Indent(lines[i], static_cast<size_t>(depth) * 3);
         if (opens) ++depth;
         if (closes && depth == 0) {
           ++i;
@@ -264,13 +262,13 @@ void SilentIndent(TextDocument& doc) {
     const std::string_view t = Trim(lines[i]);
     const std::string_view l = folded.Of(t);
     if (t.empty()) {
-      out.emplace_back();
+      lines[i].clear();
       ++i;
     } else if (IsComment(l)) {
-      code.Comment(out, t);
+      code.Comment(lines[i]);
       ++i;
     } else if (Starts(l, "#") || IsLabel(t)) {
-      out.emplace_back(t);
+      Indent(lines[i], 0);
       ++i;
     } else {
       const size_t first = i++;
@@ -279,10 +277,10 @@ void SilentIndent(TextDocument& doc) {
         if (!c.ends_with(" _")) break;
         ++i;
       }
-      code.Statement(out, std::span<const std::string>(lines).subspan(first, i - first));
+      code.Statement(std::span<std::string>(lines).subspan(first, i - first));
     }
   }
-  doc.SetLines(std::move(out));
+  doc.SetLines(std::move(lines));
 }
 
 }  // namespace morvane
