@@ -2,15 +2,20 @@
 // controls and 200 modules of 1,000 lines (counts from the arguments),
 // converted through the composition root the command line uses, against a
 // copy of the same tree (cp -r) made in the same run; each is followed by a
-// sync, so that both count the writes the disk must take. Prints both times
-// and their ratio.
+// sync, so that both count the writes the disk must take. Both are done a
+// few times (the fourth argument, 3 by default) into fresh directories, and
+// the medians are compared: a copy of this size takes a few hundredths of a
+// second, so one slow copy or conversion would swing a single ratio widely.
+// Prints the medians, their ratio and the range of each.
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "bench/bench_run.h"
 #include "bench/generated_tree.h"
@@ -26,6 +31,12 @@ double SecondsOf(const std::string& command) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
+double Median(std::vector<double> values) {
+  std::sort(values.begin(), values.end());
+  const size_t n = values.size();
+  return n % 2 ? values[n / 2] : (values[n / 2 - 1] + values[n / 2]) / 2;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -37,20 +48,33 @@ int main(int argc, char** argv) {
   const long lines = bench::WriteModules(root, modules, 1000);
   SecondsOf("sync");
 
-  const double copy =
-      SecondsOf("cp -r '" + (root / "src").string() + "' '" + (root / "copy").string() + "' && sync");
-
-  bench::BenchRun run;
-  Selection all;
-  all.All = true;
-  if (!run.Open(root, all)) return 1;
-  double seconds = 0;
-  const RunSummary summary = run.Run(&seconds);
-  seconds += SecondsOf("sync");
+  const int rounds = std::max(1, argc > 4 ? std::atoi(argv[4]) : 3);
+  std::vector<double> copies, conversions;
+  RunSummary summary;
+  for (int r = 0; r < rounds; ++r) {
+    fs::remove_all(root / "copy");
+    copies.push_back(SecondsOf("cp -r '" + (root / "src").string() + "' '" +
+                               (root / "copy").string() + "' && sync"));
+    fs::remove_all(root / "out");
+    bench::BenchRun run;
+    Selection all;
+    all.All = true;
+    if (!run.Open(root, all)) return 1;
+    double seconds = 0;
+    summary = run.Run(&seconds);
+    conversions.push_back(seconds + SecondsOf("sync"));
+  }
+  const double copy = Median(copies);
+  const double seconds = Median(conversions);
   std::printf(
-      "%d forms of %d controls and %d modules (%ld lines): converted in %.2f s, copied in "
-      "%.2f s; the conversion takes %.1f times the copy; peak memory %ld KiB\n",
-      forms, controls, modules, lines, seconds, copy, seconds / copy, bench::PeakKiB());
+      "%d forms of %d controls and %d modules (%ld lines), median of %d rounds: converted in "
+      "%.2f s (%.2f to %.2f), copied in %.3f s (%.3f to %.3f); the conversion takes %.1f times "
+      "the copy; peak memory %ld KiB\n",
+      forms, controls, modules, lines, rounds, seconds,
+      *std::min_element(conversions.begin(), conversions.end()),
+      *std::max_element(conversions.begin(), conversions.end()), copy,
+      *std::min_element(copies.begin(), copies.end()),
+      *std::max_element(copies.begin(), copies.end()), seconds / copy, bench::PeakKiB());
   fs::remove_all(root);
   return summary.Forms == forms && summary.Modules == modules ? 0 : 1;
 }
