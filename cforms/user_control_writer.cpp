@@ -420,26 +420,29 @@ class UserControlWriter {
       AddLine(text, std::string("Locked =") + (k.Flag("Locked").value_or(false) ? "-1" : "0"));
       AddLine(text, "ScrollBars = ", ValueText(k, "ScrollBars"));
     }
+    // A transparent text box shows the detail's colour.
+    const SectionDesign* detail = f_.Section(0);
+    AddFieldControlTail(
+        text, k,
+        k.Number("BackStyle") == 0 && detail ? *detail : static_cast<const DesignObject&>(k));
+    return true;
+  }
+
+  // The lines a text box and a combo box end with: state, tab order, colours
+  // (the back colour `back`'s), font, tip and tag, visibility.
+  void AddFieldControlTail(std::string& text, const ControlDesign& k, const DesignObject& back) {
     AddEnabledLine(text, k);
     AddLine(text, "HelpContextID = ", ValueText(k, "HelpContextID"));
     AddTabStopLine(text, k);
     AddLine(text, "TabIndex =", ValueText(k, "TabIndex"));
-    // A transparent text box shows the detail's colour.
-    const SectionDesign* detail = f_.Section(0);
-    if (k.Number("BackStyle") == 0 && detail)
-      AddLine(text, "BackColor= &H", Hex(*detail, "BackColor"), "&");
-    else
-      AddLine(text, "BackColor= &H", Hex(k, "BackColor"), "&");
+    AddLine(text, "BackColor= &H", Hex(back, "BackColor"), "&");
     AddLine(text, "ForeColor= &H", Hex(k, "ForeColor"), "&");
     AddFontLines(text, k);
     AddTipTag(text, k);
     AddVisibleLine(text, k);
     AddLine(text, "End");
-    return true;
   }
 
-  // The change handler and the property of a bound control. The property
-  // has the field's name; where that is no identifier, the analysis says so.
   // A combo box of the repeated row shows and edits its field's value as
   // the text of a drop-down combo; its list, which each row would fill
   // again, is not filled, and a row says so.
@@ -451,16 +454,7 @@ class UserControlWriter {
     AddLine(text, "Left = ", ValueText(k, "Left"));
     AddLine(text, "Top = ", ValueText(k, "Top"));
     AddLine(text, "Width = ", ValueText(k, "Width"));
-    AddEnabledLine(text, k);
-    AddLine(text, "HelpContextID = ", ValueText(k, "HelpContextID"));
-    AddTabStopLine(text, k);
-    AddLine(text, "TabIndex =", ValueText(k, "TabIndex"));
-    AddLine(text, "BackColor= &H", Hex(k, "BackColor"), "&");
-    AddLine(text, "ForeColor= &H", Hex(k, "ForeColor"), "&");
-    AddFontLines(text, k);
-    AddTipTag(text, k);
-    AddVisibleLine(text, k);
-    AddLine(text, "End");
+    AddFieldControlTail(text, k, k);
     rows_.push_back(ReportRowHint{className_, kReasonReview, name, 0,
                                   "shows its field's value as text; its list is not filled in "
                                   "the repeated row",
@@ -468,6 +462,8 @@ class UserControlWriter {
     return true;
   }
 
+  // The change handler and the property of a bound control. The property
+  // has the field's name; where that is no identifier, the analysis says so.
   void AddProperty(const ControlDesign& k, std::vector<HintRecord>* records) {
     const std::string field = k.Text("ControlSource").value_or("");
     const std::string prop = RepeaterPropertyName(field);

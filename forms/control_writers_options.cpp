@@ -231,11 +231,11 @@ class GroupMembers {
     while (usedIndexes_.count(std::to_string(next))) ++next;
     const std::string given = std::to_string(next);
     usedIndexes_.insert(given);
-    AddHint(s_, ReportRowHint{t_.OwnerFormName, kReasonReview, k.Name() + " OptionValue=" + *value,
-                              0,
-                              "its option value is another button's: it is button " + given +
-                                  " of " + s_.Form().CurrentControlName,
-                              ""});
+    AddHint(s_,
+            ReportRowHint{t_.OwnerFormName, kReasonReview, k.Name() + " OptionValue=" + *value, 0,
+                          "its option value is another button's: it is button " + given + " of " +
+                              s_.Form().CurrentControlName,
+                          ""});
     return given;
   }
 

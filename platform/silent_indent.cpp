@@ -90,7 +90,7 @@ enum Block { kProcedure, kIf, kFor, kDo, kSelect, kWith, kWhile, kType };
 struct Classified {
   int closes = 0;  // blocks the statement ends before it is written
   bool closeProcedure = false;
-  bool middle = false;       // Else, ElseIf, Case: one level out for this line only
+  bool middle = false;  // Else, ElseIf, Case: one level out for this line only
   // The blocks it starts behind it.
   struct Opens {
     std::array<Block, 8> blocks;
@@ -108,8 +108,7 @@ Classified Classify(std::string_view code, Folded& folded) {
   // test is only made where that letter leads; the scope words all begin
   // with one of "pfsg".
   const char f = l.empty() ? '\0' : l[0];
-  const std::string_view u =
-      (f == 'p' || f == 'f' || f == 's' || f == 'g') ? WithoutScope(l) : l;
+  const std::string_view u = (f == 'p' || f == 'f' || f == 's' || f == 'g') ? WithoutScope(l) : l;
   const char g = u.empty() ? '\0' : u[0];
   if (f == 'e' && IsWord(l, "end")) {
     if (Starts(l, "end sub") || Starts(l, "end function") || Starts(l, "end property"))

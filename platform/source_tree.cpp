@@ -234,16 +234,18 @@ void DirectorySourceTree::ReadFile(const fs::path& file, const LayoutRule* force
   f.Kind = ClassifyExport(lines, ext);
   if (f.Kind == ExportKind::None) {
     if (IsUserForm(lines))
-      Warn(file, "a VBA user form (Microsoft Forms 2.0), which Visual Basic 6 cannot load; "
-                 "neither it nor its code is converted");
+      Warn(file,
+           "a VBA user form (Microsoft Forms 2.0), which Visual Basic 6 cannot load; "
+           "neither it nor its code is converted");
     else if (IsExportExtension(ext))
       Warn(file, "not an Access export; skipped");
     return;
   }
   if (text.Unmappable > 0)
-    warnings_.push_back(file.string() + ", line " + std::to_string(text.FirstUnmappableLine) +
-                        ": " + std::to_string(text.Unmappable) +
-                        " character(s) with no Windows-1252 form became their plain letter or \"?\"");
+    warnings_.push_back(
+        file.string() + ", line " + std::to_string(text.FirstUnmappableLine) + ": " +
+        std::to_string(text.Unmappable) +
+        " character(s) with no Windows-1252 form became their plain letter or \"?\"");
   if (forced && forced->KindFolders) {
     AccessObjectKind folderKind, contentKind;
     KindOfFolder(file.lexically_relative(root_).begin()->string(), &folderKind);

@@ -140,9 +140,7 @@ void AddDataFormat(std::string& t, const ControlDesign& c) {
 std::string ControlSourceOf(const ControlDesign& c) { return c.Text("ControlSource").value_or(""); }
 
 // A label's caption on one line, its double quotes doubled.
-std::string CaptionText(std::string_view caption) {
-  return EscapeQuotes(JoinLines(caption));
-}
+std::string CaptionText(std::string_view caption) { return EscapeQuotes(JoinLines(caption)); }
 
 // The lines of a label item with the caption `caption` (already on one
 // line, quotes doubled).

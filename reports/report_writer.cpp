@@ -68,8 +68,7 @@ void WriteHead(std::string& t, const FormDesign& report, const ConvertedReport& 
   AddLine(t, "VERSION 5.00");
   AddLine(t, "Begin {78E93846-85FD-11D0-8487-00A0C90DC8A9} " + out.Name);
   AddLine(t, "Bindings = \"" + out.File + ".dsx\":0000");
-  AddLine(t,
-          "Caption = " + Quoted(JoinLines(report.Text("Caption").value_or(""))));
+  AddLine(t, "Caption = " + Quoted(JoinLines(report.Text("Caption").value_or(""))));
   AddLine(t, "ClientHeight = 4290");
   AddLine(t, "ClientLeft = 1650");
   AddLine(t, "ClientTop = 1545");

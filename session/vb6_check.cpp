@@ -603,7 +603,7 @@ class Checker {
     std::string Index;
   };
   std::vector<Control> controls_;
-  MaskedLine masked_;  // the buffer each code line is masked into
+  MaskedLine masked_;                         // the buffer each code line is masked into
   std::vector<std::string_view> statements_;  // those of the logical line being read
 
   // --- Code ---------------------------------------------------------------

@@ -33,8 +33,7 @@ struct Needle {
   consteval Needle(std::string_view t)
       : text(t),
         first(t.size() >= 2 ? PairKey(FoldConst(t[0]), FoldConst(t[1])) : 0),
-        last(t.size() >= 2 ? PairKey(FoldConst(t[t.size() - 2]), FoldConst(t[t.size() - 1]))
-                           : 0) {}
+        last(t.size() >= 2 ? PairKey(FoldConst(t[t.size() - 2]), FoldConst(t[t.size() - 1])) : 0) {}
   std::string_view text;
   size_t first, last;
 };
@@ -73,11 +72,16 @@ constexpr Replacement kDatabaseNames[] = {
 // lines are joined; it loses db and keeps its Dim like the others, since
 // taking the bare declaration away would leave the rest with no Dim.
 constexpr Replacement kDatabaseVariable[] = {
-    {"dim db as database,", "dim "},     {"dim db as database ,", "dim "},
-    {"dim db as database", ""},          {", db as database", ""},
-    {"dim db as dao.database,", "dim "}, {"dim db as dao.database ,", "dim "},
-    {"dim db as dao.database", ""},      {", db as dao.database", ""},
-    {"dbengine(0)(0)", "db"},        {"DBEngine.Workspaces(0).Databases(0)", "db"},
+    {"dim db as database,", "dim "},
+    {"dim db as database ,", "dim "},
+    {"dim db as database", ""},
+    {", db as database", ""},
+    {"dim db as dao.database,", "dim "},
+    {"dim db as dao.database ,", "dim "},
+    {"dim db as dao.database", ""},
+    {", db as dao.database", ""},
+    {"dbengine(0)(0)", "db"},
+    {"DBEngine.Workspaces(0).Databases(0)", "db"},
 };
 
 // Properties and references; " Form," only where the line is no

@@ -40,9 +40,9 @@ constexpr std::string_view kEndFormCodeMark = "'MORVANE End Form Code for ";
 bool SetsTheCurrentDatabase(const std::string& line) {
   const std::string code = CodePart(line);
   const std::string value = TrimBlanks(std::string_view(code).substr(code.find('=') + 1));
-  for (std::string_view same : {"CurrentDb", "CurrentDb()", "DBEngine(0)(0)",
-                                "DBEngine(0).Databases(0)", "DBEngine.Workspaces(0).Databases(0)",
-                                "Workspaces(0).Databases(0)", "db"})
+  for (std::string_view same :
+       {"CurrentDb", "CurrentDb()", "DBEngine(0)(0)", "DBEngine(0).Databases(0)",
+        "DBEngine.Workspaces(0).Databases(0)", "Workspaces(0).Databases(0)", "db"})
     if (EqualsNoCase(value, same)) return true;
   return false;
 }

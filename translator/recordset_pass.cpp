@@ -259,7 +259,7 @@ void RecordsetPass(ConversionSession& s, TextDocument& text, const std::string& 
   std::vector<std::string> members{""}, locals{""}, groups{""};
   bool inDeclarations = true;
   std::string pendingOption;  // the option button whose block is open
-  bool edited = false;         // a line was changed, and may now hold a break
+  bool edited = false;        // a line was changed, and may now hold a break
   for (auto& line : lines) {
     ++number;
     if (line.empty() || line[0] == '\'') continue;

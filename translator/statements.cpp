@@ -190,8 +190,7 @@ void TranslateLogicalLine(ModuleTranslation& t, std::span<const std::string> lin
     statements = SplitStatements(joined);
   for (size_t k = 0; k < statements.size(); ++k) {
     const bool single = statements.size() == 1 && lines.size() > 1;
-    WriteStatement(t, statements[k], k == 0,
-                   single ? lines : std::span<const std::string>());
+    WriteStatement(t, statements[k], k == 0, single ? lines : std::span<const std::string>());
   }
   // The other lines of a continued statement count as lines of the module.
   const int more = static_cast<int>(lines.size()) - 1;

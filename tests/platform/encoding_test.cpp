@@ -69,8 +69,8 @@ TEST(EncodingTest, CharactersWithoutWindows1252FormBecomePlainLettersOrQuestionM
 
   // Accented Latin letters outside Windows-1252 keep their plain letter, so
   // that a Latvian or Vietnamese name stays a name; those inside keep theirs.
-  ASSERT_EQ(DecodeToWindows1252("Pils\xC4\x93ta_\xC5\xA1\xC4\xB7\xC5\x82 \xE1\xBB\x87 \xC5\x89", &out,
-                                &err),
+  ASSERT_EQ(DecodeToWindows1252("Pils\xC4\x93ta_\xC5\xA1\xC4\xB7\xC5\x82 \xE1\xBB\x87 \xC5\x89",
+                                &out, &err),
             DecodeStatus::Ok);
   EXPECT_EQ(out.Text, "Pilseta_\x9Akl e n");
   EXPECT_EQ(out.Unmappable, 5);

@@ -174,7 +174,9 @@ TEST(SourceTreeTest, FolderTreeWithCodeFilesSqlAndMetadata) {
   WriteFile(dir / "queries" / "qryBig.sql", "SELECT * FROM Orders\r\nWHERE Total > 100;\r\n");
   WriteFile(dir / "queries" / "qryAppend.sql", "INSERT INTO Archive SELECT * FROM Orders;\n");
   // Table definitions, twice (a nested copy of the export): no queries.
-  const std::string table = "\xEF\xBB\xBF" "CREATE TABLE [Orders] (\r\n  [ID] AUTOINCREMENT\r\n)\r\n";
+  const std::string table =
+      "\xEF\xBB\xBF"
+      "CREATE TABLE [Orders] (\r\n  [ID] AUTOINCREMENT\r\n)\r\n";
   WriteFile(dir / "tbldefs" / "Orders.sql", table);
   WriteFile(dir / "app.accdb.src" / "tbldefs" / "Orders.sql", table);
   WriteFile(dir / "dbs-properties.json",
@@ -190,7 +192,8 @@ TEST(SourceTreeTest, FolderTreeWithCodeFilesSqlAndMetadata) {
   ASSERT_TRUE(tree);
   EXPECT_EQ(tree->Layout(), "msaccess-vcs");
   ASSERT_EQ(tree->Warnings().size(), 2u);
-  EXPECT_NE(tree->Warnings()[0].find("1 table definition(s) (CREATE TABLE), not queries"), std::string::npos);
+  EXPECT_NE(tree->Warnings()[0].find("1 table definition(s) (CREATE TABLE), not queries"),
+            std::string::npos);
   EXPECT_FALSE(tree->Find(AccessObjectKind::Query, "Orders"));
   const SourceObject* form = tree->Find(AccessObjectKind::Form, "frmMain");
   ASSERT_TRUE(form);

@@ -100,11 +100,11 @@ TEST(ProcessHints, RecordsOfASubformOpenItOnce) {
 TEST(ProcessHints, FormFlagsCountsGridsAndAnalysisRows) {
   Fixture f;
   Recorder r;
-  f.Process(
-      {DatasheetGridHint{"sfrFirst", "", {}}, DatasheetGridHint{"sfrSecond", "", {}}, FormImageHint{"1", "True"},
-       ControlCountsHint{12, 3}, ReportRowHint{"Orders", 4, "ctlChart", 0, "", ""},
-       LabelCaptionHint{"lblNote", "Line one\" & vbCrLf & \"line two"}},
-      r);
+  f.Process({DatasheetGridHint{"sfrFirst", "", {}}, DatasheetGridHint{"sfrSecond", "", {}},
+             FormImageHint{"1", "True"}, ControlCountsHint{12, 3},
+             ReportRowHint{"Orders", 4, "ctlChart", 0, "", ""},
+             LabelCaptionHint{"lblNote", "Line one\" & vbCrLf & \"line two"}},
+            r);
   EXPECT_EQ(f.s.Form().DatasheetForms, (std::vector<std::string>{"sfrFirst", "sfrSecond"}));
   EXPECT_TRUE(f.s.Form().FormPictureStretched);
   EXPECT_TRUE(f.s.Form().FormPictureTiled);
