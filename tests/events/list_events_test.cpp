@@ -1,5 +1,8 @@
 // List box and combo box event code: where Click, AfterUpdate, BeforeUpdate,
-// DblClick and NotInList go for each kind of Visual Basic list.
+// DblClick and NotInList go for each kind of Visual Basic list. The cases the
+// list golden runs show (a Sheridan list's own AfterUpdate, AfterUpdate ahead
+// of an existing Click, a Sheridan combo's NotInList on leaving) are left to
+// them.
 #include "events/event_harness.h"
 
 namespace morvane::test {
@@ -23,13 +26,6 @@ const ListCase kListBoxCases[] = {
      {{"AfterUpdate", "=AU()"}},
      "",
      "\nPrivate Sub lst_Click()\nCall AU()\nEnd Sub\n"},
-    {"SheridanKeepsAfterUpdate",
-     2,
-     0,
-     "lst",
-     {{"AfterUpdate", "=AU()"}},
-     "",
-     "\nPrivate Sub lst_AfterUpdate(RtnDispErrMsg As Integer)\nCall AU()\nEnd Sub\n"},
     {"ListViewHasNoPlaceForAfterUpdate", 5, 0, "lst", {{"AfterUpdate", "=AU()"}}, "", ""},
     {"AfterUpdateAheadOfClick",
      1,
@@ -53,13 +49,6 @@ const ListCase kListBoxCases[] = {
      {{"OnClick", "=C()"}, {"AfterUpdate", "=AU()"}},
      "",
      "\nPrivate Sub lst_Click()\nCall AU()\nCall C()\nEnd Sub\n"},
-    {"AfterUpdateOpensTheExistingClick",
-     1,
-     0,
-     "lst",
-     {{"OnClick", "[Event Procedure]"}, {"AfterUpdate", "[Event Procedure]"}},
-     "Private Sub lst_Click()\nx = 1\nEnd Sub\n",
-     "Private Sub lst_Click()\nCall lst_AfterUpdate\nx = 1\nEnd Sub\n"},
     {"RenamedClickTakesAfterUpdate",
      1,
      0,
@@ -156,14 +145,6 @@ const ListCase kComboBoxCases[] = {
      "Private Sub cbo_KeyDown(KeyCode As Integer, Shift As Integer)\nEnd Sub\n",
      "Private Sub cbo_DblClick(Cancel As MSForms.ReturnBoolean)\nEnd Sub\n"
      "Private Sub cbo_KeyDown(KeyCode As MSForms.ReturnInteger, Shift As Integer)\nEnd Sub\n"},
-    {"SheridanComboAsksOnLeavingWhetherItsTextIsInTheList",
-     2,
-     2,
-     "cbo",
-     {{"OnNotInList", "[Event Procedure]"}},
-     "",
-     "\nPrivate Sub cbo_LostFocus()\nIf Not cbo.IsItemInList Then\n"
-     "Call cbo_NotInList(cbo.Text, 0)\nEnd If\nEnd Sub\n"},
     {"OtherCombosDropNotInList", 4, 3, "cbo", {{"OnNotInList", "[Event Procedure]"}}, "", ""},
     {"NotInListStandsAboveTheExitLines",
      3,
