@@ -1,6 +1,8 @@
 // The rule families of the module translator, one table per family: each case
 // runs TranslateCode on a small module and checks the lines written, the
-// tblReportOutput row and the counts of tblStats.
+// tblReportOutput row and the counts of tblStats. The golden docmd_rules run
+// shows the common form of each DoCmd and Application rule, with its row,
+// line numbers and counts; these are the variants it does not.
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -73,18 +75,10 @@ void Check(const LineCase& c, const SessionSetup& setup = {}) {
 
 TEST(DoCmdRules, MethodsWithAFixedTranslation) {
   const LineCase cases[] = {
-      Plain("DoCmd.Hourglass True", "Screen.MousePointer = vbHourglass"),
       Plain("docmd.hourglass FALSE", "Screen.MousePointer = vbDefault"),
-      Kept("DoCmd.CancelEvent", "Cancel = True", 5),
-      Plain("DoCmd.Beep", "Beep"),
-      Marked("DoCmd.Beep ' again", 2),  // a trailing comment fails the whole-line test
       Plain("DoCmd.Maximize", "Screen.ActiveForm.Windowstate = 2"),
       Plain("DoCmd.Minimize", "Screen.ActiveForm.Windowstate = 1"),
       Plain("DoCmd.Quit", "End"),
-      Kept("DoCmd.Restore", "Screen.ActiveForm.Windowstate = 0", 7, "Me.Windowstate = 0"),
-      Kept("DoCmd.RunSQL \"DELETE * FROM tmp\"", "DB.Execute \"DELETE * FROM tmp\"", 7),
-      Kept("DoCmd.GoToControl \"txtName\"", "Screen.ActiveForm.Controls( \"txtName\").SetFocus", 7,
-           "Controls( \"txtName\").SetFocus"),
       Kept("DoCmd.PrintOut acPages, 1, 2", "Screen.ActiveForm.PrintForm", 7),
       // ".Repaint" becomes ".Refresh" in the kept old text too: the global
       // substitutions run over the whole line.
@@ -94,16 +88,7 @@ TEST(DoCmdRules, MethodsWithAFixedTranslation) {
        "Screen.ActiveForm.Refresh",
        0,
        1},
-      {"DoCmd.MoveSize 100, 200",
-       {"'me.move new left,new top,width,height 'MORVANE 'MORVANE DoCmd.MoveSize 100, 200"},
-       6,
-       "",
-       1,
-       0},
       Marked("DoCmd.OpenReport \"rptSales\"", 2),
-      Marked("DoCmd.SetWarnings False", 2),
-      // Not a DoCmd line: it does not begin with "DoCmd.".
-      Plain("x = \"DoCmd.Beep\"", "x = \"DoCmd.Beep\""),
       Plain("    DoCmd.Beep", "Beep"),        // leading blanks go before any rule
       Plain("\tDoCmd.Beep", "\tDoCmd.Beep"),  // a leading tab stays, and hides the method
   };
@@ -112,7 +97,6 @@ TEST(DoCmdRules, MethodsWithAFixedTranslation) {
 
 TEST(DoCmdRules, RequeryTakesTheControlName) {
   const LineCase cases[] = {
-      Kept("DoCmd.Requery \"lstCustomers\"", "lstCustomers.requery", 7),
       // Without quotes the name is taken from position 14, with its blank.
       Kept("DoCmd.Requery lstCustomers", " lstCustomers.requery", 7),
       // Without a name the requery has no counterpart: ".requery" alone
@@ -125,31 +109,20 @@ TEST(DoCmdRules, RequeryTakesTheControlName) {
 
 TEST(DoCmdRules, CloseUnloadsFormsOnly) {
   const LineCase cases[] = {
-      Kept("DoCmd.Close acForm, \"Orders\"", "Unload Orders", 7),
       Kept("DoCmd.Close acForm, \"Customers\", acSaveNo", "Unload GetFormFromName(\"Customers\")",
            7),
       Kept("DoCmd.Close 2, strForm", "Unload GetFormFromName(strForm)", 7),
       Kept("DoCmd.Close A_FORM, [Order Details]", "Unload Order_Details", 7),
-      Plain("DoCmd.Close", "Unload Screen.ActiveForm"),
       Plain("DoCmd.Close , , acSaveNo", "Unload Screen.ActiveForm"),
-      Marked("DoCmd.Close acReport, \"rptSales\"", 6),
   };
   for (const auto& c : cases) Check(c);
 }
 
 TEST(DoCmdRules, OpenFormShowsTheFormAndPassesItsArguments) {
-  const std::string dialog = "DoCmd.OpenForm \"Orders\", , , , , acDialog, \"x\"";
   const std::string named =
       "DoCmd.OpenForm FormName:=\"Customers\", WindowMode:=3, OpenArgs:=\"42\"";
   const std::string customers = "GetFormFromName(\"Customers\")";
   const LineCase cases[] = {
-      Kept("DoCmd.OpenForm \"Orders\"", "Orders.Show", 7),
-      {dialog,
-       {"Load Orders", "Orders.Openargs = \"x\"", K("Orders.Show vbModal ", dialog)},
-       7,
-       "Orders.Show vbModal ",
-       0,
-       1},
       Kept("DoCmd.OpenForm \"Orders\", acNormal, , , , A_DIALOG", "Orders.Show vbModal ", 7),
       {named,
        {"Load " + customers, customers + ".Openargs = \"42\"",
@@ -164,16 +137,6 @@ TEST(DoCmdRules, OpenFormShowsTheFormAndPassesItsArguments) {
   for (const auto& c : cases) Check(c);
 }
 
-TEST(DoCmdRules, OpenFormArgumentLinesCountAsCodeLines) {
-  Translation t;
-  t.Run({"DoCmd.OpenForm \"Orders\", , , , , , \"x\"", "DoCmd.Beep 1"});
-  auto rows = t.Rows();
-  ASSERT_EQ(rows.size(), 2u);
-  EXPECT_EQ(rows[0].LineNumber, -1) << "the row is written before the lines ahead";
-  EXPECT_EQ(rows[1].LineNumber, 2);
-  EXPECT_EQ(t.Stats().TotalLines, 4);
-}
-
 TEST(DoCmdRules, OpenQueryRunsActionQueriesOnly) {
   MemoryCatalog catalog;
   catalog.Queries = {{"qrySelect", "SELECT * FROM t", kDbQSelect},
@@ -182,8 +145,6 @@ TEST(DoCmdRules, OpenQueryRunsActionQueriesOnly) {
                      {"qryCross", "TRANSFORM ...", kDbQCrosstab}};
   const SessionSetup withCatalog = [&](ConversionSession& s) { s.SourceDb = &catalog; };
   const LineCase cases[] = {
-      Marked("DoCmd.OpenQuery \"qrySelect\"", 6),
-      Kept("DoCmd.OpenQuery \"qryAppend\"", "db.Execute \"qryAppend\"", 7),
       Kept("DoCmd.OpenQuery \"QRYAPPEND\", acViewNormal, acEdit", "db.Execute \"QRYAPPEND\"", 7),
       Kept("DoCmd.OpenQuery QueryName:=\"qryPass\"", "db.Execute \"qryPass\"", 7),
       Marked("DoCmd.OpenQuery \"qryCross\"", 6),
@@ -203,13 +164,10 @@ TEST(DoCmdRules, OpenQueryRunsActionQueriesOnly) {
 TEST(DoCmdRules, RunMacroBecomesACallInALoopForItsRepeatArguments) {
   const std::string dim = "Dim iRunMacroCount as Integer";
   const LineCase cases[] = {
-      Plain("DoCmd.RunMacro \"M1\"", "Call M1"),
       Plain("DoCmd.RunMacro \"Macro 1\", , \"\"", "Call Macro_1"),
       // The macro's procedure begins with a letter, as the macro converter
       // names it; the row says the plain rule was left.
       {"DoCmd.RunMacro \"002_Import\"", {"Call Proc002_Import"}, 16, "Call Proc002_Import", 0, 0},
-      Loop("DoCmd.RunMacro \"M1\", 3", {dim, "For iRunMacroCount = 1 to  3", "Call M1"}, "Next",
-           "For..Next Loop"),
       Loop("DoCmd.RunMacro \"M1\", , \"x > 1\"", {"Do Until x > 1", "Call M1"}, "Loop", "Do..Loop"),
       Loop("DoCmd.RunMacro \"M1\", \"\", \"Done\"", {"Do Until Done", "Call M1"}, "Loop",
            "Do..Loop"),
@@ -231,7 +189,6 @@ TEST(DoCmdRules, RunMacroLoopLinesAreNotCounted) {
 
 TEST(DoCmdRules, GoToPageSelectsATabOfTheFormsTabControl) {
   const LineCase cases[] = {
-      Plain("DoCmd.GoToPage 2", "Screen.ActiveForm.SSTab1.Tab =  2 - 1"),
       Kept("DoCmd.GoToPage 2, 100, 200", "Screen.ActiveForm.SSTab1.Tab =  2 - 1", 7, "", false),
       Marked("DoCmd.GoToPage, 100", 2),
   };
@@ -240,11 +197,8 @@ TEST(DoCmdRules, GoToPageSelectsATabOfTheFormsTabControl) {
 
 TEST(ApplicationRules, WindowHandleQuitAndTheRest) {
   const LineCase cases[] = {
-      Plain("Application.Quit", "End"),
       Plain("application.quit", "End"),
       Marked("Application.Quit acQuitSaveAll", 2),
-      Marked("Application.Quit ' bye", 2),
-      Plain("h = Application.hWndAccessApp", "h = App.hInstance"),
       Plain("x = Application.hWndAccessApp + Application.hWndAccessApp",
             "x = App.hInstance + App.hInstance"),
       Marked("Application.Echo False", 2),
