@@ -1,6 +1,7 @@
 // The module translator's main loop: the designer gate, the counters of
-// tblStats, form code marks, and the worked example of a
-// form's open event.
+// tblStats, form code marks, and a form that closes itself. A form's open
+// event (header, Cancel, the OpenForm row with its routine and line) is
+// shown whole by the golden docmd_rules and forms runs.
 #include "translator/module_translator.h"
 
 #include <gtest/gtest.h>
@@ -172,42 +173,6 @@ TEST(FormCodeMarks, NameTheDataControlOfTheCodeBetweenThem) {
                                                    "Me.datMain.Refresh",
                                                }));
   EXPECT_EQ(t.Stats().CommentLines, 2) << "the marks are comments too";
-}
-
-TEST(WorkedExample, AFormsOpenEvent) {
-  // Form "Main" with "Orders" selected and no field named "Total".
-  Translation t;
-  auto input = FormDesigner("Main");
-  input.insert(input.end(), {
-                                "Private Sub Form_Open(Cancel As Integer)",
-                                "    DoCmd.OpenForm \"Orders\"",
-                                "    If Me!Total > 0 Then Cancel = True",
-                                "End Sub",
-                            });
-  auto out = t.Run(input, kModeForm, "Main");
-  ASSERT_EQ(out.size(), 9u);
-  EXPECT_EQ(Lines(out.begin() + 5, out.end()),
-            (Lines{
-                "Private Function Form_Open() as Integer",
-                "Orders.Show\t'MORVANE DoCmd.OpenForm \"Orders\"",
-                // No field "Total" in tblFields: the Me rules leave a control
-                // reference as it is, with "." for "!".
-                "If Me.Total > 0 Then Form_Open = True",
-                "End Function",
-            }));
-  auto rows = t.Rows();
-  ASSERT_EQ(rows.size(), 1u);
-  EXPECT_EQ(rows[0].ModuleName, "Main");
-  EXPECT_EQ(rows[0].ReasonID, 7);
-  EXPECT_EQ(rows[0].CodeLine, "DoCmd.OpenForm \"Orders\"");
-  EXPECT_EQ(rows[0].LineNumber, 2);
-  EXPECT_EQ(rows[0].TranslatedLine, "Orders.Show");
-  EXPECT_EQ(rows[0].Routine, "Private Sub Form_Open(");
-  StatsRow stats = t.Stats();
-  EXPECT_EQ(stats.TotalLines, 9);
-  EXPECT_EQ(stats.SubCount, 1);
-  EXPECT_EQ(stats.LinesPotentiallyConverted, 1);
-  EXPECT_EQ(stats.CodeLines, 4);
 }
 
 TEST(WorkedExample, CloseOfTheFormItself) {
