@@ -1,6 +1,9 @@
 // The later stages of the translator's pipeline, each through TranslateCode:
 // unsupported features, Me rules, global substitutions, form procedure
-// injection, and the recordset and option group pass.
+// injection, and the recordset and option group pass. The golden global_rules
+// run shows the common case of each unsupported feature and substitution (the
+// database variable, Forms(...), Val(x.Text()), TimerInterval, marked
+// AllowEdits, OnClick, Me.Form and Reports! lines); these are the variants.
 #include <gtest/gtest.h>
 
 #include "session/vb6_check.h"
@@ -45,15 +48,9 @@ std::vector<std::string> RunForm(Translation& t, const std::vector<std::string>&
 
 TEST(UnsupportedFeatures, FirstEntryThatFitsMarksTheLine) {
   const Case cases[] = {
-      {"Me.AllowEdits = False", "'MORVANE Me.AllowEdits = False", 1},
       {"Me.allowedits = False", "Me.allowedits = False", 0},  // exact entries count case
-      // The global substitutions run over a marked line too: "()" goes.
-      {"x.OnClick = \"=f()\"", "'MORVANE x.OnClick = \"=f\"", 12},
-      {"x.onclick = 1", "x.onclick = 1", 0},
       {"DoIt.runcommand 5", "'MORVANE DoIt.runcommand 5", 1},
       {"n = acLBGetRowCount", "'MORVANE n = acLBGetRowCount", 8},
-      {"x = Reports!rptA.Caption", "'MORVANE x = Reports!rptA.Caption", 9},
-      {"Set f = Me.Form", "'MORVANE Set f = Me.Form", 1},
       {"Dim f As vb.Form", "Dim f As vb.Form", 0},
       {"Attribute VB_Name = \"basTest\"", "Attribute VB_Name = \"basTest\"", 0},
       // A feature's text in a string literal is no use of it: the line stays,
@@ -104,20 +101,11 @@ TEST(MeRules, FormPropertiesAskForTheirPropertyCode) {
 
 TEST(GlobalSubstitutions, DatabaseNamesFormsAndRuntimeRequests) {
   const Case cases[] = {
-      {"Set rs = CurrentDb().OpenRecordset(\"x\", DB_OPEN_DYNASET)",
-       "Set rs = db.OpenRecordset(\"x\", DBOPENDYNASET)", 0},
-      {"Dim db As Database, rs As Recordset", "dim  rs As Recordset", 0},
       {"Dim db As Database", "", 0},
-      {"x = Forms(\"Orders\")!Total", "x = Orders!Total", 0},
-      {"x = Forms(\"Customers\")!Total", "x = GetFormFromName(\"Customers\")!Total", 0},
       {"x = Forms(strName)!Total", "x = GetFormFromName(strName)!Total", 0},
-      {"Forms.Orders.Caption = \"x\"", "Orders.Caption = \"x\"", 0},
-      {"x = MyForms!Total", "x = MyForms!Total", 0},
       {"x = Forms![Order Details]!Total", "x = [Order Details]!Total", 0},
       {"Forms![Customers]!Total = 1", "GetFormFromName(\"Customers\")!Total = 1", 0},
-      {"y = Val(Text1.Text())", "y = Val(Text1.Text)", 0},
       {"Dim a() As Integer", "Dim a() As Integer", 0},
-      {"Me.TimerInterval = 0", "Me.Timer1.Interval = 0", 0},
       {"Quit", "End", 0},
       {"x = Me.ctlCal.Object.Value", "x = Me.ctlCal.Value", 0},
       {"Me.Repaint", "Me.Refresh", 0},
