@@ -87,17 +87,10 @@ struct IndentCase {
   const char* expected;
 };
 
+// The golden basBlocks shows the common blocks (If, ElseIf, Else, For, Do,
+// While, With, Select Case) laid out; these are the harder cases.
 TEST(SilentIndent, LaysOutCodeAsTheEditorDoes) {
   const IndentCase cases[] = {
-      {"blocks",
-       "Attribute VB_Name = \"m\"\nOption Explicit\nPublic Sub A(ByVal n As Integer)\n"
-       "Dim i As Integer\nFor i = 1 To n\nIf i > 2 Then\nDebug.Print i\nElseIf i = 1 Then\n"
-       "Beep\nElse\nDo While n > 0\nn = n - 1\nLoop\nEnd If\nNext i\nEnd Sub\n",
-       "Attribute VB_Name = \"m\"\nOption Explicit\nPublic Sub A(ByVal n As Integer)\n"
-       "    Dim i As Integer\n    For i = 1 To n\n        If i > 2 Then\n"
-       "            Debug.Print i\n        ElseIf i = 1 Then\n            Beep\n        Else\n"
-       "            Do While n > 0\n                n = n - 1\n            Loop\n        End If\n"
-       "    Next i\nEnd Sub\n"},
       {"single-line if, labels, continuation, comments",
        "Sub B()\nOn Error GoTo B_Err\nIf x Then y = 1 Else y = 2\nIf a And _\nb Then ' both\n"
        "s = \"If x Then\"\nEnd If\n' done\nB_Err:\n10 Beep\nEnd Sub\n",
