@@ -15,6 +15,8 @@ struct ExpressionCase {
   bool context;
 };
 
+// The golden mcrRows shows a bracketed name that is no Visual Basic name,
+// comparisons joined by And and Or, and a function call with its arguments.
 TEST(MacroExpression, RewritesFormReferencesAndHandsTheRestToEval) {
   const ExpressionCase cases[] = {
       {"[Total]>5", ".Total > 5 ", true},
@@ -30,14 +32,10 @@ TEST(MacroExpression, RewritesFormReferencesAndHandsTheRestToEval) {
       {"\"Yes\"", "\"Yes\" ", false},
       {"   ", "", false},
       {"", "", false},
-      // A name that is no Visual Basic name keeps its brackets.
-      {"[Order ID]", ".[Order ID] ", true},
-      {"[a]<>1 And [b]>=2", ".a <> 1 And .b >= 2 ", true},
       {"[sub]![x]", ".sub!x ", true},
       {"[Screen].[ActiveForm]", "Screen.ActiveForm ", false},
       {"\"a\"\"b\"", "\"a\"\" b\" ", false},
       {"[x]\t=\r\n1", ".x = 1 ", true},
-      {"MyFunc([x],2)", "MyFunc ( .x , 2 ) ", true},
   };
   for (const auto& c : cases) {
     std::string text = c.in;
