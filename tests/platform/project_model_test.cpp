@@ -15,8 +15,9 @@ using test::TempDir;
 using test::WriteFile;
 
 TEST(ProjectModel, TellsAClassFromItsTextAndNamesAnyReference) {
-  // Modules, forms, designers and the known references are in the golden
-  // project files.
+  // Modules, forms, designers, the known references and each form's control
+  // libraries, named once whether written "Object =" or "Object=", are in the
+  // golden project files.
   TempDir dir;
   WriteFile(dir / "clsB.bas", Crlf("VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1  'True\nEND\n"
                                    "Attribute VB_Name = \"clsB\"\n"));
@@ -118,37 +119,6 @@ TEST(CodeModule, AClassHeaderClosedByEndInEitherCase) {
     EXPECT_EQ(code.CountOfLines(), 1) << end;
     EXPECT_EQ(code.Lines(1, 1), "Option Explicit") << end;
   }
-}
-
-}  // namespace
-}  // namespace morvane
-
-namespace morvane {
-namespace {
-
-TEST(ProjectModel, NamesEachControlLibraryOfItsFormsOnce) {
-  test::TempDir dir;
-  const std::string object =
-      "Object = \"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0\"; \"MSCOMCTL.OCX\"\n";
-  test::WriteFile(dir / "a.frm", test::Crlf("VERSION 5.00\n" + object +
-                                            "Begin VB.Form a\nEnd\nAttribute VB_Name = \"a\"\n"));
-  // The form writer leaves out the blanks around "=".
-  const std::string packed =
-      "Object=\"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0\"; \"MSCOMCTL.OCX\"\n"
-      "Object=\"{67397AA1-7FB1-11D0-B148-00A0C922E820}#6.0#0\"; \"MSADODC.OCX\"\n";
-  test::WriteFile(dir / "b.frm", test::Crlf("VERSION 5.00\n" + packed +
-                                            "Begin VB.Form b\nEnd\nAttribute VB_Name = \"b\"\n"));
-  ProjectModel p;
-  p.AddFile(dir / "a.frm");
-  p.AddFile(dir / "b.frm");
-  const std::string vbp = p.VbpText(dir.path());
-  const std::string line = "Object={831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0; MSCOMCTL.OCX\r\n";
-  ASSERT_NE(vbp.find(line), std::string::npos) << vbp;
-  EXPECT_EQ(vbp.find(line), vbp.rfind(line));
-  EXPECT_LT(vbp.find(line), vbp.find("Form=a.frm"));
-  EXPECT_NE(vbp.find("Object={67397AA1-7FB1-11D0-B148-00A0C922E820}#6.0#0; MSADODC.OCX\r\n"),
-            std::string::npos)
-      << vbp;
 }
 
 }  // namespace
