@@ -278,29 +278,11 @@ TEST(ReportDesign, SectionsGroupLevelsAndControls) {
   EXPECT_EQ(r->Bytes("PrtMip")->size(), 20u);
   EXPECT_EQ(r->Text("DefaultView"), std::nullopt);
 
-  struct SectionRow {
-    const char* name;
-    int index;
-    long height;
-  };
-  const SectionRow sections[] = {
-      {"ReportHeader", 1, 600},
-      {"PageHeaderSection", 3, 400},
-      {"GroupHeader0", 5, 300},
-      {"GroupHeader1", 7, 250},
-      {"Detail", 0, 300},
-      {"GroupFooter0", 6, 300},
-      {"PageFooterSection", 4, 300},
-      {"ReportFooter", 2, 200},
-  };
-  ASSERT_EQ(r->Sections().size(), std::size(sections));
-  for (size_t i = 0; i < std::size(sections); ++i) {
-    const SectionDesign& s = r->Sections()[i];
-    EXPECT_EQ(s.Name(), sections[i].name);
-    EXPECT_EQ(s.Index(), sections[i].index) << sections[i].name;
-    EXPECT_EQ(r->Section(sections[i].index), &s);
-    EXPECT_EQ(s.Number("Height"), sections[i].height) << sections[i].name;
-  }
+  // The sections in text order with their heights, and the controls of each
+  // section, come out whole in the golden report designers
+  // (rptSalesByDate, rptCustomerList); these are the reads they do not show.
+  ASSERT_EQ(r->Sections().size(), 8u);
+  ASSERT_TRUE(r->Section(0) && r->Section(5) && r->Section(7));
   EXPECT_EQ(r->Section(5)->Flag("KeepTogether"), true);
   EXPECT_EQ(r->Section(7)->Flag("KeepTogether"), false);
   EXPECT_EQ(r->Section(5)->Text("OnFormat"), "[Event Procedure]");
@@ -330,19 +312,6 @@ TEST(ReportDesign, SectionsGroupLevelsAndControls) {
   }
   EXPECT_EQ(r->GroupLevel(2), nullptr);
 
-  struct ControlRow {
-    const char* name;
-    int section;
-  };
-  const ControlRow controls[] = {
-      {"lblTitle", 1}, {"Region", 5}, {"Amount", 0}, {"subDetail", 0}, {"RegionTotal", 6},
-  };
-  ASSERT_EQ(r->Controls().size(), std::size(controls));
-  for (size_t i = 0; i < std::size(controls); ++i) {
-    EXPECT_EQ(r->Controls()[i].Name(), controls[i].name);
-    EXPECT_EQ(r->Controls()[i].Section(), controls[i].section) << controls[i].name;
-    EXPECT_EQ(&r->Controls()[i].Parent(), r.get());
-  }
   EXPECT_EQ(r->Control("lblTitle")->Number("BackStyle"), 0);
   EXPECT_EQ(r->Code().back(), "Option Compare Database");
 }
