@@ -1,6 +1,7 @@
 // The design records read from hand-written exports: control types, the
 // reading rule (text, the form's default block, Access's default, missing),
-// nesting as Parent, sections, pages, pictures, reports and later formats.
+// nesting as Parent, sections, pictures, reports and later formats. A tab
+// control's pages and the controls on each are shown by the tabs golden run.
 #include "design/form_design.h"
 
 #include <gtest/gtest.h>
@@ -217,23 +218,6 @@ TEST_F(CustomersForm, OptionGroupMembersHaveOptionValueInsteadOfControlSource) {
   EXPECT_EQ(C("grpKind").Text("ControlSource"), "Kind");
   // Members still take their type's defaults from the form's default block.
   EXPECT_EQ(C("chkB").Number("SpecialEffect"), 2);
-}
-
-TEST_F(CustomersForm, TabPagesAndTheirControls) {
-  const ControlDesign& tab = C("tabMain");
-  auto pages = tab.Pages();
-  ASSERT_EQ(pages.size(), 2u);
-  EXPECT_EQ(pages[0]->Name(), "pgOne");
-  EXPECT_EQ(pages[1]->Text("Caption"), "Two");
-  std::vector<std::string> onOne, onTwo;
-  for (const auto& c : pages[0]->Controls()) onOne.push_back(c.Name());
-  for (const auto& c : pages[1]->Controls()) onTwo.push_back(c.Name());
-  EXPECT_EQ(onOne, (std::vector<std::string>{"txtOnPage", "lblOnPage"}));
-  EXPECT_EQ(onTwo, (std::vector<std::string>{"grpOnPage", "optOnPage"}));
-  EXPECT_EQ(tab.Controls().size(), 6u);
-  EXPECT_TRUE(C("First Name").Pages().empty());
-  ASSERT_EQ(C("First Name").Controls().size(), 1u);
-  EXPECT_EQ(C("First Name").Controls()[0].Name(), "lblFirst");
 }
 
 TEST_F(CustomersForm, EventsAndEmbeddedMacros) {
