@@ -1,7 +1,9 @@
 // The rules of report text boxes whose source is an expression, the
 // parameters of a record source, the sharing of commands in the data
 // environment, and the designer checker on a broken designer. Whole reports
-// are in the golden case "reports".
+// are in the golden case "reports", which shows page numbers, a long date, a
+// short time, a date inside a text, Sum and Count over a field and over *, a
+// constant text and an IIf the database computes; these are the rest.
 #include <gtest/gtest.h>
 
 #include "reports/data_environment.h"
@@ -22,17 +24,13 @@ struct CaptionRow {
 TEST(ReportExpressions, PageAndDateFieldsBecomeTheReportsCodes) {
   const CaptionRow rows[] = {
       {"=[Page]", "", "%p", true},
-      {"=\"Page \" & [Page] & \" of \" & [Pages]", "", "Page %p of %P", true},
       {"=Date()", "Short Date", "%d", true},
-      {"=Date()", "Long Date", "%D", true},
       {"=Date()", "", "%D", true},
-      {"=Time()", "Short Time", "%t", true},
       {"=Time()", "", "%T", true},
       {"=Now()", "Short Date", "%d %T", true},
       {"=Format(Date(),\"Long Date\")", "", "%D", true},
       {"=Format(Time(),\"Short Time\")", "", "%t", true},
       // Inside a text a date shows in its short form, a time in its long.
-      {"=\"Printed \" & Date()", "", "Printed %d", true},
       {"=[Page] & \"/\" & [Pages]", "", "%p/%P", true},
       // What no code stands for stays as text, and is said so.
       {"=\"By \" & CurrentUser() & \" on \" & Now()", "", "By CurrentUser() on %d %T", false},
@@ -58,13 +56,10 @@ struct AggregateRow {
 
 TEST(ReportExpressions, AggregatesBecomeFunctionItemsOverOneField) {
   const AggregateRow rows[] = {
-      {"=Sum([Amount])", 0, "Amount", true},
       {"=Avg([Order Total])", 1, "Order Total", true},
       {"=Min( [Price] )", 2, "Price", true},
       {"=Max(Price)", 3, "Price", true},
-      {"=Count([OrderID])", 4, "OrderID", true},
       {"=StDev([Amount])", 6, "Amount", true},
-      {"=Count(*)", 4, "", false},
       {"=Sum([Qty]*[Price])", 0, "Qty", false},
       {"=Sum([Amount])/Count([OrderID])", 0, "Amount", false},
       {"=Left([Name],1)", -1, "", false},
@@ -86,7 +81,6 @@ TEST(ReportExpressions, AggregatesBecomeFunctionItemsOverOneField) {
 }
 
 TEST(ReportExpressions, ConstantsAndPlainVisualBasic) {
-  EXPECT_EQ(ConstantText("=\"***\""), "***");
   EXPECT_EQ(ConstantText("=\"Say \"\"hi\"\"\" & \" now\""), "Say \"hi\" now");
   EXPECT_EQ(ConstantText("=1"), "1");
   EXPECT_FALSE(ConstantText("=\"a\" & [b]"));
@@ -103,8 +97,6 @@ TEST(ReportExpressions, ConstantsAndPlainVisualBasic) {
   // The database computes an expression over the source's own fields.
   const std::vector<std::string> fields = {"Qty", "Unit Price", "Name"};
   EXPECT_EQ(JetColumnExpression("=[Qty]*[Unit Price]", fields), "[Qty]*[Unit Price]");
-  EXPECT_EQ(JetColumnExpression("=IIf(IsNull(Name),'-',UCase(Name))", fields),
-            "IIf(IsNull(Name),'-',UCase(Name))");
   EXPECT_FALSE(JetColumnExpression("=[txtTotal]*1.2", fields));        // a control
   EXPECT_FALSE(JetColumnExpression("=[Forms]![frmA]![Qty]", fields));  // a form
   EXPECT_FALSE(JetColumnExpression("=Nz([Qty],0)", fields));           // Access's own
