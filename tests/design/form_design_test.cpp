@@ -1,7 +1,9 @@
 // The design records read from hand-written exports: control types, the
 // reading rule (text, the form's default block, Access's default, missing),
 // nesting as Parent, sections, pictures, reports and later formats. A tab
-// control's pages and the controls on each are shown by the tabs golden run.
+// control's pages and the controls on each are shown by the tabs golden run, a
+// control's event settings and its embedded macro, by name and text, by the
+// forms golden run (frmEvents).
 #include "design/form_design.h"
 
 #include <gtest/gtest.h>
@@ -218,24 +220,6 @@ TEST_F(CustomersForm, OptionGroupMembersHaveOptionValueInsteadOfControlSource) {
   EXPECT_EQ(C("grpKind").Text("ControlSource"), "Kind");
   // Members still take their type's defaults from the form's default block.
   EXPECT_EQ(C("chkB").Number("SpecialEffect"), 2);
-}
-
-TEST_F(CustomersForm, EventsAndEmbeddedMacros) {
-  EXPECT_EQ(C("First Name").Text("OnClick"), "[Event Procedure]");
-  EXPECT_EQ(C("First Name").Text("OnDblClick"), "");
-  EXPECT_EQ(C("lnSep").Text("OnClick"), std::nullopt);
-  // The button's click is its embedded macro, by a name the form lists.
-  EXPECT_EQ(C("cmdOK").Text("OnClick"), "frmCustomers.cmdOK.OnClick");
-  auto text = C("cmdOK").EmbeddedMacro("OnClick");
-  ASSERT_TRUE(text);
-  EXPECT_EQ(*text,
-            "Version =196611\r\nColumnsShown =8\r\nBegin\r\nAction =\"Close\"\r\n"
-            "Argument =\"-1\"\r\nEnd");
-  auto macros = form_->EmbeddedMacros();
-  ASSERT_EQ(macros.size(), 1u);
-  EXPECT_EQ(macros[0].Name, "frmCustomers.cmdOK.OnClick");
-  EXPECT_EQ(macros[0].Text, *text);
-  EXPECT_EQ(C("First Name").EmbeddedMacro("OnClick"), std::nullopt);
 }
 
 TEST_F(CustomersForm, EventProcPrefix) {
