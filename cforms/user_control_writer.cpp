@@ -13,6 +13,7 @@
 #include "forms/frm_text.h"
 #include "forms/picture_extraction.h"
 #include "forms/subform_writers.h"
+#include "session/analysis_reasons.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
 
@@ -23,8 +24,6 @@ namespace {
 constexpr const char* kDatePickerObject =
     "Object=\"{86CF1D34-0C5F-11D2-A9FC-0000F8754DA1}#2.0#0\"; \"MSCOMCT2.OCX\"";
 // A property whose name differs from its field.
-constexpr long kPropertyRenamed = 13;
-constexpr long kReasonReview = 7;
 constexpr int kAlignmentMap[] = {3, 0, 2, 1};
 
 // The date formats a date picker shows, and its Format value for each.
@@ -469,7 +468,7 @@ class UserControlWriter {
     const std::string prop = RepeaterPropertyName(field);
     if (!properties_.insert(ToLower(prop)).second) return;  // a second control of the field
     if (prop != field)
-      records->push_back(ReportRowHint{className_, kPropertyRenamed, name_, 0, "", ""});
+      records->push_back(ReportRowHint{className_, kReasonPropertyRenamed, name_, 0, "", ""});
     const std::string comment = "    'PropertyChanged \"" + prop + "\"";
     const bool check = k.ControlType() == kCheckBox;
     std::vector<std::string> lines = {"Private Sub " + name_ + (check ? "_Click()" : "_Change()"),

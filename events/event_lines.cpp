@@ -7,6 +7,7 @@
 #include "macros/macro_converter.h"
 #include "platform/line_editor.h"
 #include "platform/text_file.h"
+#include "session/analysis_reasons.h"
 #include "session/conversion_session.h"
 #include "translator/analysis_writers.h"
 
@@ -19,7 +20,6 @@ namespace {
 constexpr std::string_view kFormCodeMark = "'MORVANE Form Code for ";
 
 // A new procedure whose header the output file already holds.
-constexpr int kReasonDuplicateProcedure = 11;
 
 }  // namespace
 

@@ -12,6 +12,7 @@
 #include "forms/form_writer.h"
 #include "forms/frm_text.h"
 #include "forms/record_source.h"
+#include "session/analysis_reasons.h"
 #include "session/conversion_session.h"
 #include "session/hint_processor.h"
 #include "session/naming.h"
@@ -25,7 +26,6 @@ constexpr const char* kThreedFile = "THREED32.OCX";
 
 // The reason of an "AddToReport" record for a control that is converted
 // only in part.
-constexpr long kPartlyConverted = 4;
 
 // The inside of the quoted string expression that gives `caption` in code:
 // each line break as it was written (vbCrLf, or vbCr or vbLf alone) and,
@@ -254,7 +254,7 @@ void WriteBoundObjectFrame(FormWriter& w) {
   AddTagLine(text, c);
   CloseControl(w, std::move(text), 1);
   AddControlHint(w, c, ControlEventKind::BoundObjectFrame);
-  AddReportHint(w, kPartlyConverted);
+  AddReportHint(w, kReasonPartlyConverted);
 }
 
 void WriteCustomControl(FormWriter& w) {
@@ -263,7 +263,7 @@ void WriteCustomControl(FormWriter& w) {
   const ControlDesign& c = *current;
   ConversionSession& s = w.Session();
   const std::string vbClass = MapCustomControl(s, c.Text("Class").value_or(""), &w);
-  AddReportHint(w, kPartlyConverted);
+  AddReportHint(w, kReasonPartlyConverted);
   // An Access class without a Visual Basic counterpart is reported and
   // left out of the form.
   if (vbClass.empty()) return;

@@ -12,6 +12,7 @@
 #include "forms/control_writers.h"
 #include "forms/form_writer.h"
 #include "forms/frm_text.h"
+#include "session/analysis_reasons.h"
 #include "session/conversion_session.h"
 #include "session/hint_processor.h"
 #include "session/naming.h"
@@ -108,9 +109,6 @@ void AddToggleLines(std::string& text, const ControlDesign& k) {
 void AddTogglePicture(std::string& text, FormWriter& w, const ControlDesign& k) {
   if (HasPicture(k)) AddLine(text, "", PictureLine(w, w.Text().OwnerFormName, k));
 }
-
-// Reason of an analysis row that asks the user to review a result.
-constexpr long kReasonReview = 7;
 
 // The members of an option group, in the form's order.
 class GroupMembers {

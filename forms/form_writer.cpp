@@ -16,6 +16,7 @@
 #include "forms/tab_pages.h"
 #include "platform/support_db.h"
 #include "platform/text_file.h"
+#include "session/analysis_reasons.h"
 #include "session/conversion_session.h"
 #include "session/hint_processor.h"
 #include "session/naming.h"
@@ -73,7 +74,8 @@ void WriteStandAloneOption(FormWriter& w) {
 void ReportUnboundObject(FormWriter& w) {
   const ControlDesign& c = *w.Text().CurrentControl;
   w.Text().Accounted.insert(&c);
-  AddHint(w.Session(), ReportRowHint{w.Text().OwnerFormName, 10, SafeName(c.Name()), 0, "", ""});
+  AddHint(w.Session(), ReportRowHint{w.Text().OwnerFormName, kReasonControlNotConverted,
+                                     SafeName(c.Name()), 0, "", ""});
 }
 
 // The writer of each control type the walk meets; a type without a row is

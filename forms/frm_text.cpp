@@ -12,6 +12,7 @@
 #include "forms/access_expression.h"
 #include "forms/control_writer_frame.h"
 #include "forms/form_writer.h"
+#include "session/analysis_reasons.h"
 #include "session/conversion_session.h"
 #include "session/hint_processor.h"
 #include "session/naming.h"
@@ -161,7 +162,6 @@ void AddBindingLines(std::string& text, FormWriter& w, const ControlDesign& c) {
 namespace {
 
 // The reason of an analysis row asking for review.
-constexpr long kReasonReview = 7;
 
 // The Visual Basic statement that gives `target` the value of an Access
 // expression (its leading "=" left out), or the expression kept as a

@@ -14,6 +14,7 @@
 #include "forms/frm_text.h"
 #include "forms/record_source.h"
 #include "platform/catalog.h"
+#include "session/analysis_reasons.h"
 #include "session/conversion_session.h"
 #include "session/hint_processor.h"
 #include "session/naming.h"
@@ -28,8 +29,6 @@ constexpr size_t kMaxFormLine = 1023;
 constexpr size_t kPieceBytes = 900;
 // Analysis reasons: a result to review, and a choice made where the plain
 // rule would not load.
-constexpr long kReasonReview = 7;
-constexpr long kReasonKeptChoice = 16;
 
 constexpr std::string_view kTableQuery = "Table/Query";
 

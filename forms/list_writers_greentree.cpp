@@ -8,6 +8,7 @@
 #include "forms/form_writer.h"
 #include "forms/frm_text.h"
 #include "forms/list_writers.h"
+#include "session/analysis_reasons.h"
 #include "session/conversion_session.h"
 #include "session/hint_processor.h"
 
@@ -17,7 +18,6 @@ namespace {
 
 constexpr const char* kGreenTreeGuid = "{98460712-9149-11CF-BADB-00201802BB87}#1.1#0";
 constexpr const char* kGreenTreeFile = "GTLIST32.OCX";
-constexpr long kReasonKeptChoice = 16;
 
 std::string FontHead(const std::string& property) {
   return "BeginProperty " + property + " " + kFontGuid;

@@ -1,6 +1,7 @@
 // Long designer properties set from Form_Load.
 #include "forms/long_properties.h"
 
+#include "session/analysis_reasons.h"
 #include "session/conversion_session.h"
 #include "session/hint_processor.h"
 #include "session/naming.h"
@@ -15,7 +16,6 @@ constexpr size_t kLongest = 1000;
 
 // Reason of an analysis row for a value that is set in code rather than in
 // the form file.
-constexpr long kReasonReview = 7;
 
 struct Block {
   std::string name;                                        // the control's name; empty for the form

@@ -20,6 +20,7 @@
 #include "forms/record_source.h"
 #include "platform/catalog.h"
 #include "platform/support_db.h"
+#include "session/analysis_reasons.h"
 #include "session/conversion_session.h"
 #include "session/hint_processor.h"
 #include "session/naming.h"
@@ -48,7 +49,6 @@ constexpr const char* kDataFormatHead =
 constexpr const char* kStreamId = "_StreamID = -1412567295";
 
 // The reason of an analysis row for a control converted only in part.
-constexpr long kPartlyConverted = 4;
 // The width a column of a table or query shown directly starts with.
 constexpr long kDefaultColumnWidth = 1440;
 
@@ -136,7 +136,8 @@ void NotConverted(FormWriter& w, const ControlDesign& c, const std::string& why)
 
 // An analysis row for what a subform became in part.
 void PartlyConverted(FormWriter& w, const std::string& name, const std::string& what) {
-  AddHint(w.Session(), ReportRowHint{w.Text().OwnerFormName, kPartlyConverted, name, 0, what, ""});
+  AddHint(w.Session(),
+          ReportRowHint{w.Text().OwnerFormName, kReasonPartlyConverted, name, 0, what, ""});
 }
 
 // The subform's own code stays behind when only its data comes across.
@@ -701,7 +702,7 @@ void NoteRecordListView(FormWriter& w, const FormDesign& form) {
       "records, show it in a subform control of another form, where a datasheet or a "
       "continuous form that cannot be edited becomes a grid or a data repeater";
   ConversionSession& s = w.Session();
-  AddHint(s, ReportRowHint{form.Name(), kPartlyConverted, form.Name(), 0, what, ""});
+  AddHint(s, ReportRowHint{form.Name(), kReasonPartlyConverted, form.Name(), 0, what, ""});
   if (s.SupportDb) s.SupportDb->AddRunNote(form.Name(), what);
 }
 

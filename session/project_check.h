@@ -13,13 +13,11 @@
 #include <string>
 #include <vector>
 
+#include "session/analysis_reasons.h"
+
 namespace morvane {
 
 struct ConversionSession;
-
-// The analysis reason of a finding: the generated file would not load or
-// compile in Visual Basic 6.
-inline constexpr int kReasonWouldNotLoad = 17;
 
 struct ProjectFinding {
   std::string File;  // the file's name in the directory

@@ -6,25 +6,11 @@
 #include <string>
 
 #include "platform/support_db.h"
+#include "session/analysis_reasons.h"
 
 namespace morvane {
 
 struct ConversionSession;
-
-// Reason codes of tblReportOutput.
-enum ReasonId : int {
-  kReasonNoCounterpart = 1,    // property or statement with no Visual Basic counterpart
-  kReasonNotHandled = 2,       // Application member, DoCmd method not handled
-  kReasonCancelEvent = 5,      // DoCmd.CancelEvent
-  kReasonNoEquivalent = 6,     // DoCmd statement with no equivalent in this form
-  kReasonReview = 7,           // translated; the user should review the result
-  kReasonListCallback = 8,     // list callback constants
-  kReasonReportReference = 9,  // references to reports
-  kReasonEventProperty = 12,   // event property assignment
-  kReasonBlockKept = 14,       // block line not translated; a stand-in keeps the block
-  kReason64Bit = 15,           // 64-bit declaration written for Visual Basic 6
-  kReasonKeptChoice = 16,      // a rule left code alone that its plain text would corrupt
-};
 
 void ReportLine(ConversionSession& s, const std::string& moduleName, int reasonId,
                 const std::string& codeLine, int lineNumber, const std::string& translatedLine,
