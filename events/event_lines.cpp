@@ -94,10 +94,6 @@ void EventCode::Append(const std::vector<std::string>& lines) const {
   s_.Form().Text.Append(JoinCrLf(lines));
 }
 
-void EventCode::ReportDuplicate(const std::string& header, int found) const {
-  ReportLine(s_, formName_, kReasonDuplicateProcedure, header, found, header, header);
-}
-
 void EventCode::RenameProcLine(const std::string& oldLine, const std::string& newLine) const {
   TextDocument& text = s_.Form().Text;
   std::vector<std::string>& lines = text.Lines();

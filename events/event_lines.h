@@ -63,9 +63,6 @@ class EventCode {
   void AppendProc(const std::string& header, const std::vector<std::string>& lines) const;
   // Lines at the end of the file, each followed by CR LF.
   void Append(const std::vector<std::string>& lines) const;
-  // The analysis row of a new procedure whose header the file already has at
-  // `found`.
-  void ReportDuplicate(const std::string& header, int found) const;
   // A procedure of the module under `header`, which the event about to be
   // written would define a second time, is renamed with "_NotEvent" and
   // reported.

@@ -177,13 +177,10 @@ class FormEventWriter {
     const std::string value = Value(e.property);
     const std::string header = "Private Sub Form_" + std::string(e.tail);
     if (IsMacroOrExpression(value)) {
-      const int found = code_.IsDuplicateLine(header);
-      if (isSubform_ && found > 0)
+      if (isSubform_ && code_.IsDuplicateLine(header) > 0)
         code_.InsertLine(header, code_.EventLine(value, ""), kEndOfProcedure);
-      else if (found > 0)
-        code_.ReportDuplicate(header, found);  // a form's duplicate is not written
       else
-        code_.AppendProc(header, {code_.EventLine(value, "")});
+        code_.WriteEventProc(header, {code_.EventLine(value, "")});
     } else if (ClassifyEvent(value) == EventValue::EventProcedure && isSubform_) {
       const std::string renamed = clean_ + "_SubForm_" + std::string(e.tail);
       code_.RenameProcLine(header, "Private Sub " + renamed);

@@ -34,21 +34,26 @@ class FormEventCode : public EventHarness {
   std::string File(const std::string& code) const { return Crlf(kFrmHead + code); }
 };
 
-TEST_F(FormEventCode, MacroOnAnExistingProcedureIsReportedOnAMainFormAndAddedOnASubform) {
+TEST_F(FormEventCode, MacroOnAnExistingProcedureSetsItAsideOnAMainFormAndJoinsItOnASubform) {
   Forms({{"OnClick", "mcrBeep"}}, {{"OnClick", "=Sub1()"}});
-  const std::string code = "Private Sub Form_Click()\nx = 1\nEnd Sub\n";
-  SetCode(code);
+  SetCode("Private Sub Form_Click()\nx = 1\nEnd Sub\n");
   Main();
-  EXPECT_EQ(Output(), File(code));
+  // Access ran the macro, never the module's procedure: that one keeps its
+  // code under another name.
+  const std::string setAside = "Private Sub Form_Click_NotEvent()\nx = 1\nEnd Sub\n";
+  EXPECT_EQ(Output(), File(setAside + "\nPrivate Sub Form_Click()\nCall mcrBeep\nEnd Sub\n"));
   auto rows = Rows();
   ASSERT_EQ(rows.size(), 1u);
   EXPECT_EQ(rows[0].ReasonID, 11);
   EXPECT_EQ(rows[0].ModuleName, "frmTest");
   EXPECT_EQ(rows[0].CodeLine, "Private Sub Form_Click()");
   EXPECT_EQ(rows[0].LineNumber, 1);
+  EXPECT_EQ(rows[0].TranslatedLine, "Private Sub Form_Click_NotEvent()");
 
+  // A subform's event joins the procedure the form already has.
   Sub();
-  EXPECT_EQ(Output(), File("Private Sub Form_Click()\nx = 1\nCall Sub1()\nEnd Sub\n"));
+  EXPECT_EQ(Output(),
+            File(setAside + "\nPrivate Sub Form_Click()\nCall mcrBeep\nCall Sub1()\nEnd Sub\n"));
   EXPECT_EQ(Rows().size(), 1u);
 }
 
