@@ -35,7 +35,7 @@ struct Options {
   std::string listboxMode = "unbound";
   std::string comboboxMode = "bound";
   bool standardControls = true, mdi = true, relativePaths = true, ssOptionSet = false,
-       datePicker = true, macros = true, vb5 = false;
+       datePicker = true, macros = true, vb5 = false, oneThread = false;
   std::string user = "Admin", password, workgroup, adoConnect;
   bool yes = false, no = false;
   bool details = false;
@@ -132,6 +132,7 @@ RunOptions OptionsOf(const Options& o) {
   r.DatePicker = o.datePicker;
   r.MacrosWanted = o.macros;
   r.IsVb5 = o.vb5;
+  r.TranslateModulesAside = !o.oneThread;
   r.UserName = Utf8ToWindows1252(o.user);
   r.Password = Utf8ToWindows1252(o.password);
   r.WorkgroupFile = Utf8ToWindows1252(o.workgroup);
@@ -255,6 +256,8 @@ int main(int argc, char** argv) {
                     "Date-formatted text boxes become date pickers");
   convert->add_flag("--macros,!--no-macros", o.macros, "Convert the macros");
   convert->add_flag("--vb5", o.vb5, "Write for Visual Basic 5");
+  convert->add_flag("--one-thread", o.oneThread,
+                    "Translate the modules on the run's own thread (the output is the same)");
   convert->add_option("--user", o.user, "User of a secured database");
   convert->add_option("--password", o.password, "Password of a secured database");
   convert->add_option("--workgroup", o.workgroup, "Workgroup file of a secured database");

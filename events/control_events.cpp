@@ -8,7 +8,7 @@
 #include "design/form_design.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
-#include "translator/analysis_writers.h"
+#include "session/analysis_writers.h"
 
 namespace morvane {
 

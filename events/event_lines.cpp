@@ -9,7 +9,7 @@
 #include "platform/text_file.h"
 #include "session/analysis_reasons.h"
 #include "session/conversion_session.h"
-#include "translator/analysis_writers.h"
+#include "session/analysis_writers.h"
 
 namespace morvane {
 

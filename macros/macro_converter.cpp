@@ -20,7 +20,7 @@
 #include "platform/text_file.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
-#include "translator/analysis_writers.h"
+#include "session/analysis_writers.h"
 
 namespace morvane {
 

@@ -8,9 +8,14 @@ namespace morvane {
 
 static bool SameText(const std::string& a, const std::string& b) { return text::IEquals(a, b); }
 
-std::optional<QueryInfo> Catalog::QueryDef(const std::string& name) const {
+std::optional<QueryInfo> Catalog::SavedQueryDef(const std::string& name) const {
   for (auto& q : QueryDefs())
     if (SameText(q.Name, name)) return q;
+  return std::nullopt;
+}
+
+std::optional<QueryInfo> Catalog::QueryDef(const std::string& name) const {
+  if (auto saved = SavedQueryDef(name)) return saved;
   for (auto& q : made_)
     if (SameText(q.Name, name)) return q;
   return std::nullopt;

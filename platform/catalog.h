@@ -90,6 +90,10 @@ class Catalog {
   // Looked up by name without regard to case.
   virtual std::optional<QueryInfo> QueryDef(const std::string& name) const;
   virtual std::optional<TableInfo> TableDef(const std::string& name) const;
+  // A query of the database itself, not one made during the run; the
+  // database's own queries never change, so this may be asked from any
+  // thread.
+  std::optional<QueryInfo> SavedQueryDef(const std::string& name) const;
 
   // A database property such as "StartupForm"; empty when the database has
   // no such property.

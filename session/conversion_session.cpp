@@ -6,15 +6,15 @@
 namespace morvane {
 
 FormState& ConversionSession::PushForm(const std::string& name) {
-  forms_.push_back(std::make_unique<FormState>());
-  forms_.back()->Name = name;
-  return *forms_.back();
+  forms_.states.push_back(std::make_unique<FormState>());
+  forms_.states.back()->Name = name;
+  return *forms_.states.back();
 }
 
 std::unique_ptr<FormState> ConversionSession::PopForm() {
-  if (forms_.size() < 2) return nullptr;
-  std::unique_ptr<FormState> state = std::move(forms_.back());
-  forms_.pop_back();
+  if (forms_.states.size() < 2) return nullptr;
+  std::unique_ptr<FormState> state = std::move(forms_.states.back());
+  forms_.states.pop_back();
   return state;
 }
 

@@ -7,8 +7,10 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <variant>
 #include <vector>
 
+#include "platform/support_db.h"
 #include "session/form_state.h"
 #include "session/name_registry.h"
 #include "session/run_options.h"
@@ -22,13 +24,16 @@ class ProjectModel;
 class UserInterface;
 class OutputDirectory;
 
+// Rows of the analysis that a translation running beside the run's own
+// thread keeps, in the order it made them, until the run adds them where the
+// translation would have added them itself.
+using DeferredRow = std::variant<ReportOutputRow, StatsRow, LogRow>;
+
 // A list filled from index 1; index 0 exists and stays empty, so the upper
 // bound of the list is its count.
 using OneBasedList = std::vector<std::string>;
 
 struct ConversionSession {
-  ConversionSession() { forms_.push_back(std::make_unique<FormState>()); }
-
   RunOptions Options;
   // The options packed for the walkers; a walker whose session has not
   // unpacked it does nothing.
@@ -69,6 +74,15 @@ struct ConversionSession {
   // those that keep the project from loading or compiling.
   int CheckFindings = 0;
   int BlockingFindings = 0;
+  // A copy of the session that translates modules beside the run's own
+  // thread: the analysis rows go to `Deferred`, never to the support
+  // database, and whatever the copy cannot know for sure (a query that the
+  // forms may still make) sets `SpeculationFailed`, so that the run
+  // translates the module again itself.
+  bool Speculative = false;
+  bool SpeculationFailed = false;
+  std::vector<DeferredRow>* Deferred = nullptr;
+
   // Procedure names the macro converter has given out; grows across macros.
   std::vector<std::string> MacroProcNames;
   // The identifiers those names became, which must differ without regard to
@@ -77,15 +91,26 @@ struct ConversionSession {
 
   // The state of the form or report being converted; a session always has
   // one, so code that runs outside a conversion still finds a state.
-  FormState& Form() { return *forms_.back(); }
-  const FormState& Form() const { return *forms_.back(); }
+  FormState& Form() { return *forms_.states.back(); }
+  const FormState& Form() const { return *forms_.states.back(); }
   // A new state for a form (or a nested form) until the matching PopForm.
   FormState& PushForm(const std::string& name);
   // Ends the innermost state; the outermost one stays.
   std::unique_ptr<FormState> PopForm();
 
  private:
-  std::vector<std::unique_ptr<FormState>> forms_;
+  // The states of the forms being converted, innermost last. A copy of a
+  // session starts with one empty state of its own: the forms in hand stay
+  // with the session that converts them.
+  struct FormStack {
+    FormStack() { states.push_back(std::make_unique<FormState>()); }
+    FormStack(const FormStack&) : FormStack() {}
+    FormStack& operator=(const FormStack&) { return *this; }
+    FormStack(FormStack&&) = default;
+    FormStack& operator=(FormStack&&) = default;
+    std::vector<std::unique_ptr<FormState>> states;
+  };
+  FormStack forms_;
 };
 
 // The state of one form for as long as the scope lasts.

@@ -2,6 +2,7 @@
 #include "session/driver.h"
 
 #include <filesystem>
+#include <thread>
 
 #include "platform/encoding.h"
 #include "platform/line_editor.h"
@@ -11,6 +12,7 @@
 #include "platform/text_file.h"
 #include "session/access_link.h"
 #include "session/analysis_report.h"
+#include "session/analysis_writers.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
 #include "session/project_check.h"
@@ -77,11 +79,13 @@ bool WriteOutput(ConversionSession& s, RunSummary& summary, const std::string& o
   return false;
 }
 
-// Writes a component of the project; its text is let go.
+// Writes a component of the project; its text is let go. `checked` holds
+// what the check found when the text was checked beforehand.
 bool WriteComponent(ConversionSession& s, RunSummary& summary, const std::string& object,
-                    const std::string& component) {
+                    const std::string& component,
+                    const std::vector<ProjectFinding>* checked = nullptr) {
   std::string err;
-  if (WriteCheckedComponent(s, component, &err)) return true;
+  if (WriteCheckedComponent(s, component, &err, checked)) return true;
   Failed(summary, object, err);
   return false;
 }
@@ -274,24 +278,122 @@ void ConvertReportsStep(ConversionSession& s, Converters& c, RunSummary& summary
   }
 }
 
-void ConvertModulesStep(ConversionSession& s, Converters& c, RunSummary& summary) {
+// The modules of a run, translated on a thread of their own while the run
+// converts its macros, forms and reports, as a standard module's translation
+// depends on none of them: the thread works on a copy of the session whose
+// analysis rows are kept aside, and the modules step takes each translation
+// in turn, adding its rows where the translation would have added them. A
+// module whose translation met something the forms could still change (a
+// name first asked for, a query not in the database) is translated again by
+// the modules step, so the output is the same as one thread gives.
+class ModuleTranslations {
+ public:
+  ModuleTranslations(ConversionSession& s, Converters& c) : copy_(s), names_(s.Names) {
+    modules_.resize(s.ModuleList.size());
+    for (size_t i = 1; i < s.ModuleList.size(); ++i) {
+      const std::string& name = s.ModuleList[i];
+      Module& m = modules_[i];
+      m.Found = s.AccessApp && s.AccessApp->Find(AccessObjectKind::Module, name);
+      if (!m.Found) continue;
+      m.Read = c.Code->ExportModuleText(s, name, kModeModule, m.Source);  // M2
+      m.File = s.Names.Name(ComponentRole::Module, name).File;
+      m.Path = OutputFile(s, m.File + ".bas");
+    }
+    if (!s.Options.TranslateModulesAside) return;
+    // The copy reaches nothing the run's own thread writes to.
+    copy_.SupportDb = nullptr;
+    copy_.AccessApp = nullptr;
+    copy_.ActiveProject = nullptr;
+    copy_.ControlProject = nullptr;
+    copy_.Output = nullptr;
+    copy_.Ui = nullptr;
+    copy_.Speculative = true;
+    thread_ = std::thread([this, &c] { TranslateAll(*c.Code); });
+  }
+  ~ModuleTranslations() { Wait(); }
+  ModuleTranslations(const ModuleTranslations&) = delete;
+  ModuleTranslations& operator=(const ModuleTranslations&) = delete;
+
+  struct Module {
+    bool Found = false;  // the tree holds it
+    bool Read = false;   // its code could be read
+    std::string File;
+    std::string Path;
+    TextDocument Source;
+    // Filled by the thread when its translation stands.
+    bool Translated = false;
+    TextDocument Text;  // translated and indented
+    std::vector<DeferredRow> Rows;
+    std::array<bool, 21> ListControlsUsed{};
+    std::vector<ProjectFinding> Findings;
+  };
+
+  // Module `i` of the run's list, once the thread is done.
+  Module& Take(size_t i) {
+    Wait();
+    return modules_[i];
+  }
+
+ private:
+  void Wait() {
+    if (thread_.joinable()) thread_.join();
+  }
+
+  void TranslateAll(CodeConverter& code) {
+    try {
+      for (Module& m : modules_) {
+        if (!m.Read) continue;
+        const size_t known = copy_.Names.Count();
+        copy_.SpeculationFailed = false;
+        copy_.ListControlsUsed = {};
+        copy_.Deferred = &m.Rows;
+        TextDocument text = code.TranslateCode(copy_, m.Source, m.File, kModeModule);
+        if (copy_.SpeculationFailed || copy_.Names.Count() != known) {
+          m.Rows.clear();
+          copy_.Names = names_;
+          continue;
+        }
+        SilentIndent(text);
+        m.Findings = CheckComponentText(m.Path, text.Lines());
+        m.Text = std::move(text);
+        m.ListControlsUsed = copy_.ListControlsUsed;
+        m.Translated = true;
+      }
+    } catch (...) {
+      // Whatever is not translated here the modules step translates itself,
+      // where a failure reaches the run as it always does.
+    }
+  }
+
+  std::vector<Module> modules_;
+  ConversionSession copy_;
+  const NameRegistry names_;  // the names as the copy started with them
+  std::thread thread_;
+};
+
+void ConvertModulesStep(ConversionSession& s, Converters& c, RunSummary& summary,
+                        ModuleTranslations& translations) {
   for (size_t i = 1; i < s.ModuleList.size(); ++i) {
     const std::string& name = s.ModuleList[i];
-    if (!s.AccessApp || !s.AccessApp->Find(AccessObjectKind::Module, name)) {
+    ModuleTranslations::Module& m = translations.Take(i);
+    if (!m.Found) {
       Failed(summary, name, NotReadWhy(s, AccessObjectKind::Module, name));
-      if (s.Ui) s.Ui->ProgressStep(1, name);
-      continue;
-    }
-    TextDocument source;
-    if (c.Code->ExportModuleText(s, name, kModeModule, source)) {  // M2
-      const std::string& file = s.Names.Name(ComponentRole::Module, name).File;
-      TextDocument text = c.Code->TranslateCode(s, source, file, kModeModule);  // M4
-      SilentIndent(text);                                                       // M6
-      const ProjectComponent* component =
-          s.ActiveProject->Add(OutputFile(s, file + ".bas"), std::move(text));
-      if (WriteComponent(s, summary, name, component->Name)) ++summary.Modules;
-    } else {
+    } else if (!m.Read) {
       Failed(summary, name, Text(kMsgObjectNotRead));
+    } else {
+      const std::vector<ProjectFinding>* checked = nullptr;
+      if (m.Translated) {
+        AddDeferredRows(s, m.Rows);
+        for (size_t k = 0; k < m.ListControlsUsed.size(); ++k)
+          if (m.ListControlsUsed[k]) s.ListControlsUsed[k] = true;
+        checked = &m.Findings;
+      } else {
+        m.Text = c.Code->TranslateCode(s, m.Source, m.File, kModeModule);  // M4
+        SilentIndent(m.Text);                                              // M6
+      }
+      m.Source = TextDocument();
+      const ProjectComponent* component = s.ActiveProject->Add(m.Path, std::move(m.Text));
+      if (WriteComponent(s, summary, name, component->Name, checked)) ++summary.Modules;
     }
     if (s.Ui) s.Ui->ProgressStep(1, name);  // M7
   }
@@ -451,10 +553,11 @@ void RunConversion(ConversionSession& s, AccessLink& link, Converters& c, RunSum
   for (const auto& stage : c.Code->UnbuiltStages())
     Note(s, summary, "", FormatText(kMsgNotBuiltStage, {stage}));
 
+  ModuleTranslations modules(s, c);
   ConvertMacrosStep(s, c, summary);
   ConvertFormsStep(s, c, summary);
   ConvertReportsStep(s, c, summary);
-  ConvertModulesStep(s, c, summary);
+  ConvertModulesStep(s, c, summary, modules);
   AssembleProject(s, c, summary);
 
   const fs::path vbp = fs::path(s.OutputPath) / s.ProjectFile;

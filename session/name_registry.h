@@ -45,6 +45,9 @@ class NameRegistry {
   std::string DataControl(const std::string& formName);
 
   const std::vector<Renaming>& Renamings() const { return renamings_; }
+  // How many names have been handed out: a name asked for the first time
+  // makes it grow.
+  size_t Count() const { return names_.size(); }
 
  private:
   std::string Key(ComponentRole role, const std::string& name) const;

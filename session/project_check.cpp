@@ -267,13 +267,22 @@ void Record(ConversionSession& s, const ProjectFinding& f) {
 
 }  // namespace
 
-bool WriteCheckedComponent(ConversionSession& s, const std::string& component, std::string* err) {
-  if (const ProjectComponent* c = s.ActiveProject->Find(component); c && c->Text) {
-    const std::string name = SystemName(c->File);
-    const std::vector<std::string>& lines = c->Text->Lines();
-    for (auto& f : CheckVb6Lines(name, lines))
-      Record(s, {name, f.Line, std::move(f.Problem),
-                 f.Line >= 1 && f.Line <= lines.size() ? lines[f.Line - 1] : "", f.Loads});
+std::vector<ProjectFinding> CheckComponentText(const std::filesystem::path& file,
+                                               const std::vector<std::string>& lines) {
+  const std::string name = SystemName(file);
+  std::vector<ProjectFinding> findings;
+  for (auto& f : CheckVb6Lines(name, lines))
+    findings.push_back({name, f.Line, std::move(f.Problem),
+                        f.Line >= 1 && f.Line <= lines.size() ? lines[f.Line - 1] : "", f.Loads});
+  return findings;
+}
+
+bool WriteCheckedComponent(ConversionSession& s, const std::string& component, std::string* err,
+                           const std::vector<ProjectFinding>* checked) {
+  if (checked) {
+    for (const auto& f : *checked) Record(s, f);
+  } else if (const ProjectComponent* c = s.ActiveProject->Find(component); c && c->Text) {
+    for (const auto& f : CheckComponentText(c->File, c->Text->Lines())) Record(s, f);
   }
   return s.ActiveProject->WriteComponent(component, *s.Output, err);
 }

@@ -35,10 +35,16 @@ bool CheckProject(const std::filesystem::path& dir, std::vector<ProjectFinding>*
 // "<file>:<line>: <problem>" (UTF-8 file name, Windows-1252 problem text).
 std::string FormatFinding(const ProjectFinding& f);
 
+// What the check finds in the text of a component that goes to `file`.
+std::vector<ProjectFinding> CheckComponentText(const std::filesystem::path& file,
+                                               const std::vector<std::string>& lines);
+
 // A component of the run, checked as it is written: each finding becomes a
 // row of the analysis under the component's name and counts for the run.
 // Then the file is written. False with the message of a failed write.
-bool WriteCheckedComponent(ConversionSession& s, const std::string& component, std::string* err);
+// `checked` holds the findings when the text was checked beforehand.
+bool WriteCheckedComponent(ConversionSession& s, const std::string& component, std::string* err,
+                           const std::vector<ProjectFinding>* checked = nullptr);
 
 // The check of the project itself at the end of a conversion (its name, one
 // component of each name), and the run's note on what the checks found.

@@ -28,6 +28,9 @@ struct RunOptions {
   // The connection string of the generated code; empty takes the source's.
   std::string AdoConnect;
   std::filesystem::path DataDir;  // where the companion files stand
+  // Standard modules are translated on a second thread while the forms are
+  // converted; the output is the same either way.
+  bool TranslateModulesAside = true;
 };
 
 }  // namespace morvane

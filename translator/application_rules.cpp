@@ -2,7 +2,7 @@
 #include "translator/application_rules.h"
 
 #include "session/naming.h"
-#include "translator/analysis_writers.h"
+#include "session/analysis_writers.h"
 #include "translator/rule_outcomes.h"
 #include "translator/vb_code.h"
 #include "translator/vb_text.h"

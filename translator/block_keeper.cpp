@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "session/naming.h"
-#include "translator/analysis_writers.h"
+#include "session/analysis_writers.h"
 #include "translator/rule_outcomes.h"
 #include "translator/text_helpers.h"
 #include "translator/unsupported_features.h"

@@ -3,7 +3,7 @@
 
 #include "session/compiler_conditions.h"
 #include "session/naming.h"
-#include "translator/analysis_writers.h"
+#include "session/analysis_writers.h"
 #include "translator/rule_outcomes.h"
 #include "translator/text_helpers.h"
 #include "translator/vb_code.h"

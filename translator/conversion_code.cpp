@@ -13,7 +13,7 @@
 #include "platform/text_fold.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
-#include "translator/analysis_writers.h"
+#include "session/analysis_writers.h"
 
 namespace morvane {
 

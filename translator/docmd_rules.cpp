@@ -6,9 +6,9 @@
 #include <string_view>
 
 #include "platform/catalog.h"
+#include "session/analysis_writers.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
-#include "translator/analysis_writers.h"
 #include "translator/rule_outcomes.h"
 #include "translator/text_helpers.h"
 #include "translator/vb_code.h"
@@ -148,8 +148,17 @@ void OpenQueryRule(ModuleTranslation& t, std::string& line) {
     return;
   }
   std::optional<QueryInfo> query;
-  if (t.Session.SourceDb && q.size() >= 2)
-    query = t.Session.SourceDb->QueryDef(q.substr(1, q.size() - 2));
+  if (t.Session.SourceDb && q.size() >= 2) {
+    const std::string name = q.substr(1, q.size() - 2);
+    if (!t.Session.Speculative) {
+      query = t.Session.SourceDb->QueryDef(name);
+    } else {
+      // Beside the forms, which may still make queries, only the database's
+      // own are sure; any other name is left to the run's own thread.
+      query = t.Session.SourceDb->SavedQueryDef(name);
+      if (!query) t.Session.SpeculationFailed = true;
+    }
+  }
   if (query && IsActionQuery(query->Type)) {
     Kept(t, line, "db.Execute " + q, kReasonReview, "db.Execute " + q);
   } else {

@@ -9,7 +9,7 @@
 #include "session/conversion_session.h"
 #include "session/converters.h"
 #include "session/naming.h"
-#include "translator/analysis_writers.h"
+#include "session/analysis_writers.h"
 #include "translator/application_rules.h"
 #include "translator/docmd_rules.h"
 #include "translator/form_injection.h"

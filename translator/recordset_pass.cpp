@@ -10,7 +10,7 @@
 #include "platform/text_file.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
-#include "translator/analysis_writers.h"
+#include "session/analysis_writers.h"
 #include "translator/text_helpers.h"
 #include "translator/vb_code.h"
 #include "translator/vb_text.h"

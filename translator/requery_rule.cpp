@@ -3,7 +3,7 @@
 
 #include "session/conversion_session.h"
 #include "session/naming.h"
-#include "translator/analysis_writers.h"
+#include "session/analysis_writers.h"
 #include "translator/rule_outcomes.h"
 #include "translator/vb_text.h"
 

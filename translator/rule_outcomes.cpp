@@ -2,7 +2,7 @@
 #include "translator/rule_outcomes.h"
 
 #include "session/conversion_session.h"
-#include "translator/analysis_writers.h"
+#include "session/analysis_writers.h"
 
 namespace morvane {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "session/naming.h"
-#include "translator/analysis_writers.h"
+#include "session/analysis_writers.h"
 #include "translator/block_keeper.h"
 #include "translator/conditional_compilation.h"
 #include "translator/form_injection.h"

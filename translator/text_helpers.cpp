@@ -127,7 +127,7 @@ std::string FormReference(const ConversionSession& s, std::string_view text) {
 }
 
 void QuickSortInts(std::span<int16_t> values, int first, int last) {
-  static std::minstd_rand generator(20011);
+  thread_local std::minstd_rand generator(20011);
   if (values.empty()) return;
   if (first < 0) first = 0;
   if (last >= static_cast<int>(values.size())) last = static_cast<int>(values.size()) - 1;

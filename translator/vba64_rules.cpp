@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "session/naming.h"
-#include "translator/analysis_writers.h"
+#include "session/analysis_writers.h"
 #include "translator/rule_outcomes.h"
 #include "translator/vb_code.h"
 

@@ -72,71 +72,75 @@ std::string FirstDifference(const std::string& expected, const std::string& actu
          "\n  actual:   " + lineAt(actual);
 }
 
+// Each case runs twice: with its modules translated beside the forms, as
+// every run does, and all on one thread; both give the same files.
 TEST(Golden, EveryCaseGivesItsExpectedFiles) {
   const bool update = std::getenv("MORVANE_UPDATE_GOLDEN") != nullptr;
   int cases = 0;
-  for (const auto& entry : fs::directory_iterator(kGolden)) {
-    if (!entry.is_directory()) continue;
-    ++cases;
-    const fs::path dir = entry.path();
-    SCOPED_TRACE(dir.filename().string());
-    TempDir out;
-    std::vector<std::string> args = {"convert", (dir / "input").string(), "-o",
-                                     (out / "out").string(), "--yes"};
-    if (fs::exists(dir / "args")) {
-      std::string text = ReadFile(dir / "args");
-      size_t start = 0;
-      for (size_t pos; (pos = text.find('\n', start)) != std::string::npos; start = pos + 1)
-        if (pos > start) args.push_back(text.substr(start, pos - start));
-    }
-    auto r = RunMorvane(args);
-    // A case whose run keeps an object out says its exit status in "status".
-    const int status = fs::exists(dir / "status") ? std::stoi(ReadFile(dir / "status")) : 0;
-    ASSERT_EQ(r.status, status) << r.err;
-    std::string err;
-    auto db = SupportDatabase::Open(out / "out" / "morvane.db", MORVANE_DATA_DIR, &err);
-    ASSERT_TRUE(db) << err;
+  for (const auto& entry : fs::directory_iterator(kGolden))
+    for (const bool oneThread : {false, true}) {
+      if (!entry.is_directory() || (update && oneThread)) continue;
+      cases += !oneThread;
+      const fs::path dir = entry.path();
+      SCOPED_TRACE(dir.filename().string() + (oneThread ? " (one thread)" : ""));
+      TempDir out;
+      std::vector<std::string> args = {"convert", (dir / "input").string(), "-o",
+                                       (out / "out").string(), "--yes"};
+      if (oneThread) args.push_back("--one-thread");
+      if (fs::exists(dir / "args")) {
+        std::string text = ReadFile(dir / "args");
+        size_t start = 0;
+        for (size_t pos; (pos = text.find('\n', start)) != std::string::npos; start = pos + 1)
+          if (pos > start) args.push_back(text.substr(start, pos - start));
+      }
+      auto r = RunMorvane(args);
+      // A case whose run keeps an object out says its exit status in "status".
+      const int status = fs::exists(dir / "status") ? std::stoi(ReadFile(dir / "status")) : 0;
+      ASSERT_EQ(r.status, status) << r.err;
+      std::string err;
+      auto db = SupportDatabase::Open(out / "out" / "morvane.db", MORVANE_DATA_DIR, &err);
+      ASSERT_TRUE(db) << err;
 
-    const fs::path expected = dir / "expected";
-    if (update) {
-      fs::remove_all(expected);
-      fs::create_directories(expected);
-      // The conversion code has tests of its own and changes with every
-      // template; a case compares what its input exercises.
-      for (const auto& f : fs::directory_iterator(out / "out"))
-        if (f.is_regular_file() && f.path().extension() != ".db" &&
-            f.path().filename() != "MorvaneConversionCode.bas")
-          fs::copy_file(f.path(), expected / f.path().filename(),
-                        fs::copy_options::overwrite_existing);
-      WriteFile(expected / "tblReportOutput.tsv", ReportRows(*db));
-      WriteFile(expected / "tblStats.tsv", StatsRows(*db));
-      if (!db->Log().empty()) WriteFile(expected / "tblLog.tsv", LogRows(*db));
-      if (!db->RunNotes().empty()) WriteFile(expected / "notes.tsv", NoteRows(*db));
+      const fs::path expected = dir / "expected";
+      if (update) {
+        fs::remove_all(expected);
+        fs::create_directories(expected);
+        // The conversion code has tests of its own and changes with every
+        // template; a case compares what its input exercises.
+        for (const auto& f : fs::directory_iterator(out / "out"))
+          if (f.is_regular_file() && f.path().extension() != ".db" &&
+              f.path().filename() != "MorvaneConversionCode.bas")
+            fs::copy_file(f.path(), expected / f.path().filename(),
+                          fs::copy_options::overwrite_existing);
+        WriteFile(expected / "tblReportOutput.tsv", ReportRows(*db));
+        WriteFile(expected / "tblStats.tsv", StatsRows(*db));
+        if (!db->Log().empty()) WriteFile(expected / "tblLog.tsv", LogRows(*db));
+        if (!db->RunNotes().empty()) WriteFile(expected / "notes.tsv", NoteRows(*db));
+      }
+      int compared = 0;
+      for (const auto& f : fs::directory_iterator(expected)) {
+        const std::string name = f.path().filename().string();
+        std::string actual;
+        if (name == "tblReportOutput.tsv")
+          actual = ReportRows(*db);
+        else if (name == "tblStats.tsv")
+          actual = StatsRows(*db);
+        else if (name == "tblLog.tsv")
+          actual = LogRows(*db);
+        else if (name == "notes.tsv")
+          actual = NoteRows(*db);
+        else
+          actual = ReadFile(out / "out" / name);
+        const std::string want = ReadFile(f.path());
+        EXPECT_TRUE(actual == want) << name << ": " << FirstDifference(want, actual);
+        ++compared;
+      }
+      EXPECT_GT(compared, 0);
+      // What the run's own check finds in the output stands in the expected
+      // tblReportOutput.tsv, reason 17.
+      const auto designers = test::CheckReportDesigners(out / "out");
+      EXPECT_TRUE(designers.empty()) << designers.front();
     }
-    int compared = 0;
-    for (const auto& f : fs::directory_iterator(expected)) {
-      const std::string name = f.path().filename().string();
-      std::string actual;
-      if (name == "tblReportOutput.tsv")
-        actual = ReportRows(*db);
-      else if (name == "tblStats.tsv")
-        actual = StatsRows(*db);
-      else if (name == "tblLog.tsv")
-        actual = LogRows(*db);
-      else if (name == "notes.tsv")
-        actual = NoteRows(*db);
-      else
-        actual = ReadFile(out / "out" / name);
-      const std::string want = ReadFile(f.path());
-      EXPECT_TRUE(actual == want) << name << ": " << FirstDifference(want, actual);
-      ++compared;
-    }
-    EXPECT_GT(compared, 0);
-    // What the run's own check finds in the output stands in the expected
-    // tblReportOutput.tsv, reason 17.
-    const auto designers = test::CheckReportDesigners(out / "out");
-    EXPECT_TRUE(designers.empty()) << designers.front();
-  }
   EXPECT_GT(cases, 0);
 }
 

@@ -23,6 +23,8 @@ Public Sub Examples()
     Call M2
     'MORVANE DoCmd.OpenQuery "qrySelect"
     db.Execute "qryAppend"	'MORVANE DoCmd.OpenQuery "qryAppend"
+    'MORVANE DoCmd.OpenQuery "qryNowhere"
+    Call InitializeComboBoxes	'MORVANE Invoices.REQUERY
     Screen.ActiveForm.SSTab1.Tab =  2 - 1
     End
     'MORVANE Application.Quit ' with more text

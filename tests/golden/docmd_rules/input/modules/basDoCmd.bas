@@ -18,6 +18,8 @@ Public Sub Examples()
     DoCmd.RunMacro "M2"
     DoCmd.OpenQuery "qrySelect"
     DoCmd.OpenQuery "qryAppend"
+    DoCmd.OpenQuery "qryNowhere"
+    Forms!Invoices.REQUERY
     DoCmd.GoToPage 2
     Application.Quit
     Application.Quit ' with more text

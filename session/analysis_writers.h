@@ -1,16 +1,17 @@
 // The writers of the conversion analysis: one tblReportOutput row per line
 // that needed attention, one tblStats row per module, one tblLog row per event
-// of a report. Without a support database in the session they do nothing.
+// of a report. Without a support database in the session they do nothing; a
+// session that defers its rows keeps them instead.
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/support_db.h"
 #include "session/analysis_reasons.h"
+#include "session/conversion_session.h"
 
 namespace morvane {
-
-struct ConversionSession;
 
 void ReportLine(ConversionSession& s, const std::string& moduleName, int reasonId,
                 const std::string& codeLine, int lineNumber, const std::string& translatedLine,
@@ -23,5 +24,9 @@ void ModuleStats(ConversionSession& s, const StatsRow& counts);
 
 void LogEntry(ConversionSession& s, int errorId, const std::string& report,
               const std::string& location);
+
+// Adds the rows a deferring session kept, in their order, as the writers
+// above would have added them.
+void AddDeferredRows(ConversionSession& s, const std::vector<DeferredRow>& rows);
 
 }  // namespace morvane
