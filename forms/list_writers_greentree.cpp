@@ -16,9 +16,6 @@ namespace morvane {
 
 namespace {
 
-constexpr const char* kGreenTreeGuid = "{98460712-9149-11CF-BADB-00201802BB87}#1.1#0";
-constexpr const char* kGreenTreeFile = "GTLIST32.OCX";
-
 std::string FontHead(const std::string& property) {
   return "BeginProperty " + property + " " + kFontGuid;
 }
@@ -35,8 +32,8 @@ void ResetPage(FormWriter& w, const ControlDesign& c) {
 // The component, with the analysis row of the column fonts once a form.
 void RegisterGreenTree(FormWriter& w) {
   const auto& files = w.Text().ComponentFiles;
-  if (std::find(files.begin(), files.end(), kGreenTreeFile) != files.end()) return;
-  w.AddComponent(kGreenTreeGuid, kGreenTreeFile);
+  if (std::find(files.begin(), files.end(), kGreenTree.File) != files.end()) return;
+  w.AddComponent(kGreenTree);
   AddHint(w.Session(),
           ReportRowHint{w.Text().OwnerFormName, kReasonKeptChoice, "BeginProperty CDs.CD(0).Font",
                         0, "columns take DefFont and DefColCaptionFont", ""});
