@@ -72,6 +72,17 @@ void AddColumnHead(std::string& text, const std::string& cd, long k) {
   AddLine(text, cd + ".CaptionWordWrap = 0");
 }
 
+// The caption of column k: the field's name when the list shows a table or
+// query (a bound list always does), else "Col k". `equals` is the list
+// box's or the combo box's way of setting a value.
+void AddColumnCaption(std::string& text, const ListControl& l, const std::string& cd, long k,
+                      const char* equals) {
+  if (l.Bound || l.TableQuery)
+    AddLine(text, cd + ".Caption" + equals + "\"" + l.Field(k) + "\"");
+  else
+    AddLine(text, cd + ".Caption = \"Col " + std::to_string(k) + "\"");
+}
+
 }  // namespace
 
 void AddGreenTreeFrame(std::string& text, const FormWriter& w, const ControlDesign& c) {
@@ -101,14 +112,8 @@ void WriteGreenTreeList(FormWriter& w) {
     if (auto cw = l.ColumnWidth(k + 1)) width = *cw;
     const std::string cd = "CDs.CD(" + std::to_string(k) + ")";
     AddColumnHead(text, cd, k);
-    if (l.Bound) {
-      AddLine(text, cd + ".DataField=\"" + l.Field(k) + "\"");
-      AddLine(text, cd + ".Caption=\"" + l.Field(k) + "\"");
-    } else if (l.TableQuery) {
-      AddLine(text, cd + ".Caption=\"" + l.Field(k) + "\"");
-    } else {
-      AddLine(text, cd + ".Caption = \"Col " + std::to_string(k) + "\"");
-    }
+    if (l.Bound) AddLine(text, cd + ".DataField=\"" + l.Field(k) + "\"");
+    AddColumnCaption(text, l, cd, k, "=");
     AddColumnLook(text, cd, width);
     AddLine(text, cd + ".KEY = \"\"");
   }
@@ -155,14 +160,8 @@ void WriteGreenTreeCombo(FormWriter& w) {
     const std::string cd = "CDs.CD(" + std::to_string(k) + ")";
     AddColumnHead(text, cd, k);
     AddColumnLook(text, cd, l.ColumnWidth(k + 1));
-    if (l.Bound) {
-      AddLine(text, cd + ".Caption = \"" + l.Field(k) + "\"");
-      AddLine(text, cd + ".DataField = \"" + l.Field(k) + "\"");
-    } else if (l.TableQuery) {
-      AddLine(text, cd + ".Caption = \"" + l.Field(k) + "\"");
-    } else {
-      AddLine(text, cd + ".Caption = \"Col " + std::to_string(k) + "\"");
-    }
+    AddColumnCaption(text, l, cd, k, " = ");
+    if (l.Bound) AddLine(text, cd + ".DataField = \"" + l.Field(k) + "\"");
     AddLine(text, cd + ".KEY = \"\"");
   }
   AddLine(text, "LImgs.Count = 1");
