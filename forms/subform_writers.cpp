@@ -181,16 +181,16 @@ std::string BeginSubformControl(FormWriter& w) {
   return w.Session().Form().CurrentControlName;
 }
 
-// The first lines of a Sheridan grid and a data grid: the class line
-// `begin`, the Bindings line of data control `data`, and the place and tab
-// index.
+// The first lines of a Sheridan grid, a data grid and a DBGrid: the class
+// line `begin`, the Bindings line of data control `data`, and the place and
+// tab index, whose line the DBGrid writes with a blank after the "=".
 void AddGridHead(std::string& text, FormWriter& w, const ControlDesign& c, const std::string& begin,
-                 const std::string& data) {
+                 const std::string& data, const char* tabIndex = "TabIndex =") {
   AddLine(text, begin);
   AddLine(text, BindingsLine(w, data));
   AddLine(text, "Height = ", ValueText(c, "Height"));
   AddLine(text, "Left = ", w.ControlLeft(c));
-  AddLine(text, "TabIndex =", ValueText(c, "TabIndex"));
+  AddLine(text, tabIndex, ValueText(c, "TabIndex"));
   AddLine(text, "Top = ", w.ControlTop(c));
   AddLine(text, "Width = ", ValueText(c, "Width"));
 }
@@ -381,13 +381,7 @@ void WriteGrid(FormWriter& w, const ControlDesign& c, const GridSource& g, Subfo
       // frame it stands where the subform stood.
       w.AddComponent(kDbGrid);
       std::string grid;
-      AddLine(grid, "Begin MSDBGrid.DBGrid " + name);
-      AddLine(grid, BindingsLine(w, dataName));
-      AddLine(grid, "Height = ", ValueText(c, "Height"));
-      AddLine(grid, "Left = ", w.ControlLeft(c));
-      AddLine(grid, "TabIndex = ", ValueText(c, "TabIndex"));
-      AddLine(grid, "Top = ", w.ControlTop(c));
-      AddLine(grid, "Width = ", ValueText(c, "Width"));
+      AddGridHead(grid, w, c, "Begin MSDBGrid.DBGrid " + name, dataName, "TabIndex = ");
       AddVisibleLine(grid, c);
       AddLine(grid, "End");
       const bool later = OnFormItself(w);
