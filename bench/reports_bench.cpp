@@ -22,13 +22,20 @@ namespace {
 
 std::string N(int i) { return std::to_string(i); }
 
-void AddTextBox(std::vector<std::string>& t, int i, const std::string& source, int top) {
-  t.push_back("                Begin TextBox");
+// The lines every control starts with: control i of `kind`, in the
+// (i % 6)'th of six columns at `top`, named `prefix` and i.
+void BeginControl(std::vector<std::string>& t, const char* kind, const char* prefix, int i,
+                  int top) {
+  t.push_back("                Begin " + std::string(kind));
   t.push_back("                    Left =" + N(100 + (i % 6) * 1500));
   t.push_back("                    Top =" + N(top));
   t.push_back("                    Width =1400");
   t.push_back("                    Height =255");
-  t.push_back("                    Name =\"txt" + N(i) + "\"");
+  t.push_back("                    Name =\"" + std::string(prefix) + N(i) + "\"");
+}
+
+void AddTextBox(std::vector<std::string>& t, int i, const std::string& source, int top) {
+  BeginControl(t, "TextBox", "txt", i, top);
   t.push_back("                    ControlSource =\"" + source + "\"");
   t.push_back("                    Format =\"" + std::string(i % 3 ? "Standard" : "Short Date") +
               "\"");
@@ -36,12 +43,7 @@ void AddTextBox(std::vector<std::string>& t, int i, const std::string& source, i
 }
 
 void AddLabel(std::vector<std::string>& t, int i, int top) {
-  t.push_back("                Begin Label");
-  t.push_back("                    Left =" + N(100 + (i % 6) * 1500));
-  t.push_back("                    Top =" + N(top));
-  t.push_back("                    Width =1400");
-  t.push_back("                    Height =255");
-  t.push_back("                    Name =\"lbl" + N(i) + "\"");
+  BeginControl(t, "Label", "lbl", i, top);
   t.push_back("                    Caption =\"Column " + N(i) + "\"");
   t.push_back("                End");
 }
