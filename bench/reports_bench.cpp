@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -125,17 +126,14 @@ int main(int argc, char** argv) {
     WriteTextLines(root / "src" / "reports" / ("rptBench" + N(r) + ".txt"), Report(r, controls),
                    nullptr);
 
-  bench::BenchRun run;
-  Selection reportsOnly;
-  for (int r = 0; r < reports; ++r) reportsOnly.Reports.push_back("rptBench" + N(r));
-  if (!run.Open(root, reportsOnly)) return 1;
-  double seconds = 0;
-  const RunSummary summary = run.Run(&seconds);
+  const std::optional<bench::TimedSummary> run =
+      bench::TimedRun(root, bench::Numbered(&Selection::Reports, "rptBench", reports));
+  if (!run) return 1;
   std::printf(
       "%d reports of %d controls converted in %.2f s: %.1f reports/s, %.0f controls/s; "
       "peak memory %ld KiB; %d reports in the project\n",
-      reports, controls, seconds, reports / seconds, reports * controls / seconds, bench::PeakKiB(),
-      summary.Reports);
+      reports, controls, run->Seconds, reports / run->Seconds, reports * controls / run->Seconds,
+      bench::PeakKiB(), run->Summary.Reports);
   fs::remove_all(root);
-  return summary.Reports == reports ? 0 : 1;
+  return run->Summary.Reports == reports ? 0 : 1;
 }
