@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/text_file.h"
+#include "platform/text_fold.h"
 
 namespace morvane {
 
@@ -56,17 +57,6 @@ constexpr const char* kSeededTables[] = {
     "mtm_tblActionArgs",
     "mtm_tblLookups",
 };
-
-std::vector<std::string> SplitTabs(const std::string& line) {
-  std::vector<std::string> out(1);
-  for (char c : line) {
-    if (c == '\t')
-      out.emplace_back();
-    else
-      out.back() += c;
-  }
-  return out;
-}
 
 class Statement {
  public:
@@ -128,7 +118,7 @@ bool SeedTable(sqlite3* db, const std::filesystem::path& file, const std::string
   sqlite3_exec(db, "BEGIN", nullptr, nullptr, nullptr);
   for (const auto& line : lines) {
     if (line.empty() || line[0] == '#') continue;
-    auto fields = SplitTabs(line);
+    auto fields = text::Split(line, '\t');
     if (columns.empty()) {
       columns = fields;
       insert = "INSERT INTO " + table + " (";
