@@ -7,7 +7,9 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "app/conversion_run.h"
 #include "session/user_interface.h"
@@ -59,5 +61,30 @@ class BenchRun {
   ConversionRun run_;
   RunRequest request_;
 };
+
+// The selection of the objects of one kind (`&Selection::Forms`, ...) named
+// `prefix`0 to `prefix`<count - 1>, as the generated trees name them.
+inline Selection Numbered(std::vector<std::string> Selection::*kind, const std::string& prefix,
+                          int count) {
+  Selection selection;
+  for (int i = 0; i < count; ++i) (selection.*kind).push_back(prefix + std::to_string(i));
+  return selection;
+}
+
+// What a timed run converted, and the seconds the conversion took.
+struct TimedSummary {
+  RunSummary Summary;
+  double Seconds = 0;
+};
+
+// One timed run of `selection` over `root`; nothing when it cannot be opened.
+inline std::optional<TimedSummary> TimedRun(const std::filesystem::path& root,
+                                            const Selection& selection) {
+  BenchRun run;
+  if (!run.Open(root, selection)) return std::nullopt;
+  TimedSummary timed;
+  timed.Summary = run.Run(&timed.Seconds);
+  return timed;
+}
 
 }  // namespace morvane::bench

@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
 #include <string>
 
 #include "bench/bench_run.h"
@@ -21,17 +22,14 @@ int main(int argc, char** argv) {
   const fs::path root = fs::temp_directory_path() / ("morvane-bench-" + std::to_string(getpid()));
   const long totalLines = bench::WriteModules(root, modules, linesPerModule);
 
-  bench::BenchRun run;
-  Selection modulesOnly;
-  for (int m = 0; m < modules; ++m) modulesOnly.Modules.push_back("basBench" + bench::N(m));
-  if (!run.Open(root, modulesOnly)) return 1;
-  double seconds = 0;
-  const RunSummary summary = run.Run(&seconds);
+  const std::optional<bench::TimedSummary> run =
+      bench::TimedRun(root, bench::Numbered(&Selection::Modules, "basBench", modules));
+  if (!run) return 1;
   std::printf(
       "%d modules, %ld lines converted in %.2f s: %.0f modules/s, %.0f lines/s; "
       "peak memory %ld KiB; %d modules in the project\n",
-      modules, totalLines, seconds, modules / seconds, totalLines / seconds, bench::PeakKiB(),
-      summary.Modules);
+      modules, totalLines, run->Seconds, modules / run->Seconds, totalLines / run->Seconds,
+      bench::PeakKiB(), run->Summary.Modules);
   fs::remove_all(root);
-  return summary.Modules == modules ? 0 : 1;
+  return run->Summary.Modules == modules ? 0 : 1;
 }

@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
 #include <string>
 
 #include "bench/bench_run.h"
@@ -26,17 +27,14 @@ int main(int argc, char** argv) {
   const fs::path root = fs::temp_directory_path() / ("morvane-fbench-" + std::to_string(getpid()));
   bench::WriteForms(root, forms, controls, combos);
 
-  bench::BenchRun run;
-  Selection formsOnly;
-  for (int f = 0; f < forms; ++f) formsOnly.Forms.push_back("frmBench" + bench::N(f));
-  if (!run.Open(root, formsOnly)) return 1;
-  double seconds = 0;
-  const RunSummary summary = run.Run(&seconds);
+  const std::optional<bench::TimedSummary> run =
+      bench::TimedRun(root, bench::Numbered(&Selection::Forms, "frmBench", forms));
+  if (!run) return 1;
   std::printf(
       "%d forms of %d controls%s converted in %.2f s: %.1f forms/s, %.0f controls/s; "
       "peak memory %ld KiB; %d forms in the project\n",
-      forms, controls, combos ? " (a third combo boxes)" : "", seconds, forms / seconds,
-      forms * controls / seconds, bench::PeakKiB(), summary.Forms);
+      forms, controls, combos ? " (a third combo boxes)" : "", run->Seconds, forms / run->Seconds,
+      forms * controls / run->Seconds, bench::PeakKiB(), run->Summary.Forms);
   fs::remove_all(root);
-  return summary.Forms == forms ? 0 : 1;
+  return run->Summary.Forms == forms ? 0 : 1;
 }

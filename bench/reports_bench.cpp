@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,13 +23,20 @@ namespace {
 
 std::string N(int i) { return std::to_string(i); }
 
-void AddTextBox(std::vector<std::string>& t, int i, const std::string& source, int top) {
-  t.push_back("                Begin TextBox");
+// The lines every control starts with: control i of `kind`, in the
+// (i % 6)'th of six columns at `top`, named `prefix` and i.
+void BeginControl(std::vector<std::string>& t, const char* kind, const char* prefix, int i,
+                  int top) {
+  t.push_back("                Begin " + std::string(kind));
   t.push_back("                    Left =" + N(100 + (i % 6) * 1500));
   t.push_back("                    Top =" + N(top));
   t.push_back("                    Width =1400");
   t.push_back("                    Height =255");
-  t.push_back("                    Name =\"txt" + N(i) + "\"");
+  t.push_back("                    Name =\"" + std::string(prefix) + N(i) + "\"");
+}
+
+void AddTextBox(std::vector<std::string>& t, int i, const std::string& source, int top) {
+  BeginControl(t, "TextBox", "txt", i, top);
   t.push_back("                    ControlSource =\"" + source + "\"");
   t.push_back("                    Format =\"" + std::string(i % 3 ? "Standard" : "Short Date") +
               "\"");
@@ -36,12 +44,7 @@ void AddTextBox(std::vector<std::string>& t, int i, const std::string& source, i
 }
 
 void AddLabel(std::vector<std::string>& t, int i, int top) {
-  t.push_back("                Begin Label");
-  t.push_back("                    Left =" + N(100 + (i % 6) * 1500));
-  t.push_back("                    Top =" + N(top));
-  t.push_back("                    Width =1400");
-  t.push_back("                    Height =255");
-  t.push_back("                    Name =\"lbl" + N(i) + "\"");
+  BeginControl(t, "Label", "lbl", i, top);
   t.push_back("                    Caption =\"Column " + N(i) + "\"");
   t.push_back("                End");
 }
@@ -123,17 +126,14 @@ int main(int argc, char** argv) {
     WriteTextLines(root / "src" / "reports" / ("rptBench" + N(r) + ".txt"), Report(r, controls),
                    nullptr);
 
-  bench::BenchRun run;
-  Selection reportsOnly;
-  for (int r = 0; r < reports; ++r) reportsOnly.Reports.push_back("rptBench" + N(r));
-  if (!run.Open(root, reportsOnly)) return 1;
-  double seconds = 0;
-  const RunSummary summary = run.Run(&seconds);
+  const std::optional<bench::TimedSummary> run =
+      bench::TimedRun(root, bench::Numbered(&Selection::Reports, "rptBench", reports));
+  if (!run) return 1;
   std::printf(
       "%d reports of %d controls converted in %.2f s: %.1f reports/s, %.0f controls/s; "
       "peak memory %ld KiB; %d reports in the project\n",
-      reports, controls, seconds, reports / seconds, reports * controls / seconds, bench::PeakKiB(),
-      summary.Reports);
+      reports, controls, run->Seconds, reports / run->Seconds, reports * controls / run->Seconds,
+      bench::PeakKiB(), run->Summary.Reports);
   fs::remove_all(root);
-  return summary.Reports == reports ? 0 : 1;
+  return run->Summary.Reports == reports ? 0 : 1;
 }

@@ -14,6 +14,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -56,13 +57,12 @@ int main(int argc, char** argv) {
     copies.push_back(SecondsOf("cp -r '" + (root / "src").string() + "' '" +
                                (root / "copy").string() + "' && sync"));
     fs::remove_all(root / "out");
-    bench::BenchRun run;
     Selection all;
     all.All = true;
-    if (!run.Open(root, all)) return 1;
-    double seconds = 0;
-    summary = run.Run(&seconds);
-    conversions.push_back(seconds + SecondsOf("sync"));
+    const std::optional<bench::TimedSummary> run = bench::TimedRun(root, all);
+    if (!run) return 1;
+    summary = run->Summary;
+    conversions.push_back(run->Seconds + SecondsOf("sync"));
   }
   const double copy = Median(copies);
   const double seconds = Median(conversions);

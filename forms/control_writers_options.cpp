@@ -21,11 +21,6 @@ namespace morvane {
 
 namespace {
 
-struct Component {
-  const char* Guid;
-  const char* File;
-};
-
 // The Sheridan option set comes with the Sheridan controls the list options
 // chose: the OLE DB edition with ListboxType 3, else the data edition.
 constexpr Component kOptionSetOleDb = {"{8D650146-6025-11D1-BC40-0000C042AEC0}#3.0#0",
@@ -143,7 +138,7 @@ class GroupMembers {
     const std::string& name = s_.Form().CurrentControlName;
     if (sheridan_) {
       const Component& set = s_.Options.ListboxType == 3 ? kOptionSetOleDb : kOptionSetData;
-      w_.AddComponent(set.Guid, set.File);
+      w_.AddComponent(set);
       if (optionSet_.empty()) {
         WriteSetHead(k);
         optionSet_ = "a";

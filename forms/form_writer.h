@@ -18,6 +18,13 @@ class DesignStore;
 class FormDesign;
 class ControlDesign;
 
+// An ActiveX component a form's Object lines name: its class id with
+// version, and the file that holds it.
+struct Component {
+  const char* Guid;
+  const char* File;
+};
+
 // Where the walk places controls: the offsets of the section, the subform or
 // tab page being walked, and the section tops the form measured. A nested
 // walk (a subform, a tab page) works on a copy and the walk after it finds
@@ -128,6 +135,7 @@ class FormWriter {
   // Registers an ActiveX component for the Object lines; a file already
   // listed is ignored.
   void AddComponent(const std::string& guid, const std::string& file);
+  void AddComponent(const Component& c) { AddComponent(c.Guid, c.File); }
   // finish false: clears the components and the used names and starts the
   // header with "VERSION 5.00"; finish true: appends the Object lines.
   void WriteComponentLines(bool finish);

@@ -11,6 +11,8 @@
 #include <string_view>
 #include <vector>
 
+#include "forms/form_writer.h"
+
 namespace morvane {
 
 class ControlDesign;
@@ -105,5 +107,17 @@ void WriteFormsCombo(FormWriter& w);
 void WriteListView(FormWriter& w);
 
 inline constexpr const char* kFontGuid = "{0BE35203-8F91-11CE-9DE3-00AA004BB851}";
+
+// The components the list writers share with the datasheet grids: the
+// GreenTree DataList, and the Sheridan Data Widgets 2.0 (DAO classes), 3.0
+// in the OLE DB classes and 3.0 in the DAO classes.
+inline constexpr Component kGreenTree = {"{98460712-9149-11CF-BADB-00201802BB87}#1.1#0",
+                                         "GTLIST32.OCX"};
+inline constexpr Component kSheridanData = {"{BC496AED-9B4E-11CE-A6D5-0000C0BE9395}#2.0#0",
+                                            "SSDATB32.OCX"};
+inline constexpr Component kSheridanOleDb = {"{4A4AA691-3E6F-11D2-822F-00104B9E07A1}#3.0#0",
+                                             "ssdw3bo.ocx"};
+inline constexpr Component kSheridanDao = {"{8D650141-6025-11D1-BC40-0000C042AEC0}#3.0#0",
+                                           "SSDW3B32.OCX"};
 
 }  // namespace morvane

@@ -16,9 +16,6 @@ namespace morvane {
 
 namespace {
 
-constexpr const char* kGreenTreeGuid = "{98460712-9149-11CF-BADB-00201802BB87}#1.1#0";
-constexpr const char* kGreenTreeFile = "GTLIST32.OCX";
-
 std::string FontHead(const std::string& property) {
   return "BeginProperty " + property + " " + kFontGuid;
 }
@@ -35,8 +32,8 @@ void ResetPage(FormWriter& w, const ControlDesign& c) {
 // The component, with the analysis row of the column fonts once a form.
 void RegisterGreenTree(FormWriter& w) {
   const auto& files = w.Text().ComponentFiles;
-  if (std::find(files.begin(), files.end(), kGreenTreeFile) != files.end()) return;
-  w.AddComponent(kGreenTreeGuid, kGreenTreeFile);
+  if (std::find(files.begin(), files.end(), kGreenTree.File) != files.end()) return;
+  w.AddComponent(kGreenTree);
   AddHint(w.Session(),
           ReportRowHint{w.Text().OwnerFormName, kReasonKeptChoice, "BeginProperty CDs.CD(0).Font",
                         0, "columns take DefFont and DefColCaptionFont", ""});
@@ -75,6 +72,17 @@ void AddColumnHead(std::string& text, const std::string& cd, long k) {
   AddLine(text, cd + ".CaptionWordWrap = 0");
 }
 
+// The caption of column k: the field's name when the list shows a table or
+// query (a bound list always does), else "Col k". `equals` is the list
+// box's or the combo box's way of setting a value.
+void AddColumnCaption(std::string& text, const ListControl& l, const std::string& cd, long k,
+                      const char* equals) {
+  if (l.Bound || l.TableQuery)
+    AddLine(text, cd + ".Caption" + equals + "\"" + l.Field(k) + "\"");
+  else
+    AddLine(text, cd + ".Caption = \"Col " + std::to_string(k) + "\"");
+}
+
 }  // namespace
 
 void AddGreenTreeFrame(std::string& text, const FormWriter& w, const ControlDesign& c) {
@@ -104,14 +112,8 @@ void WriteGreenTreeList(FormWriter& w) {
     if (auto cw = l.ColumnWidth(k + 1)) width = *cw;
     const std::string cd = "CDs.CD(" + std::to_string(k) + ")";
     AddColumnHead(text, cd, k);
-    if (l.Bound) {
-      AddLine(text, cd + ".DataField=\"" + l.Field(k) + "\"");
-      AddLine(text, cd + ".Caption=\"" + l.Field(k) + "\"");
-    } else if (l.TableQuery) {
-      AddLine(text, cd + ".Caption=\"" + l.Field(k) + "\"");
-    } else {
-      AddLine(text, cd + ".Caption = \"Col " + std::to_string(k) + "\"");
-    }
+    if (l.Bound) AddLine(text, cd + ".DataField=\"" + l.Field(k) + "\"");
+    AddColumnCaption(text, l, cd, k, "=");
     AddColumnLook(text, cd, width);
     AddLine(text, cd + ".KEY = \"\"");
   }
@@ -158,14 +160,8 @@ void WriteGreenTreeCombo(FormWriter& w) {
     const std::string cd = "CDs.CD(" + std::to_string(k) + ")";
     AddColumnHead(text, cd, k);
     AddColumnLook(text, cd, l.ColumnWidth(k + 1));
-    if (l.Bound) {
-      AddLine(text, cd + ".Caption = \"" + l.Field(k) + "\"");
-      AddLine(text, cd + ".DataField = \"" + l.Field(k) + "\"");
-    } else if (l.TableQuery) {
-      AddLine(text, cd + ".Caption = \"" + l.Field(k) + "\"");
-    } else {
-      AddLine(text, cd + ".Caption = \"Col " + std::to_string(k) + "\"");
-    }
+    AddColumnCaption(text, l, cd, k, " = ");
+    if (l.Bound) AddLine(text, cd + ".DataField = \"" + l.Field(k) + "\"");
     AddLine(text, cd + ".KEY = \"\"");
   }
   AddLine(text, "LImgs.Count = 1");

@@ -13,12 +13,10 @@ namespace morvane {
 
 namespace {
 
-constexpr const char* kOwnListGuid = "{6D1E6C53-2F4B-4A8E-9C1D-7B35E0A4F812}#2.0#0";
-constexpr const char* kOwnListFile = "Kestrel.ocx";
-constexpr const char* kFormsGuid = "{0D452EE1-E08F-101A-852E-02608C4D0BB4}#2.0#0";
-constexpr const char* kFormsFile = "FM20.DLL";
-constexpr const char* kCommonControlsGuid = "{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0";
-constexpr const char* kCommonControlsFile = "MSCOMCTL.OCX";
+constexpr Component kOwnList = {"{6D1E6C53-2F4B-4A8E-9C1D-7B35E0A4F812}#2.0#0", "Kestrel.ocx"};
+constexpr Component kForms = {"{0D452EE1-E08F-101A-852E-02608C4D0BB4}#2.0#0", "FM20.DLL"};
+constexpr Component kCommonControls = {"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0",
+                                       "MSCOMCTL.OCX"};
 constexpr const char* kColumnHeaderGuid = "{BDD1F052-858B-11D1-B16A-00C0F0283628}";
 
 void AddBorderLines(std::string& text, const ControlDesign& c) {
@@ -48,7 +46,7 @@ void WriteOwnList(FormWriter& w) {
   if (!begun) return;
   const ListControl& l = *begun;
   const ControlDesign& c = l.c;
-  w.AddComponent(kOwnListGuid, kOwnListFile);
+  w.AddComponent(kOwnList);
   std::string text = OpenControlText(w, "Begin Kestrel.KRListBox ");
   AddListPlacement(text, l);
   AddLine(text, "HelpContextID = ", ValueText(c, "HelpContextID"));
@@ -74,7 +72,7 @@ void WriteFormsCombo(FormWriter& w) {
   if (!begun) return;
   const ListControl& l = *begun;
   const ControlDesign& c = l.c;
-  w.AddComponent(kFormsGuid, kFormsFile);
+  w.AddComponent(kForms);
   // The width list: a column's width in the unit of the control, less the
   // room of its divider; a missing last width takes the control's width,
   // a missing earlier one adds nothing.
@@ -132,7 +130,7 @@ void WriteListView(FormWriter& w) {
   if (!begun) return;
   const ListControl& l = *begun;
   const ControlDesign& c = l.c;
-  w.AddComponent(kCommonControlsGuid, kCommonControlsFile);
+  w.AddComponent(kCommonControls);
   std::string text = OpenControlText(w, "Begin MSComctlLib.ListView ");
   AddListPlacement(text, l);
   AddLine(text, "_ExtentX = ", ExtentOf(c, "Width"));

@@ -15,13 +15,6 @@ namespace morvane {
 
 namespace {
 
-constexpr const char* kWidgets2Guid = "{BC496AED-9B4E-11CE-A6D5-0000C0BE9395}#2.0#0";
-constexpr const char* kWidgets2File = "SSDATB32.OCX";
-constexpr const char* kWidgets3OleDbGuid = "{4A4AA691-3E6F-11D2-822F-00104B9E07A1}#3.0#0";
-constexpr const char* kWidgets3OleDbFile = "ssdw3bo.ocx";
-constexpr const char* kWidgets3Guid = "{8D650141-6025-11D1-BC40-0000C042AEC0}#3.0#0";
-constexpr const char* kWidgets3File = "SSDW3B32.OCX";
-
 std::string FontHead(const char* property) {
   return std::string("BeginProperty ") + property + " " + kFontGuid;
 }
@@ -62,17 +55,11 @@ std::string VersionLine(const ConversionSession& s) {
 void AddSheridanComponent(FormWriter& w, int type) {
   const ConversionSession& s = w.Session();
   if (type == 3) {
-    if (s.Options.UseAdo)
-      w.AddComponent(kWidgets3OleDbGuid, kWidgets3OleDbFile);
-    else
-      w.AddComponent(kWidgets3Guid, kWidgets3File);
+    w.AddComponent(s.Options.UseAdo ? kSheridanOleDb : kSheridanDao);
   } else if (type == 2) {
     // The OLE DB classes that ADO data controls bind to came with the
     // widgets' version 3; version 2 has the DAO classes only.
-    if (s.Options.UseAdo)
-      w.AddComponent(kWidgets3OleDbGuid, kWidgets3OleDbFile);
-    else
-      w.AddComponent(kWidgets2Guid, kWidgets2File);
+    w.AddComponent(s.Options.UseAdo ? kSheridanOleDb : kSheridanData);
   }
 }
 
@@ -83,12 +70,12 @@ namespace {
 void RegisterWidgets(const ListControl& l, int type) {
   FormWriter& w = l.w;
   const auto& files = w.Text().ComponentFiles;
-  const bool first = std::find(files.begin(), files.end(), kWidgets3OleDbFile) == files.end();
+  const bool first = std::find(files.begin(), files.end(), kSheridanOleDb.File) == files.end();
   AddSheridanComponent(w, type);
   if (type == 2 && w.Session().Options.UseAdo && first)
     ReportListChoice(
-        l, std::string("Object=\"") + kWidgets2Guid + "\"; \"" + kWidgets2File + "\"",
-        std::string("Object=\"") + kWidgets3OleDbGuid + "\"; \"" + kWidgets3OleDbFile + "\"");
+        l, std::string("Object=\"") + kSheridanData.Guid + "\"; \"" + kSheridanData.File + "\"",
+        std::string("Object=\"") + kSheridanOleDb.Guid + "\"; \"" + kSheridanOleDb.File + "\"");
 }
 
 // Registers the widgets of the list's type and opens its text: the grid for

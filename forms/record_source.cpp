@@ -14,6 +14,7 @@
 #include "forms/frm_text.h"
 #include "forms/query_fields.h"
 #include "platform/support_db.h"
+#include "platform/text_fold.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
 
@@ -30,13 +31,7 @@ std::optional<std::vector<FieldInfo>> FieldsOfName(const Catalog& db, const std:
 // of the join and of the restriction; a side with fewer names pairs the
 // rest with an empty name, as a single empty field would be.
 std::vector<std::string> SplitLinkFields(const std::string& text) {
-  std::vector<std::string> out(1);
-  for (char c : text) {
-    if (c == ';')
-      out.emplace_back();
-    else
-      out.back() += c;
-  }
+  std::vector<std::string> out = text::Split(text, ';');
   for (std::string& f : out) f = TrimBlanks(f);
   return out;
 }

@@ -29,18 +29,7 @@ namespace morvane {
 
 namespace {
 
-struct Component {
-  const char* Guid;
-  const char* File;
-};
-
 constexpr Component kRepeater = {"{5C8CED40-8909-11D0-9483-00A0C91110ED}#1.0#0", "MSDATREP.OCX"};
-constexpr Component kGreenTree = {"{98460712-9149-11CF-BADB-00201802BB87}#1.1#0", "GTLIST32.OCX"};
-constexpr Component kSheridanData = {"{BC496AED-9B4E-11CE-A6D5-0000C0BE9395}#2.0#0",
-                                     "SSDATB32.OCX"};
-constexpr Component kSheridanOleDb = {"{4A4AA691-3E6F-11D2-822F-00104B9E07A1}#3.0#0",
-                                      "ssdw3bo.ocx"};
-constexpr Component kSheridanDao = {"{8D650141-6025-11D1-BC40-0000C042AEC0}#3.0#0", "SSDW3B32.OCX"};
 constexpr Component kDataGrid = {"{CDE57A40-8B86-11D0-B3C6-00A0C90AEA82}#1.0#0", "MSDATGRD.OCX"};
 constexpr Component kDbGrid = {"{00028C01-0000-0000-0000-000000000046}#1.0#0", "DBGRID32.OCX"};
 
@@ -192,16 +181,16 @@ std::string BeginSubformControl(FormWriter& w) {
   return w.Session().Form().CurrentControlName;
 }
 
-// The first lines of a Sheridan grid and a data grid: the class line
-// `begin`, the Bindings line of data control `data`, and the place and tab
-// index.
+// The first lines of a Sheridan grid, a data grid and a DBGrid: the class
+// line `begin`, the Bindings line of data control `data`, and the place and
+// tab index, whose line the DBGrid writes with a blank after the "=".
 void AddGridHead(std::string& text, FormWriter& w, const ControlDesign& c, const std::string& begin,
-                 const std::string& data) {
+                 const std::string& data, const char* tabIndex = "TabIndex =") {
   AddLine(text, begin);
   AddLine(text, BindingsLine(w, data));
   AddLine(text, "Height = ", ValueText(c, "Height"));
   AddLine(text, "Left = ", w.ControlLeft(c));
-  AddLine(text, "TabIndex =", ValueText(c, "TabIndex"));
+  AddLine(text, tabIndex, ValueText(c, "TabIndex"));
   AddLine(text, "Top = ", w.ControlTop(c));
   AddLine(text, "Width = ", ValueText(c, "Width"));
 }
@@ -214,7 +203,7 @@ void AddGridExtent(std::string& text, const ControlDesign& c) {
 
 void AddGreenTreeGrid(std::string& text, FormWriter& w, const ControlDesign& c, const GridSource& g,
                       const std::string& name, const std::string& data) {
-  w.AddComponent(kGreenTree.Guid, kGreenTree.File);
+  w.AddComponent(kGreenTree);
   AddLine(text, "Begin DataList.GTList " + name);
   AddLine(text, BindingsLine(w, data));
   AddGreenTreeFrame(text, w, c);
@@ -254,7 +243,7 @@ void AddSheridanGrid(std::string& text, FormWriter& w, const ControlDesign& c, c
   const Component& component = s.Options.UseAdo             ? kSheridanOleDb
                                : s.Options.ListboxType == 2 ? kSheridanData
                                                             : kSheridanDao;
-  w.AddComponent(component.Guid, component.File);
+  w.AddComponent(component);
   AddGridHead(text, w, c,
               s.Options.UseAdo ? "Begin SSDataWidgets_B_OLEDB.SSOleDBGrid " + name
                                : "Begin SSDataWidgets_B.SSDBGrid " + name,
@@ -297,7 +286,7 @@ void AddDataGridFont(std::string& text, const char* head) {
 
 void AddDataGrid(std::string& text, FormWriter& w, const ControlDesign& c, const GridSource& g,
                  const std::string& name, const std::string& data) {
-  w.AddComponent(kDataGrid.Guid, kDataGrid.File);
+  w.AddComponent(kDataGrid);
   AddGridHead(text, w, c, "Begin MSDataGridLib.DataGrid " + name, data);
   AddGridExtent(text, c);
   AddLine(text, "_Version = 393216");
@@ -390,15 +379,9 @@ void WriteGrid(FormWriter& w, const ControlDesign& c, const GridSource& g, Subfo
     default: {
       // A DBGrid is placed once the form is complete; inside a tab or a
       // frame it stands where the subform stood.
-      w.AddComponent(kDbGrid.Guid, kDbGrid.File);
+      w.AddComponent(kDbGrid);
       std::string grid;
-      AddLine(grid, "Begin MSDBGrid.DBGrid " + name);
-      AddLine(grid, BindingsLine(w, dataName));
-      AddLine(grid, "Height = ", ValueText(c, "Height"));
-      AddLine(grid, "Left = ", w.ControlLeft(c));
-      AddLine(grid, "TabIndex = ", ValueText(c, "TabIndex"));
-      AddLine(grid, "Top = ", w.ControlTop(c));
-      AddLine(grid, "Width = ", ValueText(c, "Width"));
+      AddGridHead(grid, w, c, "Begin MSDBGrid.DBGrid " + name, dataName, "TabIndex = ");
       AddVisibleLine(grid, c);
       AddLine(grid, "End");
       const bool later = OnFormItself(w);
@@ -586,7 +569,7 @@ void WriteRepeater(FormWriter& w, const ControlDesign& c, const FormDesign& f) {
   FormTextSet& t = w.Text();
   const std::string frame = BeginSubformControl(w);
   AddHint(s, ContinuousFormHint{t.CurrentForm->Name(), c.Name()});
-  w.AddComponent(kRepeater.Guid, kRepeater.File);
+  w.AddComponent(kRepeater);
 
   // The header and footer of the subform and its data control stand in the
   // frame, above and below the repeated rows.

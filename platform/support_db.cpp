@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/text_file.h"
+#include "platform/text_fold.h"
 
 namespace morvane {
 
@@ -57,17 +58,6 @@ constexpr const char* kSeededTables[] = {
     "mtm_tblLookups",
 };
 
-std::vector<std::string> SplitTabs(const std::string& line) {
-  std::vector<std::string> out(1);
-  for (char c : line) {
-    if (c == '\t')
-      out.emplace_back();
-    else
-      out.back() += c;
-  }
-  return out;
-}
-
 class Statement {
  public:
   Statement(sqlite3* db, const char* sql) { sqlite3_prepare_v2(db, sql, -1, &stmt_, nullptr); }
@@ -115,6 +105,16 @@ class Statement {
   bool kept_ = false;
 };
 
+// Every row `sql` selects, in its order, each made by `read` from the
+// statement standing on it.
+template <typename Row, typename Read>
+std::vector<Row> ReadRows(sqlite3* db, const char* sql, Read read) {
+  std::vector<Row> rows;
+  Statement st(db, sql);
+  while (st.Next()) rows.push_back(read(st));
+  return rows;
+}
+
 bool SeedTable(sqlite3* db, const std::filesystem::path& file, const std::string& table) {
   {
     std::string count_sql = "SELECT COUNT(*) FROM " + table;
@@ -128,7 +128,7 @@ bool SeedTable(sqlite3* db, const std::filesystem::path& file, const std::string
   sqlite3_exec(db, "BEGIN", nullptr, nullptr, nullptr);
   for (const auto& line : lines) {
     if (line.empty() || line[0] == '#') continue;
-    auto fields = SplitTabs(line);
+    auto fields = text::Split(line, '\t');
     if (columns.empty()) {
       columns = fields;
       insert = "INSERT INTO " + table + " (";
@@ -349,44 +349,44 @@ std::optional<CustomControlRow> SupportDatabase::FindCustomControl(
 }
 
 std::vector<MacroActionRow> SupportDatabase::MacroActions() const {
-  std::vector<MacroActionRow> rows;
-  Statement st(db_, "SELECT Action, ActionID, MapsTo, NumArgs FROM mtm_tblActions ORDER BY rowid");
-  while (st.Next()) {
-    MacroActionRow r{st.Text(0), static_cast<long>(st.Int(1)), std::nullopt,
-                     static_cast<int>(st.Int(3))};
-    if (!st.IsNull(2)) r.MapsTo = st.Text(2);
-    rows.push_back(std::move(r));
-  }
-  return rows;
+  return ReadRows<MacroActionRow>(
+      db_, "SELECT Action, ActionID, MapsTo, NumArgs FROM mtm_tblActions ORDER BY rowid",
+      [](const Statement& st) {
+        MacroActionRow r{st.Text(0), static_cast<long>(st.Int(1)), std::nullopt,
+                         static_cast<int>(st.Int(3))};
+        if (!st.IsNull(2)) r.MapsTo = st.Text(2);
+        return r;
+      });
 }
 
 std::vector<MacroActionArgRow> SupportDatabase::MacroActionArgs() const {
-  std::vector<MacroActionArgRow> rows;
-  Statement st(db_,
-               "SELECT ActionID, ArgNumber, ArgumentType, LookupBase, AutoExpression "
-               "FROM mtm_tblActionArgs");
-  while (st.Next())
-    rows.push_back({static_cast<long>(st.Int(0)), static_cast<int>(st.Int(1)),
-                    static_cast<int>(st.Int(2)), static_cast<long>(st.Int(3)), st.Int(4) != 0});
-  return rows;
+  return ReadRows<MacroActionArgRow>(
+      db_,
+      "SELECT ActionID, ArgNumber, ArgumentType, LookupBase, AutoExpression "
+      "FROM mtm_tblActionArgs",
+      [](const Statement& st) -> MacroActionArgRow {
+        return {static_cast<long>(st.Int(0)), static_cast<int>(st.Int(1)),
+                static_cast<int>(st.Int(2)), static_cast<long>(st.Int(3)), st.Int(4) != 0};
+      });
 }
 
 std::vector<MacroLookupRow> SupportDatabase::MacroLookups() const {
-  std::vector<MacroLookupRow> rows;
-  Statement st(db_, "SELECT LookupNumber, Value FROM mtm_tblLookups");
-  while (st.Next()) rows.push_back({static_cast<long>(st.Int(0)), st.Text(1)});
-  return rows;
+  return ReadRows<MacroLookupRow>(db_, "SELECT LookupNumber, Value FROM mtm_tblLookups",
+                                  [](const Statement& st) -> MacroLookupRow {
+                                    return {static_cast<long>(st.Int(0)), st.Text(1)};
+                                  });
 }
 
 std::vector<ReportOutputRow> SupportDatabase::ReportOutput() const {
-  std::vector<ReportOutputRow> rows;
-  Statement st(db_,
-               "SELECT ModuleName, ReasonID, CodeLine, LineNumber, TranslatedLine, Routine FROM "
-               "tblReportOutput ORDER BY ID");
-  while (st.Next())
-    rows.push_back({st.Text(0), static_cast<long>(st.Int(1)), st.Text(2),
-                    static_cast<int>(st.Int(3)), st.Text(4), st.Text(5)});
-  return rows;
+  return ReadRows<ReportOutputRow>(
+      db_,
+      "SELECT ModuleName, ReasonID, CodeLine, LineNumber, TranslatedLine, Routine FROM "
+      "tblReportOutput ORDER BY ID",
+      [](const Statement& st) -> ReportOutputRow {
+        return {st.Text(0), static_cast<long>(st.Int(1)),
+                st.Text(2), static_cast<int>(st.Int(3)),
+                st.Text(4), st.Text(5)};
+      });
 }
 
 std::vector<StatsRow> SupportDatabase::Stats() const {

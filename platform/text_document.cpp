@@ -84,14 +84,8 @@ void TextDocument::SplitBreaks(size_t from, size_t to) {
 }
 
 std::string TextDocument::Bytes() const {
-  std::string out;
-  size_t size = 0;
-  for (const auto& l : lines_) size += l.size() + 2;
-  out.reserve(size);
-  for (const auto& l : lines_) {
-    out += l;
-    out += "\r\n";
-  }
+  std::string out = JoinCrLf(lines_);
+  // An open last line has no line end of its own.
   if (open_ && !out.empty()) out.resize(out.size() - 2);
   return out;
 }

@@ -1,10 +1,11 @@
-// Small text primitives of the platform layer: ASCII case folding and
-// trimming over Windows-1252 text. (The platform layer sits below the naming
+// Small text primitives of the platform layer: ASCII case folding, trimming
+// and splitting over Windows-1252 text. (The platform layer sits below the naming
 // helpers of the session, so it keeps its own.)
 #pragma once
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace morvane::text {
 
@@ -48,6 +49,19 @@ inline bool LessNoCase(std::string_view a, std::string_view b) {
   }
   if (a.size() != b.size()) return a.size() < b.size();
   return a < b;
+}
+
+// The pieces of `text` between the `separator`s, empty ones included: one
+// more than there are separators.
+inline std::vector<std::string> Split(std::string_view text, char separator) {
+  std::vector<std::string> pieces(1);
+  for (char c : text) {
+    if (c == separator)
+      pieces.emplace_back();
+    else
+      pieces.back() += c;
+  }
+  return pieces;
 }
 
 }  // namespace morvane::text

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/support_db.h"
+#include "session/analysis_reasons.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
 
@@ -15,8 +16,6 @@ namespace {
 
 constexpr std::string_view kSectionMark = "'MORVANE Form Code for ";
 constexpr std::string_view kSectionEnd = "'MORVANE End Form Code for ";
-// A statement translated with a result the user should review.
-constexpr long kReview = 7;
 
 struct Section {
   std::string Form;
@@ -133,7 +132,7 @@ void SeparateSubformProcedures(ConversionSession& s, const std::string& formName
       renames[ToLower(name)] = renamed;
       own.push_back(ToLower(renamed));
       if (s.SupportDb)
-        s.SupportDb->AddReportOutput({formName, kReview, name, 0, renamed,
+        s.SupportDb->AddReportOutput({formName, kReasonReview, name, 0, renamed,
                                       "the module of " + section.Form + " on this form"});
     }
     for (const auto& name : own) taken.insert(name);
