@@ -13,6 +13,7 @@
 #include "forms/frm_text.h"
 #include "forms/picture_extraction.h"
 #include "reports/report_expressions.h"
+#include "session/analysis_reasons.h"
 #include "session/naming.h"
 
 namespace morvane {
@@ -390,7 +391,7 @@ void ReportState::Log(int errorId, const std::string& location) {
 }
 
 void ReportState::Review(const std::string& codeLine, const std::string& translated) {
-  Out->Review.push_back({Out->Name, 7, codeLine, 0, translated, SectionName});
+  Out->Review.push_back({Out->Name, kReasonReview, codeLine, 0, translated, SectionName});
   ++Out->ItemsToReview;
 }
 

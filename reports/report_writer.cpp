@@ -11,6 +11,7 @@
 #include "forms/frm_text.h"
 #include "reports/data_environment.h"
 #include "reports/report_items.h"
+#include "session/analysis_reasons.h"
 #include "session/naming.h"
 
 namespace morvane {
@@ -113,7 +114,7 @@ void AddParameterCode(ReportState& st) {
       "If rptEnvironment.rs" + c.Name + ".State <> 0 Then rptEnvironment.rs" + c.Name + ".Close";
   st.InitLines.push_back(close);
   st.InitLines.push_back(call);
-  st.Out->Review.push_back({st.Out->Name, 7, "Parameters: " + names, 0, call, ""});
+  st.Out->Review.push_back({st.Out->Name, kReasonReview, "Parameters: " + names, 0, call, ""});
 }
 
 }  // namespace
@@ -163,11 +164,11 @@ ConvertedReport ConvertReportDesign(const FormDesign& report, const Catalog* db,
 
   // A DataReport shows one level of groups, the command's grouping.
   if (groupedLevels > 1 || (groupedLevels == 1 && st.Command && !st.Command->Grouped))
-    out.Review.push_back({out.Name, 7, "Group levels: " + std::to_string(groupedLevels), 0,
-                          st.Command && st.Command->Grouped
-                              ? "DataMember = " + Quoted(st.Command->GroupingName())
-                              : std::string(),
-                          ""});
+    out.Review.push_back(
+        {out.Name, kReasonReview, "Group levels: " + std::to_string(groupedLevels), 0,
+         st.Command && st.Command->Grouped ? "DataMember = " + Quoted(st.Command->GroupingName())
+                                           : std::string(),
+         ""});
 
   for (size_t p = 0; p < kSectionOrder.size(); ++p) {
     if (!present[p] && !partner[p]) continue;
