@@ -77,7 +77,9 @@ fs::path OutputDirectory::Target(const fs::path& name) const {
 
 bool OutputDirectory::Write(const fs::path& name, std::string_view bytes, std::string* err) {
   std::string why;
-  if (!WriteFileWhole(Target(name), bytes, &why)) {
+  const bool ok = WriteFileWhole(Target(name), bytes, &why);
+  std::lock_guard<std::mutex> hold(lock_);
+  if (!ok) {
     failures_.push_back(why);
     if (err) *err = why;
     return false;
@@ -90,6 +92,7 @@ bool OutputDirectory::Copy(const fs::path& from, const fs::path& name, std::stri
   std::string bytes;
   std::string why;
   if (!ReadFileBytes(from, &bytes, &why)) {
+    std::lock_guard<std::mutex> hold(lock_);
     failures_.push_back(why);
     if (err) *err = why;
     return false;

@@ -1,11 +1,13 @@
 // The output directory of a run: every file the run makes is written here
 // whole and once, checked, and never left half-written in place of a good
-// one. A file that is already there is replaced by a temporary file beside
+// one; files may be written from several threads at once. A file that is
+// already there is replaced by a temporary file beside
 // it, renamed over it only when every byte has reached it; a new file that
 // cannot be written whole is removed.
 #pragma once
 
 #include <filesystem>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,6 +37,7 @@ class OutputDirectory {
   std::filesystem::path Target(const std::filesystem::path& name) const;
 
   std::filesystem::path dir_;
+  std::mutex lock_;  // over the record of what was written
   std::vector<std::string> failures_;
   int written_ = 0;
 };

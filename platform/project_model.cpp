@@ -236,6 +236,11 @@ bool ProjectModel::WriteComponent(const std::string& name, OutputDirectory& out,
   return true;
 }
 
+void ProjectModel::Written(const std::string& name) {
+  for (auto& c : components_)
+    if (c.Name == name) c.Text.reset();
+}
+
 void ProjectModel::Remove(const std::string& name) {
   const ProjectComponent* c = Find(name);
   if (!c) return;

@@ -77,6 +77,9 @@ class ProjectModel {
   // Writes the component's file and lets its text go. False with the
   // message of the failed write.
   bool WriteComponent(const std::string& name, OutputDirectory& out, std::string* err);
+  // Lets the text of a component go whose file was written from that same
+  // text elsewhere.
+  void Written(const std::string& name);
 
   const std::vector<ReferenceInfo>& References() const { return references_; }
   void AddFromGuid(const std::string& guid, int major, int minor);

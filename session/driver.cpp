@@ -79,13 +79,11 @@ bool WriteOutput(ConversionSession& s, RunSummary& summary, const std::string& o
   return false;
 }
 
-// Writes a component of the project; its text is let go. `checked` holds
-// what the check found when the text was checked beforehand.
+// Writes a component of the project; its text is let go.
 bool WriteComponent(ConversionSession& s, RunSummary& summary, const std::string& object,
-                    const std::string& component,
-                    const std::vector<ProjectFinding>* checked = nullptr) {
+                    const std::string& component) {
   std::string err;
-  if (WriteCheckedComponent(s, component, &err, checked)) return true;
+  if (WriteCheckedComponent(s, component, &err)) return true;
   Failed(summary, object, err);
   return false;
 }
@@ -281,8 +279,9 @@ void ConvertReportsStep(ConversionSession& s, Converters& c, RunSummary& summary
 // The modules of a run, translated on a thread of their own while the run
 // converts its macros, forms and reports, as a standard module's translation
 // depends on none of them: the thread works on a copy of the session whose
-// analysis rows are kept aside, and the modules step takes each translation
-// in turn, adding its rows where the translation would have added them. A
+// analysis rows are kept aside, checks and writes each module's file, and
+// the modules step takes each module in turn, adding its rows where the
+// translation would have added them. A
 // module whose translation met something the forms could still change (a
 // name first asked for, a query not in the database) is translated again by
 // the modules step, so the output is the same as one thread gives.
@@ -305,7 +304,6 @@ class ModuleTranslations {
     copy_.AccessApp = nullptr;
     copy_.ActiveProject = nullptr;
     copy_.ControlProject = nullptr;
-    copy_.Output = nullptr;
     copy_.Ui = nullptr;
     copy_.Speculative = true;
     thread_ = std::thread([this, &c] { TranslateAll(*c.Code); });
@@ -320,12 +318,15 @@ class ModuleTranslations {
     std::string File;
     std::string Path;
     TextDocument Source;
-    // Filled by the thread when its translation stands.
+    // Filled by the thread when its translation stands; the file is then
+    // written, or `WriteError` says why not.
     bool Translated = false;
     TextDocument Text;  // translated and indented
     std::vector<DeferredRow> Rows;
     std::array<bool, 21> ListControlsUsed{};
     std::vector<ProjectFinding> Findings;
+    bool WriteFailed = false;
+    std::string WriteError;
   };
 
   // Module `i` of the run's list, once the thread is done.
@@ -355,6 +356,7 @@ class ModuleTranslations {
         }
         SilentIndent(text);
         m.Findings = CheckComponentText(m.Path, text.Lines());
+        m.WriteFailed = !copy_.Output->Write(m.Path, text.Bytes(), &m.WriteError);
         m.Text = std::move(text);
         m.ListControlsUsed = copy_.ListControlsUsed;
         m.Translated = true;
@@ -380,21 +382,24 @@ void ConvertModulesStep(ConversionSession& s, Converters& c, RunSummary& summary
       Failed(summary, name, NotReadWhy(s, AccessObjectKind::Module, name));
     } else if (!m.Read) {
       Failed(summary, name, Text(kMsgObjectNotRead));
-    } else {
-      const std::vector<ProjectFinding>* checked = nullptr;
-      if (m.Translated) {
-        AddDeferredRows(s, m.Rows);
-        for (size_t k = 0; k < m.ListControlsUsed.size(); ++k)
-          if (m.ListControlsUsed[k]) s.ListControlsUsed[k] = true;
-        checked = &m.Findings;
-      } else {
-        m.Text = c.Code->TranslateCode(s, m.Source, m.File, kModeModule);  // M4
-        SilentIndent(m.Text);                                              // M6
-      }
-      m.Source = TextDocument();
+    } else if (m.Translated) {
+      AddDeferredRows(s, m.Rows);
+      for (size_t k = 0; k < m.ListControlsUsed.size(); ++k)
+        if (m.ListControlsUsed[k]) s.ListControlsUsed[k] = true;
       const ProjectComponent* component = s.ActiveProject->Add(m.Path, std::move(m.Text));
-      if (WriteComponent(s, summary, name, component->Name, checked)) ++summary.Modules;
+      RecordCheckFindings(s, m.Findings);
+      s.ActiveProject->Written(component->Name);
+      if (!m.WriteFailed)
+        ++summary.Modules;
+      else
+        Failed(summary, name, m.WriteError);
+    } else {
+      TextDocument text = c.Code->TranslateCode(s, m.Source, m.File, kModeModule);  // M4
+      SilentIndent(text);                                                           // M6
+      const ProjectComponent* component = s.ActiveProject->Add(m.Path, std::move(text));
+      if (WriteComponent(s, summary, name, component->Name)) ++summary.Modules;
     }
+    m = ModuleTranslations::Module();
     if (s.Ui) s.Ui->ProgressStep(1, name);  // M7
   }
 }

@@ -277,13 +277,13 @@ std::vector<ProjectFinding> CheckComponentText(const std::filesystem::path& file
   return findings;
 }
 
-bool WriteCheckedComponent(ConversionSession& s, const std::string& component, std::string* err,
-                           const std::vector<ProjectFinding>* checked) {
-  if (checked) {
-    for (const auto& f : *checked) Record(s, f);
-  } else if (const ProjectComponent* c = s.ActiveProject->Find(component); c && c->Text) {
-    for (const auto& f : CheckComponentText(c->File, c->Text->Lines())) Record(s, f);
-  }
+void RecordCheckFindings(ConversionSession& s, const std::vector<ProjectFinding>& findings) {
+  for (const auto& f : findings) Record(s, f);
+}
+
+bool WriteCheckedComponent(ConversionSession& s, const std::string& component, std::string* err) {
+  if (const ProjectComponent* c = s.ActiveProject->Find(component); c && c->Text)
+    RecordCheckFindings(s, CheckComponentText(c->File, c->Text->Lines()));
   return s.ActiveProject->WriteComponent(component, *s.Output, err);
 }
 

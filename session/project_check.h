@@ -39,12 +39,14 @@ std::string FormatFinding(const ProjectFinding& f);
 std::vector<ProjectFinding> CheckComponentText(const std::filesystem::path& file,
                                                const std::vector<std::string>& lines);
 
-// A component of the run, checked as it is written: each finding becomes a
-// row of the analysis under the component's name and counts for the run.
-// Then the file is written. False with the message of a failed write.
-// `checked` holds the findings when the text was checked beforehand.
-bool WriteCheckedComponent(ConversionSession& s, const std::string& component, std::string* err,
-                           const std::vector<ProjectFinding>* checked = nullptr);
+// Each finding of a component's check becomes a row of the analysis under
+// the component's name and counts for the run.
+void RecordCheckFindings(ConversionSession& s, const std::vector<ProjectFinding>& findings);
+
+// A component of the run, checked as it is written: its findings are
+// recorded, then the file is written. False with the message of a failed
+// write.
+bool WriteCheckedComponent(ConversionSession& s, const std::string& component, std::string* err);
 
 // The check of the project itself at the end of a conversion (its name, one
 // component of each name), and the run's note on what the checks found.

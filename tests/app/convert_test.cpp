@@ -439,18 +439,24 @@ TEST(Convert, AnOutputDirectoryInsideTheSourceIsRefused) {
 
 TEST(Convert, AFileThatCannotBeWrittenLeavesTheGoodOneAndIsNamed) {
   TempDir dir;
-  const std::string sample = std::string(MORVANE_SOURCE_DIR) + "/examples/Orders";
+  const fs::path sample = dir / "Orders";
+  fs::copy(kSample, sample, fs::copy_options::recursive);
+  // A module larger than the limit below, written while the forms are
+  // converted.
+  std::string big = "Attribute VB_Name = \"basBig\"\r\nOption Explicit\r\n";
+  while (big.size() < 30000) big += "' a long comment of the big module, line after line\r\n";
+  WriteFile(sample / "modules" / "basBig.bas", big);
   const std::string out = (dir / "out").string();
-  ASSERT_EQ(RunMorvane({"convert", sample, "-o", out, "--yes"}).status, 0);
+  ASSERT_EQ(RunMorvane({"convert", sample.string(), "-o", out, "--yes"}).status, 0);
   const auto before = test::Snapshot(out);
-  // A file size limit of 20 KiB: the conversion code and the largest form
-  // cannot be written again, the other files can.
-  auto r = RunMorvane({"convert", sample, "-o", out, "--yes"}, "ulimit -f 20");
+  // A file size limit of 20 KiB: the conversion code, the big module and the
+  // largest form cannot be written again, the other files can.
+  auto r = RunMorvane({"convert", sample.string(), "-o", out, "--yes"}, "ulimit -f 20");
   EXPECT_EQ(r.status, 3) << r.err;
-  EXPECT_NE(r.err.find("error: MorvaneConversionCode: cannot write " + out +
-                       "/MorvaneConversionCode.bas"),
-            std::string::npos)
-      << r.err;
+  for (const std::string object : {"MorvaneConversionCode", "basBig"})
+    EXPECT_NE(r.err.find("error: " + object + ": cannot write " + out + "/" + object + ".bas"),
+              std::string::npos)
+        << r.err;
   // Every file is as the first run left it, none cut short, and no part of
   // a file is left behind.
   const auto after = test::Snapshot(out);
