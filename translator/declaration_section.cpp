@@ -33,7 +33,9 @@ std::vector<bool> StandAlone(const std::vector<std::string>& lines, size_t count
 }  // namespace
 
 bool RepeatsDeclaration(const std::vector<std::string>& lines, size_t index) {
-  if (index >= lines.size() || lines[index].empty()) return false;
+  // A comment makes no statement: the user's repeated comment lines (a rule
+  // of dashes between declarations) all stay.
+  if (index >= lines.size() || TrimBlanks(CodePart(lines[index])).empty()) return false;
   const std::vector<bool> alone = StandAlone(lines, index + 1);
   if (!alone[index]) return false;
   for (size_t i = 0; i < index; ++i)

@@ -12,7 +12,7 @@ namespace morvane {
 // (before `index`) already makes, word for word. A part of a continued
 // statement, a member or the end of a Type or Enum block, and a line inside
 // an #If block (where each branch needs its own copy) never repeat one: taking
-// them out would break the statement or the block.
+// them out would break the statement or the block. Nor does a comment.
 bool RepeatsDeclaration(const std::vector<std::string>& lines, size_t index);
 
 }  // namespace morvane
