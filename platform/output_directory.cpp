@@ -88,6 +88,40 @@ bool OutputDirectory::Write(const fs::path& name, std::string_view bytes, std::s
   return true;
 }
 
+void OutputDirectory::WriteLater(std::string object, fs::path name, std::string bytes) {
+  std::lock_guard<std::mutex> hold(queueLock_);
+  queue_.push_back({std::move(object), std::move(name), std::move(bytes)});
+  if (!writer_.joinable()) writer_ = std::thread([this] { WriteQueued(); });
+  queueChanged_.notify_one();
+}
+
+void OutputDirectory::WriteQueued() {
+  std::unique_lock<std::mutex> hold(queueLock_);
+  for (;;) {
+    queueChanged_.wait(hold, [this] { return !queue_.empty() || settling_; });
+    if (queue_.empty()) return;
+    Queued next = std::move(queue_.front());
+    queue_.pop_front();
+    hold.unlock();
+    std::string err;
+    const bool ok = Write(next.name, next.bytes, &err);
+    hold.lock();
+    if (!ok) queuedFailures_.emplace_back(std::move(next.object), std::move(err));
+  }
+}
+
+std::vector<std::pair<std::string, std::string>> OutputDirectory::Settle() {
+  {
+    std::lock_guard<std::mutex> hold(queueLock_);
+    settling_ = true;
+    queueChanged_.notify_one();
+  }
+  if (writer_.joinable()) writer_.join();
+  std::lock_guard<std::mutex> hold(queueLock_);
+  settling_ = false;
+  return std::exchange(queuedFailures_, {});
+}
+
 bool OutputDirectory::Copy(const fs::path& from, const fs::path& name, std::string* err) {
   std::string bytes;
   std::string why;

@@ -6,10 +6,14 @@
 // cannot be written whole is removed.
 #pragma once
 
+#include <condition_variable>
+#include <deque>
 #include <filesystem>
 #include <mutex>
 #include <string>
 #include <string_view>
+#include <thread>
+#include <utility>
 #include <vector>
 
 namespace morvane {
@@ -17,6 +21,9 @@ namespace morvane {
 class OutputDirectory {
  public:
   explicit OutputDirectory(std::filesystem::path dir) : dir_(std::move(dir)) {}
+  ~OutputDirectory() { Settle(); }
+  OutputDirectory(const OutputDirectory&) = delete;
+  OutputDirectory& operator=(const OutputDirectory&) = delete;
 
   const std::filesystem::path& Path() const { return dir_; }
 
@@ -25,6 +32,12 @@ class OutputDirectory {
   // write fails (a full disk, no permission, a file size limit); the old file
   // of that name, if any, is then left as it was.
   bool Write(const std::filesystem::path& name, std::string_view bytes, std::string* err);
+  // Writes the file the same way on a thread of the directory's own; the
+  // call returns at once. `object` is what the file is written for.
+  void WriteLater(std::string object, std::filesystem::path name, std::string bytes);
+  // Waits until every file given to WriteLater is written; the objects whose
+  // file could not be written, each with the message.
+  std::vector<std::pair<std::string, std::string>> Settle();
   // Copies a file into the directory the same way.
   bool Copy(const std::filesystem::path& from, const std::filesystem::path& name, std::string* err);
 
@@ -35,11 +48,24 @@ class OutputDirectory {
 
  private:
   std::filesystem::path Target(const std::filesystem::path& name) const;
+  void WriteQueued();
 
   std::filesystem::path dir_;
   std::mutex lock_;  // over the record of what was written
   std::vector<std::string> failures_;
   int written_ = 0;
+
+  struct Queued {
+    std::string object;
+    std::filesystem::path name;
+    std::string bytes;
+  };
+  std::mutex queueLock_;  // over the queue, the writer's state and its failures
+  std::condition_variable queueChanged_;
+  std::deque<Queued> queue_;
+  bool settling_ = false;
+  std::thread writer_;
+  std::vector<std::pair<std::string, std::string>> queuedFailures_;
 };
 
 // Writes a file whole, as OutputDirectory::Write does, outside any run.

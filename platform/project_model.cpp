@@ -225,15 +225,22 @@ const ProjectComponent* ProjectModel::AddFile(const std::filesystem::path& file)
   return c;
 }
 
-bool ProjectModel::WriteComponent(const std::string& name, OutputDirectory& out, std::string* err) {
+std::string ProjectModel::TakeBytes(const std::string& name) {
   for (auto& c : components_) {
     if (c.Name != name || !c.Text) continue;
     c.Objects = ObjectLines(c.Text->Lines());
-    const bool ok = out.Write(c.File, c.Text->Bytes(), err);
+    std::string bytes = c.Text->Bytes();
     c.Text.reset();
-    return ok;
+    return bytes;
   }
-  return true;
+  return std::string();
+}
+
+bool ProjectModel::WriteComponent(const std::string& name, OutputDirectory& out, std::string* err) {
+  const ProjectComponent* c = Find(name);
+  if (!c || !c->Text) return true;
+  const std::filesystem::path file = c->File;
+  return out.Write(file, TakeBytes(name), err);
 }
 
 void ProjectModel::Written(const std::string& name) {

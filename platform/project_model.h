@@ -80,6 +80,9 @@ class ProjectModel {
   // Lets the text of a component go whose file was written from that same
   // text elsewhere.
   void Written(const std::string& name);
+  // The bytes of the component's file; its text is let go. Empty when the
+  // component has no text.
+  std::string TakeBytes(const std::string& name);
 
   const std::vector<ReferenceInfo>& References() const { return references_; }
   void AddFromGuid(const std::string& guid, int major, int minor);

@@ -229,7 +229,12 @@ void ConvertFormsStep(ConversionSession& s, Converters& c, RunSummary& summary) 
         AddFormPropertyCode(s, *c.Forms, name, *component);                        // F14
         if (!form.DatasheetForms[0].empty()) c.Forms->AddDatasheetGrids(s, name);  // F15
         c.Code->MoveDeclarationBlocks(s, vbName);
-        if (WriteComponent(s, summary, name, vbName)) ++summary.Forms;
+        // The file is written beside the next forms; a failed write is
+        // counted back when the forms are done.
+        CheckComponent(s, vbName);
+        const std::filesystem::path written = s.ActiveProject->Find(vbName)->File;
+        s.Output->WriteLater(name, written, s.ActiveProject->TakeBytes(vbName));
+        ++summary.Forms;
       } else {
         // Kept out of the project; its text stays in the output directory.
         WriteOutput(s, summary, name, file, text.Bytes());
@@ -237,6 +242,10 @@ void ConvertFormsStep(ConversionSession& s, Converters& c, RunSummary& summary) 
       }
     }
     if (s.Ui) s.Ui->ProgressStep(3, name);  // F17
+  }
+  for (const auto& [form, why] : s.Output->Settle()) {
+    Failed(summary, form, why);
+    --summary.Forms;
   }
 }
 

@@ -281,9 +281,13 @@ void RecordCheckFindings(ConversionSession& s, const std::vector<ProjectFinding>
   for (const auto& f : findings) Record(s, f);
 }
 
-bool WriteCheckedComponent(ConversionSession& s, const std::string& component, std::string* err) {
+void CheckComponent(ConversionSession& s, const std::string& component) {
   if (const ProjectComponent* c = s.ActiveProject->Find(component); c && c->Text)
     RecordCheckFindings(s, CheckComponentText(c->File, c->Text->Lines()));
+}
+
+bool WriteCheckedComponent(ConversionSession& s, const std::string& component, std::string* err) {
+  CheckComponent(s, component);
   return s.ActiveProject->WriteComponent(component, *s.Output, err);
 }
 

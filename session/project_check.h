@@ -43,6 +43,10 @@ std::vector<ProjectFinding> CheckComponentText(const std::filesystem::path& file
 // the component's name and counts for the run.
 void RecordCheckFindings(ConversionSession& s, const std::vector<ProjectFinding>& findings);
 
+// The check of a component of the run as its text stands, its findings
+// recorded.
+void CheckComponent(ConversionSession& s, const std::string& component);
+
 // A component of the run, checked as it is written: its findings are
 // recorded, then the file is written. False with the message of a failed
 // write.

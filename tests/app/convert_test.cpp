@@ -441,22 +441,36 @@ TEST(Convert, AFileThatCannotBeWrittenLeavesTheGoodOneAndIsNamed) {
   TempDir dir;
   const fs::path sample = dir / "Orders";
   fs::copy(kSample, sample, fs::copy_options::recursive);
-  // A module larger than the limit below, written while the forms are
-  // converted.
-  std::string big = "Attribute VB_Name = \"basBig\"\r\nOption Explicit\r\n";
-  while (big.size() < 30000) big += "' a long comment of the big module, line after line\r\n";
-  WriteFile(sample / "modules" / "basBig.bas", big);
+  // A module and a form larger than the limit below, each written on a
+  // thread beside the run's own.
+  const std::string comments = [] {
+    std::string lines;
+    while (lines.size() < 30000) lines += "' a long comment, line after line\r\n";
+    return lines;
+  }();
+  WriteFile(sample / "modules" / "basBig.bas",
+            "Attribute VB_Name = \"basBig\"\r\nOption Explicit\r\n" + comments);
+  WriteFile(sample / "forms" / "frmBig.txt",
+            "Version =20\r\nVersionRequired =20\r\nBegin Form\r\n    Width =7200\r\n"
+            "    Caption =\"Big\"\r\n    Begin\r\n        Begin Section\r\n"
+            "            Height =1000\r\n            Name =\"Detail\"\r\n        End\r\n"
+            "    End\r\nEnd\r\nCodeBehindForm\r\nAttribute VB_GlobalNameSpace = False\r\n"
+            "Attribute VB_Creatable = True\r\nAttribute VB_PredeclaredId = True\r\n"
+            "Attribute VB_Exposed = False\r\nOption Compare Database\r\n" +
+                comments);
   const std::string out = (dir / "out").string();
   ASSERT_EQ(RunMorvane({"convert", sample.string(), "-o", out, "--yes"}).status, 0);
   const auto before = test::Snapshot(out);
-  // A file size limit of 20 KiB: the conversion code, the big module and the
-  // largest form cannot be written again, the other files can.
+  // A file size limit of 20 KiB: the conversion code and the big module and
+  // form cannot be written again, the other files can.
   auto r = RunMorvane({"convert", sample.string(), "-o", out, "--yes"}, "ulimit -f 20");
   EXPECT_EQ(r.status, 3) << r.err;
-  for (const std::string object : {"MorvaneConversionCode", "basBig"})
-    EXPECT_NE(r.err.find("error: " + object + ": cannot write " + out + "/" + object + ".bas"),
+  for (const std::string file : {"MorvaneConversionCode.bas", "basBig.bas", "frmBig.frm"}) {
+    const std::string object = file.substr(0, file.find('.'));
+    EXPECT_NE(r.err.find("error: " + object + ": cannot write " + out + "/" + file),
               std::string::npos)
         << r.err;
+  }
   // Every file is as the first run left it, none cut short, and no part of
   // a file is left behind.
   const auto after = test::Snapshot(out);
