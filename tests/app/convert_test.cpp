@@ -460,6 +460,8 @@ TEST(Convert, AFileThatCannotBeWrittenLeavesTheGoodOneAndIsNamed) {
                 comments);
   const std::string out = (dir / "out").string();
   ASSERT_EQ(RunMorvane({"convert", sample.string(), "-o", out, "--yes"}).status, 0);
+  // Every one of the form's repeated comment lines stays.
+  EXPECT_GT(ReadFile(fs::path(out) / "frmBig.frm").size(), comments.size());
   const auto before = test::Snapshot(out);
   // A file size limit of 20 KiB: the conversion code and the big module and
   // form cannot be written again, the other files can.
