@@ -25,18 +25,20 @@ inline long PeakKiB() {
   return 0;
 }
 
-// A run over `root`/src into `root`/out, put together as the command line
-// puts one together, with every question answered Yes.
+// A run over `root`/src into `root`/out (or another folder of `root`), put
+// together as the command line puts one together, with every question
+// answered Yes.
 class BenchRun {
  public:
   BenchRun() : run_(Options()) {}
 
   // False, with the reason on stderr, when the source cannot be opened or
   // the selection does not fit it.
-  bool Open(const std::filesystem::path& root, const Selection& selection) {
+  bool Open(const std::filesystem::path& root, const Selection& selection,
+            const std::string& output = "out") {
     std::string err;
     if (run_.Open({root / "src", {}, {}}, &err) &&
-        run_.MakeRequest((root / "out").string(), selection, &request_, &err))
+        run_.MakeRequest((root / output).string(), selection, &request_, &err))
       return true;
     std::fprintf(stderr, "%s\n", err.c_str());
     return false;
@@ -77,11 +79,13 @@ struct TimedSummary {
   double Seconds = 0;
 };
 
-// One timed run of `selection` over `root`; nothing when it cannot be opened.
+// One timed run of `selection` over `root` into its folder `output`;
+// nothing when it cannot be opened.
 inline std::optional<TimedSummary> TimedRun(const std::filesystem::path& root,
-                                            const Selection& selection) {
+                                            const Selection& selection,
+                                            const std::string& output = "out") {
   BenchRun run;
-  if (!run.Open(root, selection)) return std::nullopt;
+  if (!run.Open(root, selection, output)) return std::nullopt;
   TimedSummary timed;
   timed.Summary = run.Run(&timed.Seconds);
   return timed;

@@ -3,8 +3,9 @@
 // converted through the composition root the command line uses, against a
 // copy of the same tree (cp -r) made in the same run; each is followed by a
 // sync, so that both count the writes the disk must take. Both are done a
-// few times (the fourth argument, 3 by default) into fresh directories, and
-// the medians are compared: a copy of this size takes a few hundredths of a
+// few times (the fourth argument, 3 by default), each round into folders of
+// its own that nothing was removed from (a file system hands out the places
+// of files removed a moment ago slowly), and the medians are compared: a copy of this size takes a few hundredths of a
 // second, so one slow copy or conversion would swing a single ratio widely.
 // Prints the medians, their ratio and the range of each.
 #include <unistd.h>
@@ -53,13 +54,12 @@ int main(int argc, char** argv) {
   std::vector<double> copies, conversions;
   RunSummary summary;
   for (int r = 0; r < rounds; ++r) {
-    fs::remove_all(root / "copy");
+    const std::string round = std::to_string(r);
     copies.push_back(SecondsOf("cp -r '" + (root / "src").string() + "' '" +
-                               (root / "copy").string() + "' && sync"));
-    fs::remove_all(root / "out");
+                               (root / ("copy" + round)).string() + "' && sync"));
     Selection all;
     all.All = true;
-    const std::optional<bench::TimedSummary> run = bench::TimedRun(root, all);
+    const std::optional<bench::TimedSummary> run = bench::TimedRun(root, all, "out" + round);
     if (!run) return 1;
     summary = run->Summary;
     conversions.push_back(run->Seconds + SecondsOf("sync"));
