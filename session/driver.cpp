@@ -296,34 +296,34 @@ void ConvertReportsStep(ConversionSession& s, Converters& c, RunSummary& summary
 // the modules step, so the output is the same as one thread gives.
 class ModuleTranslations {
  public:
-  ModuleTranslations(ConversionSession& s, Converters& c) : copy_(s), names_(s.Names) {
+  ModuleTranslations(ConversionSession& s, Converters& c)
+      : session_(s), code_(*c.Code), copy_(s), names_(s.Names) {
     modules_.resize(s.ModuleList.size());
     for (size_t i = 1; i < s.ModuleList.size(); ++i) {
-      const std::string& name = s.ModuleList[i];
       Module& m = modules_[i];
-      m.Found = s.AccessApp && s.AccessApp->Find(AccessObjectKind::Module, name);
-      if (!m.Found) continue;
-      m.Read = c.Code->ExportModuleText(s, name, kModeModule, m.Source);  // M2
-      m.File = s.Names.Name(ComponentRole::Module, name).File;
+      m.Name = s.ModuleList[i];
+      m.File = s.Names.Name(ComponentRole::Module, m.Name).File;
       m.Path = OutputFile(s, m.File + ".bas");
     }
     if (!s.Options.TranslateModulesAside) return;
-    // The copy reaches nothing the run's own thread writes to.
+    // The copy reaches nothing the run's own thread writes to; the source
+    // tree is only read.
     copy_.SupportDb = nullptr;
-    copy_.AccessApp = nullptr;
     copy_.ActiveProject = nullptr;
     copy_.ControlProject = nullptr;
     copy_.Ui = nullptr;
     copy_.Speculative = true;
-    thread_ = std::thread([this, &c] { TranslateAll(*c.Code); });
+    thread_ = std::thread([this] { TranslateAll(); });
   }
   ~ModuleTranslations() { Wait(); }
   ModuleTranslations(const ModuleTranslations&) = delete;
   ModuleTranslations& operator=(const ModuleTranslations&) = delete;
 
   struct Module {
-    bool Found = false;  // the tree holds it
-    bool Read = false;   // its code could be read
+    std::string Name;
+    bool Read = false;      // its code was read
+    bool Found = false;     // the tree holds it
+    bool Exported = false;  // its code could be read
     std::string File;
     std::string Path;
     TextDocument Source;
@@ -338,10 +338,13 @@ class ModuleTranslations {
     std::string WriteError;
   };
 
-  // Module `i` of the run's list, once the thread is done.
+  // Module `i` of the run's list, once the thread is done; its code is read
+  // when the thread did not read it.
   Module& Take(size_t i) {
     Wait();
-    return modules_[i];
+    Module& m = modules_[i];
+    if (!m.Read) ReadCode(session_, m);
+    return m;
   }
 
  private:
@@ -349,10 +352,19 @@ class ModuleTranslations {
     if (thread_.joinable()) thread_.join();
   }
 
-  void TranslateAll(CodeConverter& code) {
+  void ReadCode(ConversionSession& s, Module& m) {
+    m.Read = true;
+    m.Found = s.AccessApp && s.AccessApp->Find(AccessObjectKind::Module, m.Name);
+    if (m.Found) m.Exported = code_.ExportModuleText(s, m.Name, kModeModule, m.Source);  // M2
+  }
+
+  void TranslateAll() {
+    CodeConverter& code = code_;
     try {
-      for (Module& m : modules_) {
-        if (!m.Read) continue;
+      for (size_t i = 1; i < modules_.size(); ++i) {
+        Module& m = modules_[i];
+        ReadCode(copy_, m);
+        if (!m.Exported) continue;
         const size_t known = copy_.Names.Count();
         copy_.SpeculationFailed = false;
         copy_.ListControlsUsed = {};
@@ -376,6 +388,8 @@ class ModuleTranslations {
     }
   }
 
+  ConversionSession& session_;
+  CodeConverter& code_;
   std::vector<Module> modules_;
   ConversionSession copy_;
   const NameRegistry names_;  // the names as the copy started with them
@@ -389,7 +403,7 @@ void ConvertModulesStep(ConversionSession& s, Converters& c, RunSummary& summary
     ModuleTranslations::Module& m = translations.Take(i);
     if (!m.Found) {
       Failed(summary, name, NotReadWhy(s, AccessObjectKind::Module, name));
-    } else if (!m.Read) {
+    } else if (!m.Exported) {
       Failed(summary, name, Text(kMsgObjectNotRead));
     } else if (m.Translated) {
       AddDeferredRows(s, m.Rows);
