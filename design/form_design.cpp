@@ -49,6 +49,26 @@ bool IsEventName(std::string_view name) {
 std::optional<double> DesignNumber(std::string_view v) {
   v = text::Trim(v);
   if (v.empty()) return std::nullopt;
+  // Plain digits, the usual case, with a minus sign or not: a whole number
+  // of up to 15 digits is exact as a double, so it is what strtod reads
+  // (minus zero included).
+  if (v.size() <= 16) {
+    std::string_view digits = v;
+    const bool negative = digits[0] == '-';
+    if (negative) digits.remove_prefix(1);
+    if (!digits.empty() && digits.size() <= 15) {
+      long long n = 0;
+      bool plain = true;
+      for (char c : digits) {
+        if (c < '0' || c > '9') {
+          plain = false;
+          break;
+        }
+        n = n * 10 + (c - '0');
+      }
+      if (plain) return negative ? -static_cast<double>(n) : static_cast<double>(n);
+    }
+  }
   // strtod needs a terminated copy; short numbers, the usual case, take one
   // on the stack.
   char small[64];
