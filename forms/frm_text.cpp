@@ -34,9 +34,15 @@ std::string DecimalText(double x) {
 }
 
 std::string ColorHex(long x) {
-  char buf[16];
-  std::snprintf(buf, sizeof buf, "%X", static_cast<unsigned>(static_cast<uint32_t>(x)));
-  return buf;
+  // Upper-case hexadecimal digits of the low 32 bits, as "%X" writes them.
+  char buf[8];
+  auto u = static_cast<uint32_t>(x);
+  size_t i = sizeof buf;
+  do {
+    buf[--i] = "0123456789ABCDEF"[u & 0xF];
+    u >>= 4;
+  } while (u != 0);
+  return std::string(buf + i, sizeof buf - i);
 }
 
 std::string Extent(double x) { return DecimalText(x * 1.7635); }
