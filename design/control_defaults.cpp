@@ -60,18 +60,15 @@ namespace {
 constexpr uint64_t kOnes = 0x0101010101010101ull;
 constexpr uint64_t kHigh = 0x8080808080808080ull;
 
-// Up to eight bytes of `text` from its start, zero-filled.
-uint64_t LoadWord(std::string_view text) {
-  uint64_t word = 0;
-  if (text.size() >= 8) {
-    std::memcpy(&word, text.data(), 8);
-    return word;
-  }
-  // A shorter tail is copied byte by byte: a short fixed copy is cheaper
-  // than a call to copy a variable length.
-  unsigned char bytes[8] = {};
-  for (size_t k = 0; k < text.size(); ++k) bytes[k] = static_cast<unsigned char>(text[k]);
-  std::memcpy(&word, bytes, 8);
+uint64_t Load8(const char* p) {
+  uint64_t word;
+  std::memcpy(&word, p, 8);
+  return word;
+}
+
+uint32_t Load4(const char* p) {
+  uint32_t word;
+  std::memcpy(&word, p, 4);
   return word;
 }
 
@@ -84,22 +81,47 @@ uint64_t FoldWord(uint64_t word) {
   return word | (upper >> 2);
 }
 
-// text::IEquals, eight bytes at a time.
+// Calls `fn` with words that together cover every byte of `text`: the whole
+// eight-byte words from the start, then the last eight bytes when a tail is
+// left (overlapping the word before). A text under eight bytes gives one
+// word: its first and last four bytes, or its bytes one by one when shorter.
+// Two texts of one length are cut alike, so they are equal when all their
+// words are.
+template <typename Fn>
+void ForEachWord(std::string_view text, Fn fn) {
+  const char* p = text.data();
+  const size_t n = text.size();
+  if (n >= 8) {
+    size_t i = 0;
+    for (; i + 8 <= n; i += 8) fn(Load8(p + i));
+    if (i < n) fn(Load8(p + n - 8));
+  } else if (n >= 4) {
+    fn(Load4(p) | (static_cast<uint64_t>(Load4(p + n - 4)) << 32));
+  } else {
+    uint64_t word = 0;
+    for (size_t k = 0; k < n; ++k) word |= static_cast<uint64_t>(static_cast<unsigned char>(p[k])) << (8 * k);
+    fn(word);
+  }
+}
+
+// text::IEquals, a word at a time.
 bool FoldedEquals(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
-  for (size_t i = 0; i < a.size(); i += 8)
-    if (FoldWord(LoadWord(a.substr(i))) != FoldWord(LoadWord(b.substr(i)))) return false;
-  return true;
+  const size_t n = a.size();
+  if (n != b.size()) return false;
+  if (n < 8) return text::IEquals(a, b);
+  for (size_t i = 0; i + 8 <= n; i += 8)
+    if (FoldWord(Load8(a.data() + i)) != FoldWord(Load8(b.data() + i))) return false;
+  return FoldWord(Load8(a.data() + n - 8)) == FoldWord(Load8(b.data() + n - 8));
 }
 
 }  // namespace
 
 uint64_t PropertySchema::FoldedHash(std::string_view name) {
   uint64_t h = 14695981039346656037ull ^ name.size();
-  for (size_t i = 0; i < name.size(); i += 8) {
-    h = (h ^ FoldWord(LoadWord(name.substr(i)))) * 0x9E3779B97F4A7C15ull;
+  ForEachWord(name, [&h](uint64_t word) {
+    h = (h ^ FoldWord(word)) * 0x9E3779B97F4A7C15ull;
     h ^= h >> 29;
-  }
+  });
   return h;
 }
 
@@ -110,8 +132,8 @@ const PropertyDefault* PropertySchema::Find(std::string_view name) const {
   for (size_t i = hash & mask;; i = (i + 1) & mask) {
     const uint32_t slot = slots_[i];
     if (slot == 0) return nullptr;
-    if (hashes_[slot - 1] == hash && FoldedEquals(properties_[slot - 1].Name, name))
-      return &properties_[slot - 1];
+    const PropertyDefault& d = properties_[slot - 1];
+    if (hashes_[slot - 1] == hash && FoldedEquals(d.Name, name)) return &d;
   }
 }
 
