@@ -91,6 +91,14 @@ std::optional<double> DesignNumber(std::string_view v) {
 
 int DesignObject::Line() const { return block_ ? block_->Line : 0; }
 
+bool DesignObject::HoldsEmbeddedMacros(const ExportBlock* block) {
+  if (!block) return false;
+  for (const ExportProperty& p : block->Properties)
+    if (p.Kind == ExportValueKind::Block && text::IEndsWith(p.Key, kEmbeddedMacroSuffix))
+      return true;
+  return false;
+}
+
 bool DesignObject::IsWritten(std::string_view name) const {
   return block_ && block_->Find(name) != nullptr;
 }
@@ -164,7 +172,7 @@ std::optional<DesignObject::Value> DesignObject::Resolve(std::string_view name) 
   auto v = Stored(name);
   // An event whose action is an embedded macro names that macro; the text
   // may leave the event out or mark it "[Embedded Macro]".
-  if (block_ && IsEventName(name) &&
+  if (hasMacros_ && IsEventName(name) &&
       (!v || (v->kind == Value::Kind::Text &&
               (v->text().empty() || v->text() == kEmbeddedMacroMark)))) {
     const ExportProperty* m = FindEmbeddedMacro(*block_, name);
@@ -245,7 +253,7 @@ bool DesignObject::IsNull(std::string_view name) const {
 }
 
 std::optional<std::string> DesignObject::EmbeddedMacro(std::string_view event) const {
-  if (!block_) return std::nullopt;
+  if (!hasMacros_) return std::nullopt;
   const ExportProperty* m = FindEmbeddedMacro(*block_, event);
   if (!m || m->Kind != ExportValueKind::Block) return std::nullopt;
   return m->Value;

@@ -93,7 +93,11 @@ class DesignObject {
 
   DesignObject(DesignKind kind, const ExportBlock* block, const ExportBlock* defaults,
                const PropertySchema* schema)
-      : kind_(kind), block_(block), defaults_(defaults), schema_(schema) {}
+      : kind_(kind),
+        block_(block),
+        defaults_(defaults),
+        schema_(schema),
+        hasMacros_(HoldsEmbeddedMacros(block)) {}
 
   // Values that no text or table holds: the type, the section, properties
   // Access derives from others. nullopt to read normally.
@@ -106,12 +110,15 @@ class DesignObject {
 
  private:
   friend class DesignLoader;
+  // Whether the block has an embedded macro block of any event.
+  static bool HoldsEmbeddedMacros(const ExportBlock* block);
   std::optional<Value> FromExport(const ExportProperty& p) const;
 
   DesignKind kind_;
   const ExportBlock* block_;     // the object's own block (null for none)
   const ExportBlock* defaults_;  // the form's default-control block for the type
   const PropertySchema* schema_;
+  bool hasMacros_;  // the block has an embedded macro; most have none
   std::string name_;
 };
 
