@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <stdexcept>
 
 #include "design/access_control_defaults_data.h"
@@ -54,19 +55,86 @@ bool IsNumberText(std::string_view v) {
 
 }  // namespace
 
-size_t PropertySchema::FoldedHash::operator()(std::string_view name) const {
-  size_t h = 14695981039346656037ull;  // FNV-1a over the folded bytes
-  for (char c : name) h = (h ^ static_cast<unsigned char>(text::Fold(c))) * 1099511628211ull;
+namespace {
+
+constexpr uint64_t kOnes = 0x0101010101010101ull;
+constexpr uint64_t kHigh = 0x8080808080808080ull;
+
+uint64_t Load8(const char* p) {
+  uint64_t word;
+  std::memcpy(&word, p, 8);
+  return word;
+}
+
+uint32_t Load4(const char* p) {
+  uint32_t word;
+  std::memcpy(&word, p, 4);
+  return word;
+}
+
+// text::Fold on each byte of a word: A to Z get their 0x20 bit.
+uint64_t FoldWord(uint64_t word) {
+  const uint64_t low = word & ~kHigh;
+  const uint64_t atLeastA = low + kOnes * (0x80 - 'A');
+  const uint64_t aboveZ = low + kOnes * (0x7F - 'Z');
+  const uint64_t upper = (atLeastA ^ aboveZ) & ~word & kHigh;
+  return word | (upper >> 2);
+}
+
+// Calls `fn` with words that together cover every byte of `text`: the whole
+// eight-byte words from the start, then the last eight bytes when a tail is
+// left (overlapping the word before). A text under eight bytes gives one
+// word: its first and last four bytes, or its bytes one by one when shorter.
+// Two texts of one length are cut alike, so they are equal when all their
+// words are.
+template <typename Fn>
+void ForEachWord(std::string_view text, Fn fn) {
+  const char* p = text.data();
+  const size_t n = text.size();
+  if (n >= 8) {
+    size_t i = 0;
+    for (; i + 8 <= n; i += 8) fn(Load8(p + i));
+    if (i < n) fn(Load8(p + n - 8));
+  } else if (n >= 4) {
+    fn(Load4(p) | (static_cast<uint64_t>(Load4(p + n - 4)) << 32));
+  } else {
+    uint64_t word = 0;
+    for (size_t k = 0; k < n; ++k) word |= static_cast<uint64_t>(static_cast<unsigned char>(p[k])) << (8 * k);
+    fn(word);
+  }
+}
+
+// text::IEquals, a word at a time.
+bool FoldedEquals(std::string_view a, std::string_view b) {
+  const size_t n = a.size();
+  if (n != b.size()) return false;
+  if (n < 8) return text::IEquals(a, b);
+  for (size_t i = 0; i + 8 <= n; i += 8)
+    if (FoldWord(Load8(a.data() + i)) != FoldWord(Load8(b.data() + i))) return false;
+  return FoldWord(Load8(a.data() + n - 8)) == FoldWord(Load8(b.data() + n - 8));
+}
+
+}  // namespace
+
+uint64_t PropertySchema::FoldedHash(std::string_view name) {
+  uint64_t h = 14695981039346656037ull ^ name.size();
+  ForEachWord(name, [&h](uint64_t word) {
+    h = (h ^ FoldWord(word)) * 0x9E3779B97F4A7C15ull;
+    h ^= h >> 29;
+  });
   return h;
 }
 
-bool PropertySchema::FoldedEqual::operator()(std::string_view a, std::string_view b) const {
-  return text::IEquals(a, b);
-}
-
 const PropertyDefault* PropertySchema::Find(std::string_view name) const {
-  const auto it = index_.find(name);
-  return it == index_.end() ? nullptr : &properties_[it->second];
+  if (slots_.empty()) return nullptr;
+  const uint64_t hash = FoldedHash(name);
+  const size_t mask = slots_.size() - 1;
+  for (size_t i = hash & mask;; i = (i + 1) & mask) {
+    const uint32_t slot = slots_[i];
+    if (slot == 0) return nullptr;
+    const PropertyDefault& d = properties_[slot - 1];
+    if (hashes_[slot - 1] == hash && FoldedEquals(d.Name, name)) return &d;
+  }
 }
 
 bool ParseControlDefaults(std::string_view text, std::vector<PropertySchema>* out,
@@ -118,9 +186,17 @@ bool ParseControlDefaults(std::string_view text, std::vector<PropertySchema>* ou
     props.insert(it, std::move(d));
   }
   for (auto& schema : *out) {
-    schema.index_.clear();
-    for (size_t i = 0; i < schema.properties_.size(); ++i)
-      schema.index_.emplace(schema.properties_[i].Name, i);
+    size_t size = 2;
+    while (size < 2 * schema.properties_.size()) size *= 2;
+    schema.slots_.assign(size, 0);
+    schema.hashes_.clear();
+    for (size_t i = 0; i < schema.properties_.size(); ++i) {
+      const uint64_t hash = PropertySchema::FoldedHash(schema.properties_[i].Name);
+      schema.hashes_.push_back(hash);
+      size_t slot = hash & (size - 1);
+      while (schema.slots_[slot] != 0) slot = (slot + 1) & (size - 1);
+      schema.slots_[slot] = static_cast<uint32_t>(i + 1);
+    }
   }
   return true;
 }

@@ -3,9 +3,9 @@
 // compiled in). Reading a property that the type's table lacks fails.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace morvane {
@@ -29,20 +29,15 @@ class PropertySchema {
 
  private:
   friend bool ParseControlDefaults(std::string_view, std::vector<PropertySchema>*, std::string*);
-  // Case-blind hashing and equality of names, so that a name in any case
-  // finds its row without a folded copy.
-  struct FoldedHash {
-    using is_transparent = void;
-    size_t operator()(std::string_view name) const;
-  };
-  struct FoldedEqual {
-    using is_transparent = void;
-    bool operator()(std::string_view a, std::string_view b) const;
-  };
+  // Case-blind hash of a name, so that a name in any case finds its row
+  // without a folded copy.
+  static uint64_t FoldedHash(std::string_view name);
   std::string type_;
   std::vector<PropertyDefault> properties_;  // sorted by name, case folded
-  // The position of each property in properties_, by name.
-  std::unordered_map<std::string, size_t, FoldedHash, FoldedEqual> index_;
+  std::vector<uint64_t> hashes_;              // FoldedHash of each property's name
+  // Open addressing over properties_: each slot holds a position plus one,
+  // or 0 when empty; a power of two in size, at most half full.
+  std::vector<uint32_t> slots_;
 };
 
 // The schema of a block type ("TextBox", "Form", "GroupedCheckBox", ...)

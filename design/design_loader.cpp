@@ -39,12 +39,19 @@ class DesignLoader {
       AddChildren(*s.Block(), -1, s.Index());
       s.count_ = form_->controls_.size() - s.first_;
     }
+    // Names are read often; each record reads its own once, now that all
+    // records are in place.
+    for (SectionDesign& s : form_->sections_) ReadName(s);
+    for (GroupLevelDesign& g : form_->levels_) ReadName(g);
+    for (ControlDesign& c : form_->controls_) ReadName(c);
   }
 
  private:
   struct PendingSection {
     size_t index;
   };
+
+  static void ReadName(DesignObject& o) { o.name_ = o.Text("Name").value_or(""); }
 
   void Note(int line, const std::string& message) {
     form_->notes_.push_back(file_ + ":" + std::to_string(line) + ": " + message);

@@ -16,14 +16,6 @@ namespace {
 
 using text::IEquals;
 
-std::optional<double> ParseNumber(std::string_view v) {
-  std::string s(text::Trim(v));
-  if (s.empty()) return std::nullopt;
-  char* end = nullptr;
-  double d = std::strtod(s.c_str(), &end);
-  if (!end || *end != '\0' || !std::isfinite(d)) return std::nullopt;
-  return d;
-}
 
 bool IsIdentifierChar(char c) {
   unsigned char u = static_cast<unsigned char>(c);
@@ -33,6 +25,19 @@ bool IsIdentifierChar(char c) {
 
 constexpr std::string_view kEmbeddedMacroMark = "[Embedded Macro]";
 
+// The block's embedded macro property of an event: the first key that reads
+// `event` followed by "EmMacro", without regard to case.
+const ExportProperty* FindEmbeddedMacro(const ExportBlock& block, std::string_view event) {
+  const size_t size = event.size() + kEmbeddedMacroSuffix.size();
+  for (const ExportProperty& p : block.Properties) {
+    std::string_view key = p.Key;
+    if (key.size() == size && IEquals(key.substr(0, event.size()), event) &&
+        IEquals(key.substr(event.size()), kEmbeddedMacroSuffix))
+      return &p;
+  }
+  return nullptr;
+}
+
 // Event properties are named On..., Before... or After....
 bool IsEventName(std::string_view name) {
   return text::IStartsWith(name, "On") || text::IStartsWith(name, "Before") ||
@@ -41,9 +46,58 @@ bool IsEventName(std::string_view name) {
 
 }  // namespace
 
+std::optional<double> DesignNumber(std::string_view v) {
+  v = text::Trim(v);
+  if (v.empty()) return std::nullopt;
+  // Plain digits, the usual case, with a minus sign or not: a whole number
+  // of up to 15 digits is exact as a double, so it is what strtod reads
+  // (minus zero included).
+  if (v.size() <= 16) {
+    std::string_view digits = v;
+    const bool negative = digits[0] == '-';
+    if (negative) digits.remove_prefix(1);
+    if (!digits.empty() && digits.size() <= 15) {
+      long long n = 0;
+      bool plain = true;
+      for (char c : digits) {
+        if (c < '0' || c > '9') {
+          plain = false;
+          break;
+        }
+        n = n * 10 + (c - '0');
+      }
+      if (plain) return negative ? -static_cast<double>(n) : static_cast<double>(n);
+    }
+  }
+  // strtod needs a terminated copy; short numbers, the usual case, take one
+  // on the stack.
+  char small[64];
+  std::string large;
+  const char* start = small;
+  if (v.size() < sizeof small) {
+    v.copy(small, v.size());
+    small[v.size()] = '\0';
+  } else {
+    large.assign(v);
+    start = large.c_str();
+  }
+  char* end = nullptr;
+  double d = std::strtod(start, &end);
+  if (!end || *end != '\0' || !std::isfinite(d)) return std::nullopt;
+  return d;
+}
+
 // --- DesignObject -----------------------------------------------------------
 
 int DesignObject::Line() const { return block_ ? block_->Line : 0; }
+
+bool DesignObject::HoldsEmbeddedMacros(const ExportBlock* block) {
+  if (!block) return false;
+  for (const ExportProperty& p : block->Properties)
+    if (p.Kind == ExportValueKind::Block && text::IEndsWith(p.Key, kEmbeddedMacroSuffix))
+      return true;
+  return false;
+}
 
 bool DesignObject::IsWritten(std::string_view name) const {
   return block_ && block_->Find(name) != nullptr;
@@ -58,16 +112,16 @@ std::optional<DesignObject::Value> DesignObject::FromExport(const ExportProperty
   switch (p.Kind) {
     case ExportValueKind::Number:
       v.kind = Value::Kind::Number;
-      v.text = p.Value;
+      v.ref = p.Value;
       return v;
     case ExportValueKind::Text:
     case ExportValueKind::Word:
     case ExportValueKind::Block:
-      v.text = p.Value;
+      v.ref = p.Value;
       return v;
     case ExportValueKind::Binary:
       v.kind = Value::Kind::Bytes;
-      v.text = p.Value;
+      v.ref = p.Value;
       return v;
     case ExportValueKind::NotDefault: {
       // The opposite of Access's own default; a boolean that the table does
@@ -93,11 +147,11 @@ std::optional<DesignObject::Value> DesignObject::Stored(std::string_view name) c
         case PropertyKind::Text:
         case PropertyKind::Event:
           v.kind = d->IsNull ? Value::Kind::Null : Value::Kind::Text;
-          v.text = d->Value;
+          v.ref = d->Value;
           break;
         case PropertyKind::Number:
           v.kind = Value::Kind::Number;
-          v.text = d->Value;
+          v.ref = d->Value;
           break;
         case PropertyKind::Flag:
           v.kind = Value::Kind::Flag;
@@ -118,16 +172,12 @@ std::optional<DesignObject::Value> DesignObject::Resolve(std::string_view name) 
   auto v = Stored(name);
   // An event whose action is an embedded macro names that macro; the text
   // may leave the event out or mark it "[Embedded Macro]".
-  if (block_ && IsEventName(name) &&
-      (!v ||
-       (v->kind == Value::Kind::Text && (v->text.empty() || v->text == kEmbeddedMacroMark)))) {
-    std::string macroKey = std::string(name) + std::string(kEmbeddedMacroSuffix);
-    const ExportProperty* m = block_->Find(macroKey);
-    if (m && m->Kind == ExportValueKind::Block) {
-      Value named;
-      named.text = MacroOwner() + "." + std::string(name);
-      return named;
-    }
+  if (hasMacros_ && IsEventName(name) &&
+      (!v || (v->kind == Value::Kind::Text &&
+              (v->text().empty() || v->text() == kEmbeddedMacroMark)))) {
+    const ExportProperty* m = FindEmbeddedMacro(*block_, name);
+    if (m && m->Kind == ExportValueKind::Block)
+      return Value::Of(Value::Kind::Text, MacroOwner() + "." + std::string(name));
   }
   return v;
 }
@@ -138,7 +188,8 @@ std::optional<std::string> DesignObject::Text(std::string_view name) const {
   switch (v->kind) {
     case Value::Kind::Text:
     case Value::Kind::Number:
-      return v->text;
+      if (v->owned) return std::move(v->own);
+      return std::string(v->ref);
     case Value::Kind::Flag:
       return std::string(v->flag ? "-1" : "0");
     case Value::Kind::Null:
@@ -155,7 +206,7 @@ std::optional<double> DesignObject::Real(std::string_view name) const {
   switch (v->kind) {
     case Value::Kind::Text:
     case Value::Kind::Number:
-      return ParseNumber(v->text);
+      return DesignNumber(v->text());
     case Value::Kind::Flag:
       return v->flag ? -1.0 : 0.0;
     default:
@@ -177,10 +228,10 @@ std::optional<bool> DesignObject::Flag(std::string_view name) const {
       return v->flag;
     case Value::Kind::Number:
     case Value::Kind::Text: {
-      std::string_view t = text::Trim(v->text);
+      std::string_view t = text::Trim(v->text());
       if (IEquals(t, "True") || IEquals(t, "Yes") || IEquals(t, "On")) return true;
       if (IEquals(t, "False") || IEquals(t, "No") || IEquals(t, "Off")) return false;
-      if (auto d = ParseNumber(t)) return *d != 0;
+      if (auto d = DesignNumber(t)) return *d != 0;
       return std::nullopt;
     }
     default:
@@ -191,7 +242,7 @@ std::optional<bool> DesignObject::Flag(std::string_view name) const {
 std::optional<std::string> DesignObject::Bytes(std::string_view name) const {
   auto v = Resolve(name);
   if (!v || v->kind != Value::Kind::Bytes) return std::nullopt;
-  return v->text;
+  return std::string(v->text());
 }
 
 bool DesignObject::Has(std::string_view name) const { return Resolve(name).has_value(); }
@@ -202,8 +253,8 @@ bool DesignObject::IsNull(std::string_view name) const {
 }
 
 std::optional<std::string> DesignObject::EmbeddedMacro(std::string_view event) const {
-  if (!block_) return std::nullopt;
-  const ExportProperty* m = block_->Find(std::string(event) + std::string(kEmbeddedMacroSuffix));
+  if (!hasMacros_) return std::nullopt;
+  const ExportProperty* m = FindEmbeddedMacro(*block_, event);
   if (!m || m->Kind != ExportValueKind::Block) return std::nullopt;
   return m->Value;
 }
@@ -215,7 +266,7 @@ std::span<const ControlDesign> SectionDesign::Controls() const {
 }
 
 std::optional<DesignObject::Value> SectionDesign::Computed(std::string_view name) const {
-  if (IEquals(name, "Section")) return Value{Value::Kind::Number, std::to_string(index_), false};
+  if (IEquals(name, "Section")) return Value::Of(Value::Kind::Number, std::to_string(index_));
   return std::nullopt;
 }
 
@@ -271,7 +322,7 @@ const FormDesign* ControlDesign::Form(std::string* err) const {
 std::string ControlDesign::EventProcPrefix() const {
   if (auto explicitPrefix = Stored("EventProcPrefix");
       explicitPrefix && IsWritten("EventProcPrefix"))
-    return explicitPrefix->text;
+    return std::string(explicitPrefix->text());
   std::string prefix = Name();
   for (char& c : prefix)
     if (!IsIdentifierChar(c)) c = '_';
@@ -279,24 +330,24 @@ std::string ControlDesign::EventProcPrefix() const {
 }
 
 std::optional<DesignObject::Value> ControlDesign::Computed(std::string_view name) const {
-  if (IEquals(name, "ControlType")) return Value{Value::Kind::Number, std::to_string(type_), false};
-  if (IEquals(name, "Section")) return Value{Value::Kind::Number, std::to_string(section_), false};
-  if (IEquals(name, "EventProcPrefix")) return Value{Value::Kind::Text, EventProcPrefix(), false};
+  if (IEquals(name, "ControlType")) return Value::Of(Value::Kind::Number, std::to_string(type_));
+  if (IEquals(name, "Section")) return Value::Of(Value::Kind::Number, std::to_string(section_));
+  if (IEquals(name, "EventProcPrefix")) return Value::Of(Value::Kind::Text, EventProcPrefix());
   // The text keeps a border as OldBorderStyle (transparent or not) and
   // BorderLineStyle; Access shows them as one BorderStyle: 0 transparent,
   // else the line style plus 1.
   if (IEquals(name, "BorderStyle") && !IsWritten("BorderStyle")) {
     auto old = Stored("OldBorderStyle");
     if (!old) return std::nullopt;
-    auto oldNumber = ParseNumber(old->text);
+    auto oldNumber = DesignNumber(old->text());
     if (!oldNumber) return std::nullopt;
     long style = 0;
     if (*oldNumber != 0) {
       auto line = Stored("BorderLineStyle");
-      auto lineNumber = line ? ParseNumber(line->text) : std::nullopt;
+      auto lineNumber = line ? DesignNumber(line->text()) : std::nullopt;
       style = (lineNumber ? std::lround(*lineNumber) : 0) + 1;
     }
-    return Value{Value::Kind::Number, std::to_string(style), false};
+    return Value::Of(Value::Kind::Number, std::to_string(style));
   }
   return std::nullopt;
 }
@@ -333,22 +384,28 @@ std::vector<FormDesign::EmbeddedMacroText> FormDesign::EmbeddedMacros() const {
       macros.push_back({owner + "." + event, p.Value});
     }
   };
-  collect(*this, name_);
-  for (const SectionDesign& s : sections_) collect(s, name_ + "." + s.Name());
-  for (const ControlDesign& c : controls_) collect(c, name_ + "." + c.Name());
+  collect(*this, Name());
+  for (const SectionDesign& s : sections_) collect(s, Name() + "." + s.Name());
+  for (const ControlDesign& c : controls_) collect(c, Name() + "." + c.Name());
   return macros;
 }
 
 std::optional<DesignObject::Value> FormDesign::Computed(std::string_view name) const {
-  if (IEquals(name, "Name")) return Value{Value::Kind::Text, name_, false};
+  if (IEquals(name, "Name")) {
+    Value v;
+    v.ref = Name();
+    return v;
+  }
   // The text keeps both window buttons in MinMaxButtons: 1 min, 2 max, 3 both.
   bool minButton = IEquals(name, "MinButton");
   if (!IsReport() && (minButton || IEquals(name, "MaxButton"))) {
     auto both = Stored("MinMaxButtons");
-    auto n = both ? ParseNumber(both->text) : std::nullopt;
+    auto n = both ? DesignNumber(both->text()) : std::nullopt;
     if (!n) return std::nullopt;
     long bits = std::lround(*n);
-    Value v{Value::Kind::Flag, {}, (bits & (minButton ? 1 : 2)) != 0};
+    Value v;
+    v.kind = Value::Kind::Flag;
+    v.flag = (bits & (minButton ? 1 : 2)) != 0;
     return v;
   }
   return std::nullopt;

@@ -30,6 +30,10 @@ enum class DesignKind { Form, Report, Section, Control, GroupLevel };
 // ("OnClick" + "EmMacro").
 inline constexpr std::string_view kEmbeddedMacroSuffix = "EmMacro";
 
+// A number as the records read it from text: blanks around it allowed,
+// nothing else after it; nullopt for no number.
+std::optional<double> DesignNumber(std::string_view text);
+
 // Common to all records: properties by name.
 class DesignObject {
  public:
@@ -57,7 +61,8 @@ class DesignObject {
   // Whether the text writes the property itself.
   bool IsWritten(std::string_view name) const;
 
-  std::string Name() const { return Text("Name").value_or(""); }
+  // The Name property, read once when the design is loaded.
+  const std::string& Name() const { return name_; }
   // Line of the object's "Begin" in the text, 0 for none.
   int Line() const;
   const ExportBlock* Block() const { return block_; }
@@ -67,15 +72,32 @@ class DesignObject {
   std::optional<std::string> EmbeddedMacro(std::string_view event) const;
 
  protected:
+  // A read value. Its text is a view of the export or the property table,
+  // which live as long as the design, or of `own` for a value computed here.
   struct Value {
     enum class Kind { Text, Number, Flag, Bytes, Null } kind = Kind::Text;
-    std::string text;
+    std::string_view ref;
     bool flag = false;
+    bool owned = false;
+    std::string own;
+
+    std::string_view text() const { return owned ? std::string_view(own) : ref; }
+    static Value Of(Kind kind, std::string text) {
+      Value v;
+      v.kind = kind;
+      v.owned = true;
+      v.own = std::move(text);
+      return v;
+    }
   };
 
   DesignObject(DesignKind kind, const ExportBlock* block, const ExportBlock* defaults,
                const PropertySchema* schema)
-      : kind_(kind), block_(block), defaults_(defaults), schema_(schema) {}
+      : kind_(kind),
+        block_(block),
+        defaults_(defaults),
+        schema_(schema),
+        hasMacros_(HoldsEmbeddedMacros(block)) {}
 
   // Values that no text or table holds: the type, the section, properties
   // Access derives from others. nullopt to read normally.
@@ -87,12 +109,17 @@ class DesignObject {
   std::optional<Value> Stored(std::string_view name) const;
 
  private:
+  friend class DesignLoader;
+  // Whether the block has an embedded macro block of any event.
+  static bool HoldsEmbeddedMacros(const ExportBlock* block);
   std::optional<Value> FromExport(const ExportProperty& p) const;
 
   DesignKind kind_;
   const ExportBlock* block_;     // the object's own block (null for none)
   const ExportBlock* defaults_;  // the form's default-control block for the type
   const PropertySchema* schema_;
+  bool hasMacros_;  // the block has an embedded macro; most have none
+  std::string name_;
 };
 
 // One section: detail, headers, footers, report group headers and footers.
@@ -229,9 +256,8 @@ class FormDesign : public DesignObject {
   FormDesign(DesignKind kind, const ExportBlock* block, const PropertySchema* schema)
       : DesignObject(kind, block, nullptr, schema) {}
   std::optional<Value> Computed(std::string_view name) const override;
-  std::string MacroOwner() const override { return name_; }
+  std::string MacroOwner() const override { return Name(); }
 
-  std::string name_;
   std::string file_;
   int version_ = 0;
   bool hasCode_ = false;

@@ -338,15 +338,22 @@ std::string FormWriter::DataControlOf(const std::string& formName) const {
   return s_.Names.DataControl(formName);
 }
 
+void UsedNames::push_back(std::string name) {
+  folded_.insert(ToLower(name));
+  names_.push_back(std::move(name));
+}
+
+bool UsedNames::Contains(std::string_view name) const {
+  return folded_.count(ToLower(name)) != 0;
+}
+
 std::string FormWriter::UniqueControlName(const std::string& wanted) {
   // A Visual Basic name: a character that cannot stand in one becomes "_",
   // and a name that does not start with a letter gets an "A".
   const std::string base = VbIdentifier(wanted, "A", 40);
   // Visual Basic tells names apart without regard to case.
   auto taken = [this](const std::string& candidate) {
-    for (const auto& used : t_.UsedControlNames)
-      if (EqualsNoCase(used, candidate)) return true;
-    return false;
+    return t_.UsedControlNames.Contains(candidate);
   };
   // Each clash adds the next letter; a name that would outgrow 40
   // characters is cut to make room for a number instead.

@@ -9,12 +9,34 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <string_view>
+#include <unordered_set>
 #include <vector>
 
 namespace morvane {
 
 struct ConversionSession;
 class DesignStore;
+
+// The control names a form has given out, in order, with a case-blind index
+// so that a clash is found without comparing against each name.
+class UsedNames {
+ public:
+  void push_back(std::string name);
+  void clear() {
+    names_.clear();
+    folded_.clear();
+  }
+  // Whether `name` is given out already, without regard to case.
+  bool Contains(std::string_view name) const;
+  size_t size() const { return names_.size(); }
+  const std::string& operator[](size_t i) const { return names_[i]; }
+
+ private:
+  std::vector<std::string> names_;
+  std::unordered_set<std::string> folded_;
+};
+
 class FormDesign;
 class ControlDesign;
 
@@ -77,7 +99,7 @@ struct FormTextSet {
   std::vector<int> PageControlCounts;
   int FormControlCount = 0;
   int FormPartialCount = 0;
-  std::vector<std::string> UsedControlNames;
+  UsedNames UsedControlNames;
   // Controls converted or named as not converted; the rest are named at the
   // end of the form, so that none is lost in silence.
   std::set<const ControlDesign*> Accounted;

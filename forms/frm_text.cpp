@@ -2,6 +2,7 @@
 #include "forms/frm_text.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cctype>
 #include <cmath>
 #include <cstdint>
@@ -21,9 +22,11 @@ namespace morvane {
 
 std::string DecimalText(double x) {
   if (x == std::floor(x) && std::fabs(x) < 1e15) {
+    // A whole number this small is exact as an integer; its digits are
+    // those "%.0f" writes, and minus zero is 0.
     char buf[32];
-    std::snprintf(buf, sizeof buf, "%.0f", x);
-    return std::string(buf) == "-0" ? "0" : buf;
+    const auto end = std::to_chars(buf, buf + sizeof buf, static_cast<long long>(x)).ptr;
+    return std::string(buf, end);
   }
   char buf[40];
   std::snprintf(buf, sizeof buf, "%.15g", x);
@@ -31,9 +34,15 @@ std::string DecimalText(double x) {
 }
 
 std::string ColorHex(long x) {
-  char buf[16];
-  std::snprintf(buf, sizeof buf, "%X", static_cast<unsigned>(static_cast<uint32_t>(x)));
-  return buf;
+  // Upper-case hexadecimal digits of the low 32 bits, as "%X" writes them.
+  char buf[8];
+  auto u = static_cast<uint32_t>(x);
+  size_t i = sizeof buf;
+  do {
+    buf[--i] = "0123456789ABCDEF"[u & 0xF];
+    u >>= 4;
+  } while (u != 0);
+  return std::string(buf + i, sizeof buf - i);
 }
 
 std::string Extent(double x) { return DecimalText(x * 1.7635); }
@@ -75,13 +84,35 @@ void AddLine(std::string& text, std::string_view head, const std::optional<long>
   AddLine(text, head, std::optional<std::string>(std::to_string(*value)), tail);
 }
 
+namespace {
+
+// The default decimal form of a whole number written as digits alone, with
+// a minus sign or not; nullopt for any other text, and for one too long to
+// be sure of.
+std::optional<std::string> PlainWholeNumber(std::string_view text) {
+  std::string_view digits = text;
+  const bool negative = !digits.empty() && digits[0] == '-';
+  if (negative) digits.remove_prefix(1);
+  if (digits.empty() || digits.size() > 15) return std::nullopt;
+  long long n = 0;
+  for (char c : digits) {
+    if (c < '0' || c > '9') return std::nullopt;
+    n = n * 10 + (c - '0');
+  }
+  return DecimalText(static_cast<double>(negative ? -n : n));
+}
+
+}  // namespace
+
 std::optional<std::string> ValueText(const DesignObject& o, std::string_view property) {
   auto text = o.Text(property);
   if (!text || text->empty()) return text;
-  // Numbers in default decimal form whatever the export wrote ("8.0").
+  // Numbers in default decimal form whatever the export wrote ("8.0"). The
+  // number read is that of the text just read (a flag reads -1 or 0).
   const unsigned char first = static_cast<unsigned char>((*text)[0]);
   if (std::isdigit(first) || first == '-') {
-    if (auto r = o.Real(property)) return DecimalText(*r);
+    if (auto whole = PlainWholeNumber(*text)) return whole;
+    if (auto r = DesignNumber(*text)) return DecimalText(*r);
   }
   return text;
 }

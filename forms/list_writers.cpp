@@ -57,8 +57,7 @@ std::string ClaimDataControlName(FormWriter& w, const std::string& controlName) 
   if (t.CurrentForm) taken.push_back(s.Names.DataControl(t.CurrentForm->Name()));
   auto isTaken = [&](const std::string& name) {
     auto same = [&](const std::string& used) { return EqualsNoCase(used, name); };
-    return std::any_of(t.UsedControlNames.begin(), t.UsedControlNames.end(), same) ||
-           std::any_of(taken.begin(), taken.end(), same);
+    return t.UsedControlNames.Contains(name) || std::any_of(taken.begin(), taken.end(), same);
   };
   const std::string base = ("dat" + controlName).substr(0, 40);
   std::string name = base;

@@ -23,15 +23,23 @@ struct Block {
   std::vector<std::pair<std::string, std::string>> moved;  // key, quoted value
 };
 
-std::string Trimmed(const std::string& line) {
+// The line from its first character that is no blank or tab.
+std::string_view Trimmed(std::string_view line) {
   const size_t b = line.find_first_not_of(" \t");
-  return b == std::string::npos ? std::string() : line.substr(b);
+  return b == std::string_view::npos ? std::string_view() : line.substr(b);
+}
+
+// Blanks off both ends, as TrimBlanks does, without a copy.
+std::string_view TrimmedBlanks(std::string_view text) {
+  const size_t b = text.find_first_not_of(' ');
+  if (b == std::string_view::npos) return {};
+  return text.substr(b, text.find_last_not_of(' ') - b + 1);
 }
 
 // "Key = "value"" split; false for a line of another shape.
-bool SplitProperty(const std::string& t, std::string* key, std::string* value) {
+bool SplitProperty(std::string_view t, std::string* key, std::string* value) {
   const size_t eq = t.find('=');
-  if (eq == std::string::npos || eq == 0) return false;
+  if (eq == std::string_view::npos || eq == 0) return false;
   *key = TrimBlanks(t.substr(0, eq));
   for (char c : *key)
     if (!IsNameCharacter(static_cast<unsigned char>(c))) return false;
@@ -56,12 +64,12 @@ void MoveLongProperties(ConversionSession& s, const std::string& formName,
   kept.reserve(lines.size());
   int propertyDepth = 0;  // inside BeginProperty ... EndProperty
   for (auto& line : lines) {
-    const std::string t = Trimmed(line);
+    const std::string_view t = Trimmed(line);
     if (StartsWithNoCase(t, "BeginProperty")) ++propertyDepth;
     if (StartsWithNoCase(t, "EndProperty") && propertyDepth > 0) --propertyDepth;
     if (propertyDepth == 0 && StartsWithNoCase(t, "Begin ")) {
       const size_t blank = t.find(' ', 6);
-      blocks.push_back({blocks.empty() || blank == std::string::npos
+      blocks.push_back({blocks.empty() || blank == std::string_view::npos
                             ? std::string()
                             : TrimBlanks(t.substr(blank + 1)),
                         "",
@@ -83,7 +91,7 @@ void MoveLongProperties(ConversionSession& s, const std::string& formName,
     } else if (propertyDepth == 0 && !blocks.empty()) {
       std::string key, value;
       const size_t eq = t.find('=');
-      if (eq != std::string::npos && EqualsNoCase(TrimBlanks(t.substr(0, eq)), "Index"))
+      if (eq != std::string_view::npos && EqualsNoCase(TrimmedBlanks(t.substr(0, eq)), "Index"))
         blocks.back().index = TrimBlanks(t.substr(eq + 1));
       if (line.size() > kLongest && SplitProperty(t, &key, &value)) {
         blocks.back().moved.emplace_back(key, value);

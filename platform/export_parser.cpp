@@ -2,6 +2,8 @@
 // stack of open blocks, so nesting costs no recursion and is bounded.
 #include "platform/export_parser.h"
 
+#include <cstdint>
+#include <cstring>
 #include <string>
 
 #include "platform/text_fold.h"
@@ -11,7 +13,22 @@ namespace morvane {
 namespace {
 
 using text::IEquals;
-using text::Trim;
+
+// Blanks and tabs off both ends, as text::Trim. Export lines are indented by
+// up to dozens of blanks, so leading blanks are skipped eight at a time.
+std::string_view Trim(std::string_view text) {
+  constexpr uint64_t kBlanks = 0x2020202020202020ull;
+  const size_t n = text.size();
+  size_t b = 0;
+  for (uint64_t word; b + 8 <= n; b += 8) {
+    std::memcpy(&word, text.data() + b, 8);
+    if (word != kBlanks) break;
+  }
+  while (b < n && (text[b] == ' ' || text[b] == '\t')) ++b;
+  size_t e = n;
+  while (e > b && (text[e - 1] == ' ' || text[e - 1] == '\t')) --e;
+  return text.substr(b, e - b);
+}
 
 struct Cursor {
   const std::vector<std::string>& lines;
@@ -167,7 +184,7 @@ class Parser {
       }
       ExportProperty prop;
       bool skipped = false;
-      if (!PropertyAt(&i, &prop, &skipped)) return false;
+      if (!PropertyAt(&i, t, &prop, &skipped)) return false;
       if (skipped) {
         doc->Skipped.push_back(std::move(prop));
         continue;
@@ -195,6 +212,7 @@ class Parser {
   bool TakeCode(size_t i, ExportDocument* doc) const {
     doc->HasCode = true;
     doc->CodeLine = static_cast<int>(i + 1);
+    doc->Code.reserve(doc->Code.size() + (c_.lines.size() - i - 1));
     for (size_t k = i + 1; k < c_.lines.size(); ++k) {
       if (c_.lines[k].size() > kMaxExportLineLength) return LongLine(k);
       doc->Code.push_back(c_.lines[k]);
@@ -202,10 +220,9 @@ class Parser {
     return true;
   }
 
-  // Reads the property that starts on line *i, with any continuation or
-  // value-block lines; *i ends on the last line used.
-  bool PropertyAt(size_t* i, ExportProperty* prop, bool* skipped) const {
-    std::string_view t = Trim(c_.lines[*i]);
+  // Reads the property that starts on line *i (`t`, trimmed), with any
+  // continuation or value-block lines; *i ends on the last line used.
+  bool PropertyAt(size_t* i, std::string_view t, ExportProperty* prop, bool* skipped) const {
     size_t eq = t.find('=');
     std::string_view key = eq == std::string_view::npos ? t : Trim(t.substr(0, eq));
     if (eq == std::string_view::npos || !IsKey(key)) {
@@ -334,7 +351,10 @@ bool DecodeQuotedPiece(std::string_view text, std::string* out, size_t* end) {
         ++k;
         continue;
       }
-      *out += value;
+      if (out->empty())
+        *out = std::move(value);
+      else
+        *out += value;
       *end = k + 1;
       return true;
     }
