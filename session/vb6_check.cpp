@@ -676,7 +676,9 @@ class Checker {
   }
 
   void LogicalLine(size_t line, std::string_view code) {
-    if (Compiled() && !Trim(code).starts_with("#")) {
+    // Trimmed once here, so that the tests below find no blanks to pass over.
+    code = Trim(code);
+    if (Compiled() && !code.starts_with("#")) {
       Vba64Words(line, code);
       if (auto problem = ExpressionProblem(code)) Problem(line, *problem);
     }
@@ -688,15 +690,18 @@ class Checker {
     while (digits < first.size() && first[digits] >= '0' && first[digits] <= '9') ++digits;
     if (digits > 0 && (digits == first.size() || IsBlank(first[digits])))
       first = Trim(first.substr(digits));
+    // A statement reads of the rest of its line only whether it holds code:
+    // the first of the statements behind it that is not empty stands for it.
     for (size_t k = 0; k < statements.size(); ++k) {
-      std::string rest;
-      for (size_t r = k + 1; r < statements.size(); ++r) rest += statements[r];
+      std::string_view rest;
+      for (size_t r = k + 1; r < statements.size() && rest.empty(); ++r) rest = statements[r];
       if (!Statement(line, statements[k], rest)) break;
     }
   }
 
   // Returns false when the statement takes the rest of the line with it
-  // (single-line If, Rem).
+  // (single-line If, Rem). `restOfLine` is empty when no code follows the
+  // statement on its line.
   bool Statement(size_t line, std::string_view statement, std::string_view restOfLine) {
     auto [w1, after1] = SplitWord(statement);
     if (w1.empty()) return true;
