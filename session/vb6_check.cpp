@@ -45,12 +45,18 @@ inline std::string_view Trim(std::string_view text) {
 // The word at the start of `text` (a leading "#" belongs to it), and the rest
 // behind it with its leading blanks removed.
 std::pair<std::string, std::string_view> SplitWord(std::string_view text) {
-  text = Trim(text);
-  size_t end = (!text.empty() && text.front() == '#') ? 1 : 0;
+  size_t begin = 0;
+  while (begin < text.size() && IsBlank(text[begin])) ++begin;
+  size_t end = begin < text.size() && text[begin] == '#' ? begin + 1 : begin;
   while (end < text.size() && IsNameChar(text[end])) ++end;
-  std::pair<std::string, std::string_view> out{std::string(text.substr(0, end)),
-                                               Trim(text.substr(end))};
-  for (char& c : out.first) c = text::Fold(c);
+  std::pair<std::string, std::string_view> out;
+  out.first.resize(end - begin);
+  for (size_t i = begin; i < end; ++i) out.first[i - begin] = text::Fold(text[i]);
+  size_t restBegin = end;
+  while (restBegin < text.size() && IsBlank(text[restBegin])) ++restBegin;
+  size_t restEnd = text.size();
+  while (restEnd > restBegin && IsBlank(text[restEnd - 1])) --restEnd;
+  out.second = text.substr(restBegin, restEnd - restBegin);
   return out;
 }
 
