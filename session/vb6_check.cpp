@@ -168,8 +168,10 @@ MaskedLine Mask(std::string_view line) {
   return m;
 }
 
+// Only the end of the text is trimmed: a "_" that stands alone has a blank
+// or the start of the text before it either way.
 bool EndsWithContinuation(std::string_view text) {
-  text = Trim(text);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
   if (text.empty() || text.back() != '_') return false;
   return text.size() == 1 || IsBlank(text[text.size() - 2]);
 }
@@ -206,10 +208,11 @@ bool IsVbNameLine(std::string_view line) {
          line.back() == '"';
 }
 
+// Only the start of the line is trimmed: a blank behind the word ends it
+// whether more follows or not.
 bool StartsWithWord(std::string_view line, std::string_view word) {
-  line = Trim(line);
-  return line.size() >= word.size() && line.substr(0, word.size()) == word &&
-         (line.size() == word.size() || IsBlank(line[word.size()]));
+  while (!line.empty() && IsBlank(line.front())) line.remove_prefix(1);
+  return line.starts_with(word) && (line.size() == word.size() || IsBlank(line[word.size()]));
 }
 
 // The control libraries a form may use, by the library part of a control's
