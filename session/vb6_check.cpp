@@ -149,12 +149,15 @@ void Mask(std::string_view line, MaskedLine& m) {
       return;
     } else {
       // A run of characters that neither open nor close anything is copied
-      // at once.
+      // at once; so are the blanks where a statement begins, which leave it
+      // beginning.
       size_t j = i + 1;
       if (!statementStart)
         while (j < line.size() && line[j] != '"' && line[j] != '#' && line[j] != '\'' &&
                line[j] != ':')
           ++j;
+      else if (IsBlank(c))
+        while (j < line.size() && IsBlank(line[j])) ++j;
       m.code.append(line.substr(i, j - i));
       i = j;
     }
