@@ -80,6 +80,8 @@ bool IsLabel(std::string_view t) {
     while (i < t.size() && std::isdigit(static_cast<unsigned char>(t[i]))) ++i;
     return i == t.size() || t[i] == ' ' || t[i] == ':';
   }
+  // A label ends in ":"; most lines hold none.
+  if (t.find(':') == std::string_view::npos) return false;
   if (!std::isalpha(static_cast<unsigned char>(t[0]))) return false;
   size_t i = 0;
   while (i < t.size() && (std::isalnum(static_cast<unsigned char>(t[i])) || t[i] == '_')) ++i;
@@ -177,11 +179,12 @@ Classified Classify(std::string_view code, Folded& folded) {
 // lines keep their buffer.
 void Indent(std::string& line, size_t blanks) {
   size_t b = 0;
-  while (b < line.size() && (line[b] == ' ' || line[b] == '\t')) ++b;
+  bool tab = false;  // among the leading blanks
+  while (b < line.size() && (line[b] == ' ' || line[b] == '\t')) tab = tab || line[b++] == '\t';
   size_t e = line.size();
   while (e > b && (line[e - 1] == ' ' || line[e - 1] == '\t')) --e;
   line.resize(e);
-  if (b == blanks && line.find('\t') >= b) return;  // the blanks it has are the ones it needs
+  if (b == blanks && !tab) return;  // the blanks it has are the ones it needs
   line.replace(0, b, blanks, ' ');
 }
 
