@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <cstring>
 #include <span>
 #include <string>
 #include <string_view>
@@ -46,16 +47,31 @@ bool IsWord(std::string_view lower, std::string_view word) {
 }
 
 // The code of a line without its trailing comment; quotes are respected.
+// An apostrophe opens the comment where an even number of quotes stands
+// before it, so only lines that hold an apostrophe are read quote by quote.
 std::string_view CodePart(std::string_view line) {
+  const char* data = line.data();
+  const size_t n = line.size();
   bool quoted = false;
-  for (size_t i = 0; i < line.size(); ++i) {
-    if (line[i] == '"') quoted = !quoted;
-    if (line[i] == '\'' && !quoted) return Trim(line.substr(0, i));
+  for (size_t from = 0; from < n;) {
+    const void* hit = std::memchr(data + from, '\'', n - from);
+    if (!hit) break;
+    const size_t at = static_cast<size_t>(static_cast<const char*>(hit) - data);
+    for (size_t i = from; i < at; ++i)
+      if (data[i] == '"') quoted = !quoted;
+    if (!quoted) return Trim(line.substr(0, at));
+    from = at + 1;
   }
   return Trim(line);
 }
 
-bool IsComment(std::string_view lower) { return Starts(lower, "'") || IsWord(lower, "rem"); }
+// A comment line, from its text past the blanks. Case only matters to "rem";
+// the character behind it is no letter.
+bool IsComment(std::string_view t) {
+  if (t.starts_with('\'')) return true;
+  if (t.size() < 3 || !text::IEquals(t.substr(0, 3), "rem")) return false;
+  return t.size() == 3 || t[3] == ' ' || t[3] == '\t' || t[3] == '\'' || t[3] == ':';
+}
 
 bool IsLabel(std::string_view t) {
   if (t.empty()) return false;
@@ -64,6 +80,8 @@ bool IsLabel(std::string_view t) {
     while (i < t.size() && std::isdigit(static_cast<unsigned char>(t[i]))) ++i;
     return i == t.size() || t[i] == ' ' || t[i] == ':';
   }
+  // A label ends in ":"; most lines hold none.
+  if (t.find(':') == std::string_view::npos) return false;
   if (!std::isalpha(static_cast<unsigned char>(t[0]))) return false;
   size_t i = 0;
   while (i < t.size() && (std::isalnum(static_cast<unsigned char>(t[i])) || t[i] == '_')) ++i;
@@ -161,11 +179,12 @@ Classified Classify(std::string_view code, Folded& folded) {
 // lines keep their buffer.
 void Indent(std::string& line, size_t blanks) {
   size_t b = 0;
-  while (b < line.size() && (line[b] == ' ' || line[b] == '\t')) ++b;
+  bool tab = false;  // among the leading blanks
+  while (b < line.size() && (line[b] == ' ' || line[b] == '\t')) tab = tab || line[b++] == '\t';
   size_t e = line.size();
   while (e > b && (line[e - 1] == ' ' || line[e - 1] == '\t')) --e;
   line.resize(e);
-  if (b == blanks && line.find('\t') >= b) return;  // the blanks it has are the ones it needs
+  if (b == blanks && !tab) return;  // the blanks it has are the ones it needs
   line.replace(0, b, blanks, ' ');
 }
 
@@ -177,15 +196,30 @@ class CodeIndenter {
     return d;
   }
 
-  // Indents one statement (its first line and its continuation lines).
-  void Statement(std::span<std::string> parts) {
+  // The statement that begins at lines[first]: its first line and the
+  // lines it goes on in. Returns the index behind its last line.
+  size_t Statement(std::vector<std::string>& lines, size_t first) {
     code_.clear();
-    for (const auto& p : parts) {
-      std::string_view c = CodePart(p);
-      if (c.ends_with(" _")) c.remove_suffix(2);
+    size_t end = first;
+    while (end < lines.size()) {
+      std::string_view c = CodePart(lines[end++]);
+      const bool continued = c.ends_with(" _");
+      if (continued) c.remove_suffix(2);
       code_ += c;
       code_ += ' ';
+      if (!continued) break;
     }
+    IndentStatement(std::span<std::string>(lines).subspan(first, end - first));
+    return end;
+  }
+
+  void Comment(std::string& line) { Indent(line, Blanks(Depth())); }
+
+  static size_t Blanks(int depth) { return static_cast<size_t>(std::max(0, depth)) * 4; }
+
+ private:
+  // Indents the lines of the statement whose code code_ holds.
+  void IndentStatement(std::span<std::string> parts) {
     Classified c = Classify(Trim(code_), folded_);
     if (c.closeProcedure) {
       while (!stack_.empty() && stack_.back() != kProcedure) stack_.pop_back();
@@ -199,11 +233,6 @@ class CodeIndenter {
     for (Block b : c.opens) stack_.push_back(b);
   }
 
-  void Comment(std::string& line) { Indent(line, Blanks(Depth())); }
-
-  static size_t Blanks(int depth) { return static_cast<size_t>(std::max(0, depth)) * 4; }
-
- private:
   std::vector<Block> stack_;
   std::string code_;
   Folded folded_;
@@ -259,24 +288,17 @@ void SilentIndent(TextDocument& doc) {
   CodeIndenter code;
   while (i < lines.size()) {
     const std::string_view t = Trim(lines[i]);
-    const std::string_view l = folded.Of(t);
     if (t.empty()) {
       lines[i].clear();
       ++i;
-    } else if (IsComment(l)) {
+    } else if (IsComment(t)) {
       code.Comment(lines[i]);
       ++i;
-    } else if (Starts(l, "#") || IsLabel(t)) {
+    } else if (t.front() == '#' || IsLabel(t)) {
       Indent(lines[i], 0);
       ++i;
     } else {
-      const size_t first = i++;
-      while (i < lines.size()) {
-        const std::string_view c = CodePart(lines[i - 1]);
-        if (!c.ends_with(" _")) break;
-        ++i;
-      }
-      code.Statement(std::span<std::string>(lines).subspan(first, i - first));
+      i = code.Statement(lines, i);
     }
   }
   doc.SetLines(std::move(lines));

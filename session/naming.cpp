@@ -179,11 +179,31 @@ bool IsDeviceName(std::string_view stem) {
 size_t FindNoCase(std::string_view text, std::string_view find, size_t from) {
   if (find.empty()) return from <= text.size() ? from : std::string_view::npos;
   if (text.size() < find.size()) return std::string_view::npos;
+  const size_t last = text.size() - find.size();
+  if (from > last) return std::string_view::npos;
+  // A needle that ends in a character that is neither a letter nor a blank
+  // ("Application.", "DSum(") is looked for by that character, which stands
+  // in the text in one spelling and seldom: memchr finds its places, and the
+  // text is compared around each.
+  size_t anchor = find.size() - 1;
+  const unsigned char end = static_cast<unsigned char>(find[anchor]);
+  if ((Fold(end) >= 'a' && Fold(end) <= 'z') || end == ' ' || end == '\t') anchor = 0;
+  if (anchor > 0 && anchor < find.size()) {
+    const char a = find[anchor];
+    const char* data = text.data();
+    for (size_t at = from + anchor; at <= last + anchor;) {
+      const void* hit = std::memchr(data + at, a, last + anchor - at + 1);
+      if (!hit) return std::string_view::npos;
+      const size_t h = static_cast<size_t>(static_cast<const char*>(hit) - data);
+      if (EqualsNoCase(text.substr(h - anchor, find.size()), find)) return h - anchor;
+      at = h + 1;
+    }
+    return std::string_view::npos;
+  }
   // The first character is looked for in both its cases with memchr, which
   // passes over the text far faster than a loop that folds each character.
   const char lower = static_cast<char>(Fold(find[0]));
   const char upper = (lower >= 'a' && lower <= 'z') ? static_cast<char>(lower - 32) : lower;
-  const size_t last = text.size() - find.size();
   const std::string_view rest = find.substr(1);
   auto next = [&](char c, size_t at) -> size_t {
     if (at > last) return std::string_view::npos;

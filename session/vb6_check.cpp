@@ -4,6 +4,7 @@
 #include "session/vb6_check.h"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <map>
 #include <optional>
@@ -12,6 +13,7 @@
 #include <utility>
 
 #include "platform/text_file.h"
+#include "platform/text_fold.h"
 #include "session/compiler_conditions.h"
 #include "session/naming.h"
 
@@ -43,10 +45,32 @@ inline std::string_view Trim(std::string_view text) {
 // The word at the start of `text` (a leading "#" belongs to it), and the rest
 // behind it with its leading blanks removed.
 std::pair<std::string, std::string_view> SplitWord(std::string_view text) {
-  text = Trim(text);
-  size_t end = (!text.empty() && text.front() == '#') ? 1 : 0;
+  size_t begin = 0;
+  while (begin < text.size() && IsBlank(text[begin])) ++begin;
+  size_t end = begin < text.size() && text[begin] == '#' ? begin + 1 : begin;
   while (end < text.size() && IsNameChar(text[end])) ++end;
-  return {ToLower(text.substr(0, end)), Trim(text.substr(end))};
+  std::pair<std::string, std::string_view> out;
+  out.first.resize(end - begin);
+  for (size_t i = begin; i < end; ++i) out.first[i - begin] = text::Fold(text[i]);
+  size_t restBegin = end;
+  while (restBegin < text.size() && IsBlank(text[restBegin])) ++restBegin;
+  size_t restEnd = text.size();
+  while (restEnd > restBegin && IsBlank(text[restEnd - 1])) --restEnd;
+  out.second = text.substr(restBegin, restEnd - restBegin);
+  return out;
+}
+
+// Folds a letter to lower case and leaves every other character different
+// from the lower-case letters.
+inline char LowerLetter(char c) { return static_cast<char>(c | 0x20); }
+
+// The first " as " (any case) at or after `from` in `code`.
+size_t FindAs(std::string_view code, size_t from) {
+  for (size_t p = from; p + 4 <= code.size(); ++p)
+    if (code[p] == ' ' && code[p + 3] == ' ' && LowerLetter(code[p + 1]) == 'a' &&
+        LowerLetter(code[p + 2]) == 's')
+      return p;
+  return std::string_view::npos;
 }
 
 // One line of text with its string literals emptied, so that keywords and
@@ -125,12 +149,15 @@ void Mask(std::string_view line, MaskedLine& m) {
       return;
     } else {
       // A run of characters that neither open nor close anything is copied
-      // at once.
+      // at once; so are the blanks where a statement begins, which leave it
+      // beginning.
       size_t j = i + 1;
       if (!statementStart)
         while (j < line.size() && line[j] != '"' && line[j] != '#' && line[j] != '\'' &&
                line[j] != ':')
           ++j;
+      else if (IsBlank(c))
+        while (j < line.size() && IsBlank(line[j])) ++j;
       m.code.append(line.substr(i, j - i));
       i = j;
     }
@@ -144,8 +171,10 @@ MaskedLine Mask(std::string_view line) {
   return m;
 }
 
+// Only the end of the text is trimmed: a "_" that stands alone has a blank
+// or the start of the text before it either way.
 bool EndsWithContinuation(std::string_view text) {
-  text = Trim(text);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
   if (text.empty() || text.back() != '_') return false;
   return text.size() == 1 || IsBlank(text[text.size() - 2]);
 }
@@ -182,10 +211,11 @@ bool IsVbNameLine(std::string_view line) {
          line.back() == '"';
 }
 
+// Only the start of the line is trimmed: a blank behind the word ends it
+// whether more follows or not.
 bool StartsWithWord(std::string_view line, std::string_view word) {
-  line = Trim(line);
-  return line.size() >= word.size() && line.substr(0, word.size()) == word &&
-         (line.size() == word.size() || IsBlank(line[word.size()]));
+  while (!line.empty() && IsBlank(line.front())) line.remove_prefix(1);
+  return line.starts_with(word) && (line.size() == word.size() || IsBlank(line[word.size()]));
 }
 
 // The control libraries a form may use, by the library part of a control's
@@ -290,8 +320,15 @@ std::optional<std::string> ExpressionProblem(std::string_view code) {
   if (!code.empty() && !suffix &&
       std::string_view("=&+*/\\^<>").find(code.back()) != std::string_view::npos)
     return "an expression that ends in the operator \"" + std::string(1, code.back()) + "\"";
+  // Only brackets, parentheses and digits begin what the loop looks for.
+  static constexpr auto kLooked = [] {
+    std::array<bool, 256> t{};
+    for (unsigned char c : std::string_view("[()0123456789")) t[c] = true;
+    return t;
+  }();
   for (size_t i = 0; i < code.size(); ++i) {
     const char c = code[i];
+    if (!kLooked[static_cast<unsigned char>(c)]) continue;
     if (c == '[') {  // a bracketed name may hold anything but "]"
       const size_t close = code.find(']', i);
       if (close == std::string_view::npos) break;
@@ -329,8 +366,7 @@ std::optional<std::string> ExpressionProblem(std::string_view code) {
     }
   }
   // "As MSForms!Label": a type's name never holds "!".
-  for (size_t p = FindNoCase(code, " as "); p != std::string::npos;
-       p = FindNoCase(code, " as ", p + 1)) {
+  for (size_t p = FindAs(code, 0); p != std::string::npos; p = FindAs(code, p + 1)) {
     size_t end = p + 4;
     while (end < code.size() && (IsNameChar(code[end]) || code[end] == '.' || code[end] == '!'))
       ++end;
@@ -380,16 +416,7 @@ std::string CloserOf(const std::string& kind) {
 
 class Checker {
  public:
-  explicit Checker(const std::vector<std::string>& lines) : lines_(lines) {
-    for (const auto& l : lines_) {
-      if (FindNoCase(l, "LongPtr") == std::string::npos) continue;
-      if (FindNoCase(l, "Enum LongPtr") != std::string::npos ||
-          FindNoCase(l, "Type LongPtr") != std::string::npos) {
-        declaresLongPtr_ = true;
-        break;
-      }
-    }
-  }
+  explicit Checker(const std::vector<std::string>& lines) : lines_(lines) {}
 
   std::vector<Vb6Finding> Run(FileKind kind) {
     for (size_t i = 0; i < lines_.size(); ++i)
@@ -661,7 +688,9 @@ class Checker {
   }
 
   void LogicalLine(size_t line, std::string_view code) {
-    if (Compiled() && !Trim(code).starts_with("#")) {
+    // Trimmed once here, so that the tests below find no blanks to pass over.
+    code = Trim(code);
+    if (Compiled() && !code.starts_with("#")) {
       Vba64Words(line, code);
       if (auto problem = ExpressionProblem(code)) Problem(line, *problem);
     }
@@ -673,15 +702,18 @@ class Checker {
     while (digits < first.size() && first[digits] >= '0' && first[digits] <= '9') ++digits;
     if (digits > 0 && (digits == first.size() || IsBlank(first[digits])))
       first = Trim(first.substr(digits));
+    // A statement reads of the rest of its line only whether it holds code:
+    // the first of the statements behind it that is not empty stands for it.
     for (size_t k = 0; k < statements.size(); ++k) {
-      std::string rest;
-      for (size_t r = k + 1; r < statements.size(); ++r) rest += statements[r];
+      std::string_view rest;
+      for (size_t r = k + 1; r < statements.size() && rest.empty(); ++r) rest = statements[r];
       if (!Statement(line, statements[k], rest)) break;
     }
   }
 
   // Returns false when the statement takes the rest of the line with it
-  // (single-line If, Rem).
+  // (single-line If, Rem). `restOfLine` is empty when no code follows the
+  // statement on its line.
   bool Statement(size_t line, std::string_view statement, std::string_view restOfLine) {
     auto [w1, after1] = SplitWord(statement);
     if (w1.empty()) return true;
@@ -835,18 +867,22 @@ class Checker {
   // VBA7's words in code that Visual Basic 6 compiles. A module that
   // declares LongPtr itself for older hosts may use it.
   void Vba64Words(size_t line, std::string_view code) {
-    // Each word holds "ptr" or "longlong": a line without either is left at
-    // once.
-    if (FindNoCase(code, "ptr") == std::string_view::npos &&
-        FindNoCase(code, "longlong") == std::string_view::npos)
-      return;
+    // Each word holds "ptr" or "longlong", and so "ptr" or "ngl": a line
+    // without either is left at once.
+    bool may = false;
+    for (size_t i = 1; i + 1 < code.size() && !may; ++i) {
+      const char c = LowerLetter(code[i]);
+      may = (c == 't' && LowerLetter(code[i - 1]) == 'p' && LowerLetter(code[i + 1]) == 'r') ||
+            (c == 'g' && LowerLetter(code[i - 1]) == 'n' && LowerLetter(code[i + 1]) == 'l');
+    }
+    if (!may) return;
     for (std::string_view word : {"PtrSafe", "LongPtr", "LongLong"}) {
       for (size_t p = FindNoCase(code, word); p != std::string_view::npos;
            p = FindNoCase(code, word, p + 1)) {
         const size_t end = p + word.size();
         if ((p > 0 && IsNameChar(code[p - 1])) || (end < code.size() && IsNameChar(code[end])))
           continue;
-        if (word == "LongPtr" && declaresLongPtr_) continue;
+        if (word == "LongPtr" && DeclaresLongPtr()) continue;
         Problem(line, std::string(word) + " is VBA7's; Visual Basic 6 does not know it");
         return;
       }
@@ -950,7 +986,23 @@ class Checker {
   };
   std::vector<Conditional> conditional_;
   std::vector<std::pair<std::string, std::string>> constants_;
-  bool declaresLongPtr_ = false;
+  // Whether the module declares LongPtr itself: read from all its lines the
+  // first time a LongPtr is met.
+  bool DeclaresLongPtr() {
+    if (!declaresLongPtr_) {
+      declaresLongPtr_ = false;
+      for (const auto& l : lines_) {
+        if (FindNoCase(l, "LongPtr") == std::string::npos) continue;
+        if (FindNoCase(l, "Enum LongPtr") != std::string::npos ||
+            FindNoCase(l, "Type LongPtr") != std::string::npos) {
+          declaresLongPtr_ = true;
+          break;
+        }
+      }
+    }
+    return *declaresLongPtr_;
+  }
+  std::optional<bool> declaresLongPtr_;
   std::map<std::string, size_t> procedureNames_;
 };
 

@@ -4,7 +4,8 @@
 #include "translator/global_substitutions.h"
 
 #include <algorithm>
-#include <bitset>
+#include <array>
+#include <cstdint>
 #include <string_view>
 
 #include "session/conversion_session.h"
@@ -145,7 +146,7 @@ class FoldedLine {
     // Most needles are ruled out by their first or last pair of characters,
     // which the line does not hold, before any search.
     const size_t n = find.size();
-    if (n >= 2 && (!pairs_.test(needle.first) || !pairs_.test(needle.last))) return false;
+    if (n >= 2 && (!Has(needle.first) || !Has(needle.last))) return false;
     for (size_t i = 0; i < n; ++i) buf[i] = Fold(find[i]);
     return lower_.find(std::string_view(buf, n)) != std::string::npos;
   }
@@ -159,16 +160,24 @@ class FoldedLine {
   void Changed() {
     lower_.assign(line_);
     for (char& c : lower_) c = Fold(c);
-    pairs_.reset();
-    for (size_t i = 0; i + 1 < lower_.size(); ++i) pairs_.set(PairKey(lower_[i], lower_[i + 1]));
+    pairs_.fill(0);
+    for (size_t i = 0; i + 1 < lower_.size(); ++i) {
+      const size_t key = PairKey(lower_[i], lower_[i + 1]);
+      pairs_[key / 64] |= uint64_t{1} << (key % 64);
+    }
   }
 
  private:
+  bool Has(size_t key) const { return (pairs_[key / 64] >> (key % 64)) & 1u; }
+
   std::string& line_;
-  std::string lower_;
-  std::bitset<4096> pairs_;  // the pairs of neighbouring characters of lower_, hashed
+  // The lower-case copy, in a buffer that each line reuses.
+  static thread_local std::string lower_;
+  std::array<uint64_t, 4096 / 64> pairs_;  // the pairs of neighbouring characters of lower_, hashed
   int* passed_;
 };
+
+thread_local std::string FoldedLine::lower_;
 
 template <size_t N>
 void ReplaceAll(FoldedLine& folded, const Replacement (&table)[N]) {

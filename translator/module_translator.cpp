@@ -94,7 +94,9 @@ std::string TranslateStatement(ModuleTranslation& t, std::string line, bool newL
   EventBodyRules(t, line);
   if (Fires(t, line, "Application.")) ApplicationRules(t, line);
 
-  const std::string original = line;
+  // The statement as it reached the rules below, kept for the one row that
+  // shows it beside its result.
+  std::string original;
   bool reassigns = false;
 
   if (StartsWithNoCase(line, "DoCmd.")) {
@@ -110,6 +112,7 @@ std::string TranslateStatement(ModuleTranslation& t, std::string line, bool newL
     // Another database: its local declaration is gone, so the line now sets
     // the program's one database variable. It stays, for the user to see.
     reassigns = true;
+    original = line;
   } else if (Fires(t, line, ".REQUERY", kInCodeExact)) {
     RequeryRule(t, line);
   }

@@ -171,6 +171,14 @@ void WriteStatement(ModuleTranslation& t, const std::string& statement, bool new
     ReportRule(t, kReasonKeptChoice, TrimBlanks(statement), text);
 }
 
+// A line without a colon that does not begin with Else, which
+// SplitStatements gives back whole: it is taken as it is, without a copy.
+bool IsOneStatement(std::string_view line) {
+  if (line.find(':') != std::string_view::npos) return false;
+  while (!line.empty() && (line.front() == ' ' || line.front() == '\t')) line.remove_prefix(1);
+  return !StartsWithNoCase(line, "else");
+}
+
 bool IsWholeLine(const ModuleTranslation& t, const std::string& trimmed) {
   return trimmed.empty() || trimmed[0] == '\'' || trimmed[0] == '#' ||
          StartsWithNoCase(trimmed, "Attribute ") || !t.Compiled();
@@ -184,7 +192,7 @@ void TranslateLogicalLine(ModuleTranslation& t, std::span<const std::string> lin
   }
   const bool comment = !joined.empty() && joined[0] == '\'';
   std::vector<std::string> statements;
-  if (IsWholeLine(t, joined))
+  if (IsWholeLine(t, joined) || IsOneStatement(joined))
     statements.push_back(std::move(joined));
   else
     statements = SplitStatements(joined);

@@ -146,6 +146,14 @@ size_t TripleKey(char a, char b, char c) {
          (kBuckets - 1);
 }
 
+// Each character in lower case, by table.
+constexpr auto kFolded = [] {
+  std::array<unsigned char, 256> t{};
+  for (size_t c = 0; c < 256; ++c)
+    t[c] = static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c + 32 : c);
+  return t;
+}();
+
 // The entries of the list, one bit each.
 struct EntrySet {
   static constexpr size_t kWords = (std::size(kFeatures) + 63) / 64;
@@ -175,13 +183,21 @@ struct EntrySet {
 struct Needles {
   std::array<std::string, std::size(kFeatures)> lowText, lowAlternative;
   std::vector<EntrySet> starts = std::vector<EntrySet>(kBuckets);
+  // The buckets that begin a needle, one bit each: a small table read for
+  // every character, where the large one is read for the few that hit.
+  std::array<uint64_t, kBuckets / 64> used{};
+  bool Used(size_t key) const { return (used[key / 64] >> (key % 64)) & 1u; }
   Needles() {
     static_assert(kMinNeedle >= 3);
     for (size_t i = 0; i < std::size(kFeatures); ++i) {
       lowText[i] = ToLower(kFeatures[i].text);
       lowAlternative[i] = ToLower(kFeatures[i].alternative);
       for (const std::string* low : {&lowText[i], &lowAlternative[i]})
-        if (!low->empty()) starts[TripleKey((*low)[0], (*low)[1], (*low)[2])].set(i);
+        if (!low->empty()) {
+          const size_t key = TripleKey((*low)[0], (*low)[1], (*low)[2]);
+          starts[key].set(i);
+          used[key / 64] |= uint64_t{1} << (key % 64);
+        }
     }
   }
 };
@@ -210,18 +226,30 @@ bool Holds(const std::string& line, const std::string& lower, std::string_view t
 
 // The first entry that fires, or nothing; `attribute` is set when the list
 // stops at an "Attribute " line.
+char Fold(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + 32) : c; }
+
 const Feature* FirstFeature(const std::string& line, bool* attribute, int* passed) {
-  // The lower-case copy lives in a buffer that each line reuses.
-  thread_local std::string lower;
-  lower.assign(line);
-  for (char& c : lower)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 32);
   const Needles& needles = PreparedNeedles();
   // The entries whose text the line may hold; the others cannot fire, nor
   // pass over a hit.
   EntrySet candidates;
-  for (size_t i = 0; i + 2 < lower.size(); ++i)
-    candidates |= needles.starts[TripleKey(lower[i], lower[i + 1], lower[i + 2])];
+  if (line.size() >= 3) {
+    // The key of the three that end at i is (a * 31 + b) * 31 + c: the part
+    // of the two before c is carried from one character to the next.
+    size_t b = kFolded[static_cast<unsigned char>(line[1])];
+    size_t pair = kFolded[static_cast<unsigned char>(line[0])] * 31u + b;
+    for (size_t i = 2; i < line.size(); ++i) {
+      const size_t c = kFolded[static_cast<unsigned char>(line[i])];
+      const size_t key = (pair * 31u + c) & (kBuckets - 1);
+      if (needles.Used(key)) candidates |= needles.starts[key];
+      pair = b * 31u + c;
+      b = c;
+    }
+  }
+  // The lower-case copy, made for the first entry that needs it, lives in a
+  // buffer that each line reuses.
+  thread_local std::string lower;
+  bool lowered = false;
   // The "Attribute " entry is tried at its place in the order whether the
   // line holds its text or not.
   candidates.set(kAttributeEntry);
@@ -233,6 +261,11 @@ const Feature* FirstFeature(const std::string& line, bool* attribute, int* passe
         return nullptr;
       }
       continue;
+    }
+    if (!lowered) {
+      lower.assign(line);
+      for (char& c : lower) c = Fold(c);
+      lowered = true;
     }
     auto holds = [&](std::string_view text, const std::string& low, bool exact) {
       return Holds(line, lower, text, low, exact, passed);

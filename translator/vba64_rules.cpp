@@ -22,9 +22,21 @@ constexpr Replacement kVba64Words[] = {
     {"LongLong", "Currency"},         {"CLngLng(", "CCur("},
 };
 
+// Folds a letter to lower case and leaves every other character different
+// from the lower-case letters.
+char LowerLetter(char c) { return static_cast<char>(c | 0x20); }
+
 // Whether the line holds "ptr", "longlong" or "lnglng" in any case, found
-// in one pass over it.
+// in one pass over it. Each holds "ptr" or "ngl", which are looked for first,
+// by their middle letter.
 bool HoldsMarker(std::string_view line) {
+  bool may = false;
+  for (size_t i = 1; i + 1 < line.size() && !may; ++i) {
+    const char c = LowerLetter(line[i]);
+    may = (c == 't' && LowerLetter(line[i - 1]) == 'p' && LowerLetter(line[i + 1]) == 'r') ||
+          (c == 'g' && LowerLetter(line[i - 1]) == 'n' && LowerLetter(line[i + 1]) == 'l');
+  }
+  if (!may) return false;
   for (size_t i = 0; i < line.size(); ++i) {
     const char c = line[i];
     if (c == 'p' || c == 'P') {
@@ -53,6 +65,7 @@ std::string Vba64Rewrite(const std::string& line) {
 }
 
 void Vba64Rules(ModuleTranslation& t, std::string& line) {
+  if (!HoldsMarker(line)) return;
   std::string rewritten = Vba64Rewrite(line);
   if (rewritten == line) return;
   ReportRule(t, kReason64Bit, line, rewritten);
