@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 
 #include "platform/encoding.h"
@@ -78,11 +79,9 @@ bool IsReview(long reasonId) {
   return r && r->review;
 }
 
-// HTML text from Windows-1252 bytes: markup characters escaped; the page
-// declares its encoding.
-std::string Html(const std::string& text) {
-  std::string out;
-  out.reserve(text.size());
+// HTML text from Windows-1252 bytes, added to `out`: markup characters
+// escaped; the page declares its encoding.
+void AppendHtml(std::string& out, std::string_view text) {
   for (char c : text) {
     switch (c) {
       case '&':
@@ -104,11 +103,32 @@ std::string Html(const std::string& text) {
         out += c;
     }
   }
+}
+
+std::string Html(const std::string& text) {
+  std::string out;
+  out.reserve(text.size());
+  AppendHtml(out, text);
   return out;
 }
 
+// A cell of `s`, of the class `cls` when there is one, added to `out`.
+void AppendCell(std::string& out, std::string_view s, const char* cls = nullptr) {
+  if (cls) {
+    out += "<td class=";
+    out += cls;
+    out += '>';
+  } else {
+    out += "<td>";
+  }
+  AppendHtml(out, s);
+  out += "</td>";
+}
+
 std::string Cell(const std::string& s, const char* cls = nullptr) {
-  return std::string(cls ? "<td class=" + std::string(cls) + ">" : "<td>") + Html(s) + "</td>";
+  std::string out;
+  AppendCell(out, s, cls);
+  return out;
 }
 std::string Cell(long v) { return "<td class=n>" + std::to_string(v) + "</td>"; }
 // A line number; 0 is a row of no particular line (a control, a macro
@@ -185,7 +205,7 @@ class Page {
     Add("tr.total td{font-weight:bold}p.meta{color:#555}p.none{color:#2a6a2a}");
     Add("</style></head><body>");
   }
-  void Add(const std::string& line) { lines_.push_back(line); }
+  void Add(std::string line) { lines_.push_back(std::move(line)); }
   std::string Text() {
     lines_.push_back("</body></html>");
     return JoinCrLf(lines_);
@@ -275,10 +295,19 @@ void ObjectSections(Page& page, const std::vector<Object>& objects, const LineFi
       page.Add(
           "<table><tr><th>Line</th><th>Routine</th><th>What happened</th><th>Access</th>"
           "<th>Visual Basic</th></tr>");
-      for (const ReportOutputRow* r : lines)
-        page.Add(std::string("<tr class=") + (IsReview(r->ReasonID) ? "review" : "lost") + ">" +
-                 LineCell(r->LineNumber) + Cell(r->Routine) + Cell(ReasonText(r->ReasonID), "why") +
-                 Cell(r->CodeLine, "code") + Cell(r->TranslatedLine, "code") + "</tr>");
+      for (const ReportOutputRow* r : lines) {
+        // The page holds a row for every line of the analysis: each is made
+        // in one string.
+        std::string row = IsReview(r->ReasonID) ? "<tr class=review>" : "<tr class=lost>";
+        row.reserve(160 + r->Routine.size() + r->CodeLine.size() + r->TranslatedLine.size());
+        row += LineCell(r->LineNumber);
+        AppendCell(row, r->Routine);
+        AppendCell(row, ReasonText(r->ReasonID), "why");
+        AppendCell(row, r->CodeLine, "code");
+        AppendCell(row, r->TranslatedLine, "code");
+        row += "</tr>";
+        page.Add(std::move(row));
+      }
       page.Add("</table>");
     }
     if (log) {
