@@ -90,15 +90,15 @@ bool OutputDirectory::Write(const fs::path& name, std::string_view bytes, std::s
 
 void OutputDirectory::WriteLater(std::string object, fs::path name, std::string bytes) {
   std::lock_guard<std::mutex> hold(queueLock_);
-  queue_.push_back({std::move(object), std::move(name), std::move(bytes)});
-  if (!writer_.joinable()) writer_ = std::thread([this] { WriteQueued(); });
+  queue_.push_back({queuedCount_++, std::move(object), std::move(name), std::move(bytes)});
+  if (!writer_.joinable()) writer_ = std::thread([this] { WriteQueued(true); });
   queueChanged_.notify_one();
 }
 
-void OutputDirectory::WriteQueued() {
+void OutputDirectory::WriteQueued(bool untilSettled) {
   std::unique_lock<std::mutex> hold(queueLock_);
   for (;;) {
-    queueChanged_.wait(hold, [this] { return !queue_.empty() || settling_; });
+    if (untilSettled) queueChanged_.wait(hold, [this] { return !queue_.empty() || settling_; });
     if (queue_.empty()) return;
     Queued next = std::move(queue_.front());
     queue_.pop_front();
@@ -106,7 +106,8 @@ void OutputDirectory::WriteQueued() {
     std::string err;
     const bool ok = Write(next.name, next.bytes, &err);
     hold.lock();
-    if (!ok) queuedFailures_.emplace_back(std::move(next.object), std::move(err));
+    if (!ok)
+      queuedFailures_.emplace(next.order, std::make_pair(std::move(next.object), std::move(err)));
   }
 }
 
@@ -116,10 +117,15 @@ std::vector<std::pair<std::string, std::string>> OutputDirectory::Settle() {
     settling_ = true;
     queueChanged_.notify_one();
   }
+  // What the writer has not taken yet is written here, beside it.
+  WriteQueued(false);
   if (writer_.joinable()) writer_.join();
   std::lock_guard<std::mutex> hold(queueLock_);
   settling_ = false;
-  return std::exchange(queuedFailures_, {});
+  std::vector<std::pair<std::string, std::string>> failures;
+  for (auto& [order, failure] : queuedFailures_) failures.push_back(std::move(failure));
+  queuedFailures_.clear();
+  return failures;
 }
 
 bool OutputDirectory::Copy(const fs::path& from, const fs::path& name, std::string* err) {

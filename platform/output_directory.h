@@ -9,6 +9,7 @@
 #include <condition_variable>
 #include <deque>
 #include <filesystem>
+#include <map>
 #include <mutex>
 #include <string>
 #include <string_view>
@@ -48,7 +49,8 @@ class OutputDirectory {
 
  private:
   std::filesystem::path Target(const std::filesystem::path& name) const;
-  void WriteQueued();
+  // Writes the queued files: until Settle, or those queued now.
+  void WriteQueued(bool untilSettled);
 
   std::filesystem::path dir_;
   std::mutex lock_;  // over the record of what was written
@@ -56,6 +58,7 @@ class OutputDirectory {
   int written_ = 0;
 
   struct Queued {
+    size_t order;  // the place of the write among those queued
     std::string object;
     std::filesystem::path name;
     std::string bytes;
@@ -65,7 +68,9 @@ class OutputDirectory {
   std::deque<Queued> queue_;
   bool settling_ = false;
   std::thread writer_;
-  std::vector<std::pair<std::string, std::string>> queuedFailures_;
+  size_t queuedCount_ = 0;
+  // The failed writes by their order, which two threads may end in another.
+  std::map<size_t, std::pair<std::string, std::string>> queuedFailures_;
 };
 
 // Writes a file whole, as OutputDirectory::Write does, outside any run.
