@@ -78,7 +78,8 @@ struct ConversionSession {
   // thread: the analysis rows go to `Deferred`, never to the support
   // database, and whatever the copy cannot know for sure (a query that the
   // forms may still make) sets `SpeculationFailed`, so that the run
-  // translates the module again itself.
+  // translates the module again itself; the run does the same when the
+  // copy's name registry grew (a form named for the first time).
   bool Speculative = false;
   bool SpeculationFailed = false;
   std::vector<DeferredRow>* Deferred = nullptr;

@@ -359,7 +359,6 @@ class ModuleTranslations {
   }
 
   void TranslateAll() {
-    CodeConverter& code = code_;
     try {
       for (size_t i = 1; i < modules_.size(); ++i) {
         Module& m = modules_[i];
@@ -369,7 +368,7 @@ class ModuleTranslations {
         copy_.SpeculationFailed = false;
         copy_.ListControlsUsed = {};
         copy_.Deferred = &m.Rows;
-        TextDocument text = code.TranslateCode(copy_, m.Source, m.File, kModeModule);
+        TextDocument text = code_.TranslateCode(copy_, m.Source, m.File, kModeModule);
         if (copy_.SpeculationFailed || copy_.Names.Count() != known) {
           m.Rows.clear();
           copy_.Names = names_;
