@@ -299,8 +299,11 @@ std::string HexVersion(int major, int minor) {
 }
 
 std::string RelativeTo(const std::filesystem::path& file, const std::filesystem::path& base) {
+  // A file of the base folder itself needs no look at the disk.
+  std::filesystem::path rel = file.lexically_relative(base);
   std::error_code ec;
-  auto rel = std::filesystem::relative(file, base, ec);
+  if (rel.empty() || rel.has_parent_path() || rel == "." || rel == "..")
+    rel = std::filesystem::relative(file, base, ec);
   std::string s = (ec || rel.empty()) ? file.string() : rel.string();
   std::replace(s.begin(), s.end(), '/', '\\');
   return s;

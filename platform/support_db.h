@@ -119,6 +119,8 @@ class SupportDatabase {
   void ClearAnalysis();
 
   bool AddReportOutput(const ReportOutputRow& row);
+  // Adds `count` rows in their order, as many calls of AddReportOutput would.
+  bool AddReportOutputs(const ReportOutputRow* const* rows, size_t count);
   // Finds the row by ModuleName; writes each count only when it is not 0.
   bool MergeStats(const StatsRow& row);
   bool AddLog(const LogRow& row);

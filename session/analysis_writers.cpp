@@ -38,15 +38,24 @@ void LogEntry(ConversionSession& s, int errorId, const std::string& report,
 }
 
 void AddDeferredRows(ConversionSession& s, const std::vector<DeferredRow>& rows) {
+  std::vector<const ReportOutputRow*> lines;
+  const auto addLines = [&] {
+    if (s.SupportDb && !lines.empty()) s.SupportDb->AddReportOutputs(lines.data(), lines.size());
+    lines.clear();
+  };
   for (const DeferredRow& row : rows) {
     if (const auto* line = std::get_if<ReportOutputRow>(&row)) {
-      if (s.SupportDb) s.SupportDb->AddReportOutput(*line);
-    } else if (const auto* stats = std::get_if<StatsRow>(&row)) {
+      lines.push_back(line);
+      continue;
+    }
+    addLines();
+    if (const auto* stats = std::get_if<StatsRow>(&row)) {
       ModuleStats(s, *stats);
     } else if (s.SupportDb) {
       s.SupportDb->AddLog(std::get<LogRow>(row));
     }
   }
+  addLines();
 }
 
 }  // namespace morvane

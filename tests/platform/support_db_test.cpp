@@ -46,6 +46,33 @@ TEST(SupportDatabase, ClearingTheAnalysisKeepsTheLog) {
   EXPECT_EQ(db->Log()[0].Location, "Report_Open(");
 }
 
+TEST(SupportDatabase, RowsAddedTogetherKeepTheirOrderAmongSingleRows) {
+  test::TempDir dir;
+  auto db = SupportDatabase::Open(dir / "morvane.db", dir.path(), nullptr);
+  ASSERT_TRUE(db);
+  std::vector<ReportOutputRow> rows;
+  for (int i = 0; i < 70; ++i)  // two whole batches and a few more
+    rows.push_back({"bas" + std::to_string(i % 3), i, "line " + std::to_string(i), i + 1,
+                    i % 2 ? "" : "done", "Sub P" + std::to_string(i) + "("});
+  std::vector<const ReportOutputRow*> together;
+  for (size_t i = 1; i + 1 < rows.size(); ++i) together.push_back(&rows[i]);
+  ASSERT_TRUE(db->AddReportOutput(rows.front()));
+  ASSERT_TRUE(db->AddReportOutputs(together.data(), together.size()));
+  ASSERT_TRUE(db->AddReportOutput(rows.back()));
+
+  const std::vector<ReportOutputRow> read = db->ReportOutput();
+  ASSERT_EQ(read.size(), rows.size());
+  for (size_t i = 0; i < rows.size(); ++i) {
+    SCOPED_TRACE(i);
+    EXPECT_EQ(read[i].ModuleName, rows[i].ModuleName);
+    EXPECT_EQ(read[i].ReasonID, rows[i].ReasonID);
+    EXPECT_EQ(read[i].CodeLine, rows[i].CodeLine);
+    EXPECT_EQ(read[i].LineNumber, rows[i].LineNumber);
+    EXPECT_EQ(read[i].TranslatedLine, rows[i].TranslatedLine);
+    EXPECT_EQ(read[i].Routine, rows[i].Routine);
+  }
+}
+
 TEST(SupportDatabase, KeepsWindows1252BytesAsTheyAre) {
   test::TempDir dir;
   auto db = SupportDatabase::Open(dir / "morvane.db", dir.path(), nullptr);
