@@ -4,6 +4,7 @@
 #include "session/analysis_report.h"
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -82,8 +83,17 @@ bool IsReview(long reasonId) {
 // HTML text from Windows-1252 bytes, added to `out`: markup characters
 // escaped; the page declares its encoding.
 void AppendHtml(std::string& out, std::string_view text) {
-  for (char c : text) {
-    switch (c) {
+  // Runs without markup characters, most of any line, go in whole.
+  static constexpr auto kMarkup = [] {
+    std::array<bool, 256> markup{};
+    for (unsigned char c : std::string_view("&<>\"\t")) markup[c] = true;
+    return markup;
+  }();
+  size_t from = 0;
+  for (size_t at = 0; at < text.size(); ++at) {
+    if (!kMarkup[static_cast<unsigned char>(text[at])]) continue;
+    out.append(text, from, at - from);
+    switch (text[at]) {
       case '&':
         out += "&amp;";
         break;
@@ -96,13 +106,12 @@ void AppendHtml(std::string& out, std::string_view text) {
       case '"':
         out += "&quot;";
         break;
-      case '\t':
-        out += "&#9;";
-        break;
       default:
-        out += c;
+        out += "&#9;";
     }
+    from = at + 1;
   }
+  out.append(text, from);
 }
 
 std::string Html(const std::string& text) {
@@ -172,15 +181,24 @@ std::vector<Object> Objects(const SupportDatabase& db) {
   // do not search the list again: an object added later never comes before
   // the one a name first found.
   std::unordered_map<std::string, size_t> found;
+  // Rows come grouped by object: the last name found is asked for first.
+  const std::string* lastName = nullptr;
+  size_t last = 0;
   auto find = [&](const std::string& name) -> Object& {
-    if (const auto it = found.find(name); it != found.end()) return objects[it->second];
+    if (lastName && *lastName == name) return objects[last];
+    if (const auto it = found.find(name); it != found.end()) {
+      lastName = &it->first;
+      last = it->second;
+      return objects[last];
+    }
     const std::string safe = SafeName(name);
     size_t at = 0;
     while (at < objects.size() && !EqualsNoCase(objects[at].Name, name) &&
            !EqualsNoCase(objects[at].Name, safe))
       ++at;
     if (at == objects.size()) objects.push_back({name, {}, {}, {}});
-    found.emplace(name, at);
+    lastName = &found.emplace(name, at).first->first;
+    last = at;
     return objects[at];
   };
   for (const auto& r : db.Stats()) find(r.ModuleName).Count = CountsOf(r);
@@ -205,14 +223,18 @@ class Page {
     Add("tr.total td{font-weight:bold}p.meta{color:#555}p.none{color:#2a6a2a}");
     Add("</style></head><body>");
   }
-  void Add(std::string line) { lines_.push_back(std::move(line)); }
+  // The page is made in one string: a large analysis has a line per row.
+  void Add(std::string_view line) {
+    text_ += line;
+    text_ += "\r\n";
+  }
   std::string Text() {
-    lines_.push_back("</body></html>");
-    return JoinCrLf(lines_);
+    Add("</body></html>");
+    return std::move(text_);
   }
 
  private:
-  std::vector<std::string> lines_;
+  std::string text_;
 };
 
 // The table of counts, one row per object, each linking to its section
@@ -276,6 +298,7 @@ using LineFilter = std::function<bool(const ReportOutputRow&)>;
 // object with nothing to show is left out unless `everyObject`.
 void ObjectSections(Page& page, const std::vector<Object>& objects, const LineFilter& keep,
                     bool withLog, bool everyObject) {
+  std::string row;
   for (size_t i = 0; i < objects.size(); ++i) {
     const Object& o = objects[i];
     std::vector<const ReportOutputRow*> lines;
@@ -297,16 +320,15 @@ void ObjectSections(Page& page, const std::vector<Object>& objects, const LineFi
           "<th>Visual Basic</th></tr>");
       for (const ReportOutputRow* r : lines) {
         // The page holds a row for every line of the analysis: each is made
-        // in one string.
-        std::string row = IsReview(r->ReasonID) ? "<tr class=review>" : "<tr class=lost>";
-        row.reserve(160 + r->Routine.size() + r->CodeLine.size() + r->TranslatedLine.size());
+        // in one string, kept from row to row.
+        row = IsReview(r->ReasonID) ? "<tr class=review>" : "<tr class=lost>";
         row += LineCell(r->LineNumber);
         AppendCell(row, r->Routine);
         AppendCell(row, ReasonText(r->ReasonID), "why");
         AppendCell(row, r->CodeLine, "code");
         AppendCell(row, r->TranslatedLine, "code");
         row += "</tr>";
-        page.Add(std::move(row));
+        page.Add(row);
       }
       page.Add("</table>");
     }
