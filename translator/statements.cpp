@@ -6,8 +6,8 @@
 #include <span>
 #include <string_view>
 
-#include "session/naming.h"
 #include "session/analysis_writers.h"
+#include "session/naming.h"
 #include "translator/block_keeper.h"
 #include "translator/conditional_compilation.h"
 #include "translator/form_injection.h"
@@ -184,21 +184,33 @@ bool IsWholeLine(const ModuleTranslation& t, const std::string& trimmed) {
          StartsWithNoCase(trimmed, "Attribute ") || !t.Compiled();
 }
 
-void TranslateLogicalLine(ModuleTranslation& t, std::span<const std::string> lines) {
-  std::string joined = TrimBlanks(lines[0]);
-  if (lines.size() > 1) {
+// `joined` is a buffer that the caller reuses from line to line: most
+// logical lines are one line of one statement, which is translated from it
+// without a copy of its own.
+void TranslateLogicalLine(ModuleTranslation& t, std::span<const std::string> lines,
+                          std::string& joined) {
+  if (lines.size() == 1) {
+    std::string_view line = lines[0];
+    while (!line.empty() && line.front() == ' ') line.remove_prefix(1);
+    while (!line.empty() && line.back() == ' ') line.remove_suffix(1);
+    joined.assign(line);
+  } else {
     joined = TrimBlanks(WithoutContinuation(lines[0]));
-    for (size_t k = 1; k < lines.size(); ++k) joined += " " + WithoutContinuation(lines[k]);
+    for (size_t k = 1; k < lines.size(); ++k) {
+      joined += ' ';
+      joined += WithoutContinuation(lines[k]);
+    }
   }
   const bool comment = !joined.empty() && joined[0] == '\'';
-  std::vector<std::string> statements;
-  if (IsWholeLine(t, joined) || IsOneStatement(joined))
-    statements.push_back(std::move(joined));
-  else
-    statements = SplitStatements(joined);
-  for (size_t k = 0; k < statements.size(); ++k) {
-    const bool single = statements.size() == 1 && lines.size() > 1;
-    WriteStatement(t, statements[k], k == 0, single ? lines : std::span<const std::string>());
+  const std::span<const std::string> continued =
+      lines.size() > 1 ? lines : std::span<const std::string>();
+  if (IsWholeLine(t, joined) || IsOneStatement(joined)) {
+    WriteStatement(t, joined, true, continued);
+  } else {
+    const std::vector<std::string> statements = SplitStatements(joined);
+    for (size_t k = 0; k < statements.size(); ++k)
+      WriteStatement(t, statements[k], k == 0,
+                     statements.size() == 1 ? continued : std::span<const std::string>());
   }
   // The other lines of a continued statement count as lines of the module.
   const int more = static_cast<int>(lines.size()) - 1;
@@ -212,6 +224,7 @@ void TranslateLogicalLine(ModuleTranslation& t, std::span<const std::string> lin
 }  // namespace
 
 void TranslateLines(ModuleTranslation& t, const std::vector<std::string>& lines) {
+  std::string joined;
   for (size_t i = 0; i < lines.size();) {
     // The designer block is copied line by line; the gate opens behind it.
     if (t.InDesignerBlock()) {
@@ -221,7 +234,7 @@ void TranslateLines(ModuleTranslation& t, const std::vector<std::string>& lines)
     }
     size_t last = i;
     while (last + 1 < lines.size() && ContinuesOnNextLine(lines[last])) ++last;
-    TranslateLogicalLine(t, std::span<const std::string>(lines).subspan(i, last + 1 - i));
+    TranslateLogicalLine(t, std::span<const std::string>(lines).subspan(i, last + 1 - i), joined);
     i = last + 1;
   }
 }
