@@ -640,6 +640,15 @@ class Checker {
     while (i < lines_.size()) {
       const size_t start = i;
       code.clear();
+      // A line that is a logical line of its own is read from the mask's
+      // buffer, without a copy.
+      std::string_view logical;
+      auto take = [&code, &logical](const std::string& masked) {
+        if (code.empty())
+          logical = masked;
+        else
+          logical = code += masked;
+      };
       size_t continuations = 0;
       while (true) {
         const std::string_view raw = lines_[i];
@@ -648,7 +657,7 @@ class Checker {
         const MaskedLine& m = masked_;
         if (m.openString) Problem(i, "string literal without its closing quote");
         if (m.hasComment) {
-          code += m.code;
+          take(m.code);
           // A comment that ends in " _" goes on into the next line: a line
           // this system commented out takes the code behind it along.
           std::string_view comment = m.comment;
@@ -664,7 +673,8 @@ class Checker {
         if (EndsWithContinuation(m.code) && i + 1 < lines_.size()) {
           std::string_view part = Trim(m.code);
           part.remove_suffix(1);
-          code += std::string(part) + " ";
+          code += part;
+          code += ' ';
           ++i;
           ++continuations;
           const std::string_view next = Trim(lines_[i]);
@@ -675,14 +685,16 @@ class Checker {
           }
           continue;
         }
-        code += m.code;
+        take(m.code);
         break;
       }
       if (continuations > kMaxContinuations)
         Problem(start, "statement of " + std::to_string(continuations) +
                            " continuations; Visual Basic takes 24 at most");
+      // A statement cut short by a comment line is what was gathered of it.
+      if (logical.empty()) logical = code;
       ++i;
-      LogicalLine(start, code);
+      LogicalLine(start, logical);
     }
     AtEnd();
   }
@@ -895,7 +907,13 @@ class Checker {
   };
 
   // From the statement's first word (in lower case) and the text behind it.
-  static std::optional<ProcedureHeader> ProcedureStart(std::string word, std::string_view rest) {
+  static std::optional<ProcedureHeader> ProcedureStart(const std::string& first,
+                                                       std::string_view rest) {
+    // Most statements begin with none of the words looked for: they are left
+    // before the word is copied.
+    const std::string_view f = first;
+    if (!IsModifier(f) && f != "sub" && f != "function" && f != "property") return std::nullopt;
+    std::string word = first;
     while (IsModifier(word)) std::tie(word, rest) = SplitWord(rest);
     const std::string_view w = word;
     if (w != "sub" && w != "function" && w != "property") return std::nullopt;
