@@ -95,6 +95,20 @@ std::vector<std::string> PhysicalLines(const std::string& text, const std::strin
   return continued(Cut(text, parts, false));
 }
 
+// The re-indenter puts blanks ahead of most code lines. The copy of a
+// statement that the rules work on, and that is written unless a rule
+// rewrites it, leaves room for a few levels of them, so that indenting the
+// line needs no buffer of its own; a short line keeps the string's small
+// buffer either way.
+constexpr size_t kIndentRoom = 16;
+
+std::string WorkingCopy(const std::string& statement) {
+  std::string line;
+  if (statement.size() > line.capacity()) line.reserve(statement.size() + kIndentRoom);
+  line.assign(statement);
+  return line;
+}
+
 // Rules and the block keeper over one statement; should anything fail, the
 // statement goes out as it was read and the run goes on.
 std::string TranslateSafely(ModuleTranslation& t, const std::string& statement, bool newLine) {
@@ -102,7 +116,7 @@ std::string TranslateSafely(ModuleTranslation& t, const std::string& statement, 
   t.StatementMarked = false;
   t.PassedHits = 0;
   try {
-    std::string text = TranslateStatement(t, statement, newLine);
+    std::string text = TranslateStatement(t, WorkingCopy(statement), newLine);
     if (t.StatementMarked)
       if (auto kept = KeepBlock(t, TrimBlanks(statement), text)) text = std::move(*kept);
     return text;
