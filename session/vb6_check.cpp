@@ -184,8 +184,8 @@ bool EndsWithContinuation(std::string_view text) {
 void SplitStatements(std::string_view code, std::vector<std::string_view>* statements) {
   statements->clear();
   size_t start = 0;
-  for (size_t i = 0; i < code.size(); ++i) {
-    if (code[i] == ':' && (i + 1 >= code.size() || code[i + 1] != '=')) {
+  for (size_t i = code.find(':'); i != std::string_view::npos; i = code.find(':', i + 1)) {
+    if (i + 1 >= code.size() || code[i + 1] != '=') {
       statements->push_back(Trim(code.substr(start, i - start)));
       start = i + 1;
     }
@@ -309,8 +309,10 @@ constexpr std::string_view kWordOperators[] = {"and",  "or", "xor",  "eqv",  "im
 // expression, or from Access expression syntax written as code.
 std::optional<std::string> ExpressionProblem(std::string_view code) {
   code = Trim(code);
+  // The depth changes from the first parenthesis on.
   int depth = 0;
-  for (char c : code) {
+  const size_t parenthesis = std::min(code.find('('), code.find(')'));
+  for (char c : code.substr(std::min(parenthesis, code.size()))) {
     if (c == '(') ++depth;
     if (c == ')' && --depth < 0) return "a \")\" that closes no \"(\"";
   }
