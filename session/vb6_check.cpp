@@ -782,7 +782,7 @@ class Checker {
       return true;
     }
 
-    if (v1 == "type" || v1 == "enum" || (IsModifier(w1) && (v2 == "type" || v2 == "enum"))) {
+    if (v1 == "type" || v1 == "enum" || ((v2 == "type" || v2 == "enum") && IsModifier(w1))) {
       Problem(line, KindName(v1 == "type" || v1 == "enum" ? w1 : w2) + " inside a procedure");
     } else if (v1 == "if") {
       const auto then = FindThen(statement);
