@@ -266,8 +266,10 @@ constexpr bool RulesAreWellFormed() {
 static_assert(RulesAreWellFormed(), "every DoCmd rule names a DoCmd method and its outcome");
 
 std::string RuleText(const DoCmdRule& rule, std::string_view head, const std::string& line) {
-  return std::string(head) + (rule.from > 0 ? Mid(line, rule.from) : std::string()) +
-         std::string(rule.tail);
+  std::string text(head);
+  if (rule.from > 0) text += Mid(line, rule.from);
+  text += rule.tail;
+  return text;
 }
 
 }  // namespace

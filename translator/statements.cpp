@@ -129,6 +129,8 @@ std::string TranslateSafely(ModuleTranslation& t, const std::string& statement, 
 // Type ... End Type blocks of the declarations, for the rules that read a
 // member line differently.
 void TrackTypeBlock(ModuleTranslation& t, const std::string& statement, bool after) {
+  // Behind a statement only the end of an open block is looked for.
+  if (after && !t.InTypeBlock) return;
   // The code part is a beginning of the statement past its blanks: a
   // statement that does not begin with a word looked for here cannot have a
   // code part that does.
