@@ -282,7 +282,7 @@ void DoCmdRules(ModuleTranslation& t, std::string& line) {
     // A rule that reads the arguments would take a comment behind them for
     // one: the comment is set aside and comes back behind the result.
     if (rule.match != Match::Equals) {
-      if (const size_t mark = CharKinds(line).find('m'); mark != std::string::npos) {
+      if (const size_t mark = CommentStart(line); mark != std::string::npos) {
         const std::string comment = line.substr(mark);
         line = CodePart(line);
         DoCmdRules(t, line);
