@@ -184,8 +184,8 @@ bool EndsWithContinuation(std::string_view text) {
 void SplitStatements(std::string_view code, std::vector<std::string_view>* statements) {
   statements->clear();
   size_t start = 0;
-  for (size_t i = 0; i < code.size(); ++i) {
-    if (code[i] == ':' && (i + 1 >= code.size() || code[i + 1] != '=')) {
+  for (size_t i = code.find(':'); i != std::string_view::npos; i = code.find(':', i + 1)) {
+    if (i + 1 >= code.size() || code[i + 1] != '=') {
       statements->push_back(Trim(code.substr(start, i - start)));
       start = i + 1;
     }
@@ -309,8 +309,10 @@ constexpr std::string_view kWordOperators[] = {"and",  "or", "xor",  "eqv",  "im
 // expression, or from Access expression syntax written as code.
 std::optional<std::string> ExpressionProblem(std::string_view code) {
   code = Trim(code);
+  // The depth changes from the first parenthesis on.
   int depth = 0;
-  for (char c : code) {
+  const size_t parenthesis = std::min(code.find('('), code.find(')'));
+  for (char c : code.substr(std::min(parenthesis, code.size()))) {
     if (c == '(') ++depth;
     if (c == ')' && --depth < 0) return "a \")\" that closes no \"(\"";
   }
@@ -640,6 +642,15 @@ class Checker {
     while (i < lines_.size()) {
       const size_t start = i;
       code.clear();
+      // A line that is a logical line of its own is read from the mask's
+      // buffer, without a copy.
+      std::string_view logical;
+      auto take = [&code, &logical](const std::string& masked) {
+        if (code.empty())
+          logical = masked;
+        else
+          logical = code += masked;
+      };
       size_t continuations = 0;
       while (true) {
         const std::string_view raw = lines_[i];
@@ -648,7 +659,7 @@ class Checker {
         const MaskedLine& m = masked_;
         if (m.openString) Problem(i, "string literal without its closing quote");
         if (m.hasComment) {
-          code += m.code;
+          take(m.code);
           // A comment that ends in " _" goes on into the next line: a line
           // this system commented out takes the code behind it along.
           std::string_view comment = m.comment;
@@ -664,7 +675,8 @@ class Checker {
         if (EndsWithContinuation(m.code) && i + 1 < lines_.size()) {
           std::string_view part = Trim(m.code);
           part.remove_suffix(1);
-          code += std::string(part) + " ";
+          code += part;
+          code += ' ';
           ++i;
           ++continuations;
           const std::string_view next = Trim(lines_[i]);
@@ -675,14 +687,16 @@ class Checker {
           }
           continue;
         }
-        code += m.code;
+        take(m.code);
         break;
       }
       if (continuations > kMaxContinuations)
         Problem(start, "statement of " + std::to_string(continuations) +
                            " continuations; Visual Basic takes 24 at most");
+      // A statement cut short by a comment line is what was gathered of it.
+      if (logical.empty()) logical = code;
       ++i;
-      LogicalLine(start, code);
+      LogicalLine(start, logical);
     }
     AtEnd();
   }
@@ -768,7 +782,7 @@ class Checker {
       return true;
     }
 
-    if (v1 == "type" || v1 == "enum" || (IsModifier(w1) && (v2 == "type" || v2 == "enum"))) {
+    if (v1 == "type" || v1 == "enum" || ((v2 == "type" || v2 == "enum") && IsModifier(w1))) {
       Problem(line, KindName(v1 == "type" || v1 == "enum" ? w1 : w2) + " inside a procedure");
     } else if (v1 == "if") {
       const auto then = FindThen(statement);
@@ -895,7 +909,13 @@ class Checker {
   };
 
   // From the statement's first word (in lower case) and the text behind it.
-  static std::optional<ProcedureHeader> ProcedureStart(std::string word, std::string_view rest) {
+  static std::optional<ProcedureHeader> ProcedureStart(const std::string& first,
+                                                       std::string_view rest) {
+    // Most statements begin with none of the words looked for: they are left
+    // before the word is copied.
+    const std::string_view f = first;
+    if (!IsModifier(f) && f != "sub" && f != "function" && f != "property") return std::nullopt;
+    std::string word = first;
     while (IsModifier(word)) std::tie(word, rest) = SplitWord(rest);
     const std::string_view w = word;
     if (w != "sub" && w != "function" && w != "property") return std::nullopt;

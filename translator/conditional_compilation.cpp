@@ -1,9 +1,9 @@
 // The stack of #If blocks.
 #include "translator/conditional_compilation.h"
 
+#include "session/analysis_writers.h"
 #include "session/compiler_conditions.h"
 #include "session/naming.h"
-#include "session/analysis_writers.h"
 #include "translator/rule_outcomes.h"
 #include "translator/text_helpers.h"
 #include "translator/vb_code.h"
@@ -13,13 +13,20 @@ namespace morvane {
 
 namespace {
 
+// Whether the statement's first character past its blanks is a "#": only
+// such a statement can be a directive, and nearly none is.
+bool MayBeDirective(const std::string& statement) {
+  for (char c : statement)
+    if (c != ' ' && c != '\t') return c == '#';
+  return false;
+}
+
 // The directive word of a statement ("#if", "#elseif", "#else", "#end",
 // "#const") and the text behind it.
 std::pair<std::string, std::string> Directive(const std::string& statement) {
   // The code part begins with the statement's first character past its
   // blanks, so a statement whose first one is no "#" is no directive.
-  const size_t first = statement.find_first_not_of(" \t");
-  if (first == std::string::npos || statement[first] != '#') return {};
+  if (!MayBeDirective(statement)) return {};
   const std::string code = CodePart(statement);
   if (code.empty() || code[0] != '#') return {};
   size_t end = 1;
@@ -40,6 +47,7 @@ std::optional<bool> Holds(const ModuleTranslation& t, const std::string& rest) {
 }  // namespace
 
 void BeforeDirective(ModuleTranslation& t, const std::string& statement) {
+  if (!MayBeDirective(statement)) return;
   const auto [word, rest] = Directive(statement);
   if (word != "#end" || t.Conditionals.empty()) return;
   ModuleTranslation::Conditional& c = t.Conditionals.back();
@@ -56,6 +64,7 @@ void BeforeDirective(ModuleTranslation& t, const std::string& statement) {
 }
 
 void AfterDirective(ModuleTranslation& t, const std::string& statement) {
+  if (!MayBeDirective(statement)) return;
   const auto [word, rest] = Directive(statement);
   if (word == "#if") {
     ModuleTranslation::Conditional c;

@@ -266,8 +266,10 @@ constexpr bool RulesAreWellFormed() {
 static_assert(RulesAreWellFormed(), "every DoCmd rule names a DoCmd method and its outcome");
 
 std::string RuleText(const DoCmdRule& rule, std::string_view head, const std::string& line) {
-  return std::string(head) + (rule.from > 0 ? Mid(line, rule.from) : std::string()) +
-         std::string(rule.tail);
+  std::string text(head);
+  if (rule.from > 0) text += Mid(line, rule.from);
+  text += rule.tail;
+  return text;
 }
 
 }  // namespace
@@ -280,7 +282,7 @@ void DoCmdRules(ModuleTranslation& t, std::string& line) {
     // A rule that reads the arguments would take a comment behind them for
     // one: the comment is set aside and comes back behind the result.
     if (rule.match != Match::Equals) {
-      if (const size_t mark = CharKinds(line).find('m'); mark != std::string::npos) {
+      if (const size_t mark = CommentStart(line); mark != std::string::npos) {
         const std::string comment = line.substr(mark);
         line = CodePart(line);
         DoCmdRules(t, line);

@@ -161,8 +161,11 @@ class FoldedLine {
     lower_.assign(line_);
     for (char& c : lower_) c = Fold(c);
     pairs_.fill(0);
-    for (size_t i = 0; i + 1 < lower_.size(); ++i) {
-      const size_t key = PairKey(lower_[i], lower_[i + 1]);
+    // Read through a view of its own: a store into pairs_ could otherwise
+    // change the copy's length and place, which would be read again each time.
+    const std::string_view lower = lower_;
+    for (size_t i = 0; i + 1 < lower.size(); ++i) {
+      const size_t key = PairKey(lower[i], lower[i + 1]);
       pairs_[key / 64] |= uint64_t{1} << (key % 64);
     }
   }

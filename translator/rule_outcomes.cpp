@@ -1,8 +1,8 @@
 // Rule outcomes: Kept and Marked lines and their analysis rows.
 #include "translator/rule_outcomes.h"
 
-#include "session/conversion_session.h"
 #include "session/analysis_writers.h"
+#include "session/conversion_session.h"
 
 namespace morvane {
 
@@ -15,7 +15,11 @@ void Kept(ModuleTranslation& t, std::string& line, const std::string& newText, i
           const std::string& translated, bool count) {
   ReportRule(t, reason, line, translated);
   if (count) Bump(t.LinesPotentiallyConverted);
-  line = newText + "\t" + std::string(kCommentMark) + line;
+  // Built in one buffer: the line is long, and the pieces are many.
+  std::string kept;
+  kept.reserve(newText.size() + 1 + kCommentMark.size() + line.size());
+  kept.append(newText).append(1, '\t').append(kCommentMark).append(line);
+  line = std::move(kept);
 }
 
 void Marked(ModuleTranslation& t, std::string& line, int reason) {

@@ -6,8 +6,8 @@
 #include <span>
 #include <string_view>
 
-#include "session/naming.h"
 #include "session/analysis_writers.h"
+#include "session/naming.h"
 #include "translator/block_keeper.h"
 #include "translator/conditional_compilation.h"
 #include "translator/form_injection.h"
@@ -95,6 +95,20 @@ std::vector<std::string> PhysicalLines(const std::string& text, const std::strin
   return continued(Cut(text, parts, false));
 }
 
+// The re-indenter puts blanks ahead of most code lines. The copy of a
+// statement that the rules work on, and that is written unless a rule
+// rewrites it, leaves room for a few levels of them, so that indenting the
+// line needs no buffer of its own; a short line keeps the string's small
+// buffer either way.
+constexpr size_t kIndentRoom = 16;
+
+std::string WorkingCopy(const std::string& statement) {
+  std::string line;
+  if (statement.size() > line.capacity()) line.reserve(statement.size() + kIndentRoom);
+  line.assign(statement);
+  return line;
+}
+
 // Rules and the block keeper over one statement; should anything fail, the
 // statement goes out as it was read and the run goes on.
 std::string TranslateSafely(ModuleTranslation& t, const std::string& statement, bool newLine) {
@@ -102,7 +116,7 @@ std::string TranslateSafely(ModuleTranslation& t, const std::string& statement, 
   t.StatementMarked = false;
   t.PassedHits = 0;
   try {
-    std::string text = TranslateStatement(t, statement, newLine);
+    std::string text = TranslateStatement(t, WorkingCopy(statement), newLine);
     if (t.StatementMarked)
       if (auto kept = KeepBlock(t, TrimBlanks(statement), text)) text = std::move(*kept);
     return text;
@@ -115,6 +129,8 @@ std::string TranslateSafely(ModuleTranslation& t, const std::string& statement, 
 // Type ... End Type blocks of the declarations, for the rules that read a
 // member line differently.
 void TrackTypeBlock(ModuleTranslation& t, const std::string& statement, bool after) {
+  // Behind a statement only the end of an open block is looked for.
+  if (after && !t.InTypeBlock) return;
   // The code part is a beginning of the statement past its blanks: a
   // statement that does not begin with a word looked for here cannot have a
   // code part that does.
@@ -184,21 +200,33 @@ bool IsWholeLine(const ModuleTranslation& t, const std::string& trimmed) {
          StartsWithNoCase(trimmed, "Attribute ") || !t.Compiled();
 }
 
-void TranslateLogicalLine(ModuleTranslation& t, std::span<const std::string> lines) {
-  std::string joined = TrimBlanks(lines[0]);
-  if (lines.size() > 1) {
+// `joined` is a buffer that the caller reuses from line to line: most
+// logical lines are one line of one statement, which is translated from it
+// without a copy of its own.
+void TranslateLogicalLine(ModuleTranslation& t, std::span<const std::string> lines,
+                          std::string& joined) {
+  if (lines.size() == 1) {
+    std::string_view line = lines[0];
+    while (!line.empty() && line.front() == ' ') line.remove_prefix(1);
+    while (!line.empty() && line.back() == ' ') line.remove_suffix(1);
+    joined.assign(line);
+  } else {
     joined = TrimBlanks(WithoutContinuation(lines[0]));
-    for (size_t k = 1; k < lines.size(); ++k) joined += " " + WithoutContinuation(lines[k]);
+    for (size_t k = 1; k < lines.size(); ++k) {
+      joined += ' ';
+      joined += WithoutContinuation(lines[k]);
+    }
   }
   const bool comment = !joined.empty() && joined[0] == '\'';
-  std::vector<std::string> statements;
-  if (IsWholeLine(t, joined) || IsOneStatement(joined))
-    statements.push_back(std::move(joined));
-  else
-    statements = SplitStatements(joined);
-  for (size_t k = 0; k < statements.size(); ++k) {
-    const bool single = statements.size() == 1 && lines.size() > 1;
-    WriteStatement(t, statements[k], k == 0, single ? lines : std::span<const std::string>());
+  const std::span<const std::string> continued =
+      lines.size() > 1 ? lines : std::span<const std::string>();
+  if (IsWholeLine(t, joined) || IsOneStatement(joined)) {
+    WriteStatement(t, joined, true, continued);
+  } else {
+    const std::vector<std::string> statements = SplitStatements(joined);
+    for (size_t k = 0; k < statements.size(); ++k)
+      WriteStatement(t, statements[k], k == 0,
+                     statements.size() == 1 ? continued : std::span<const std::string>());
   }
   // The other lines of a continued statement count as lines of the module.
   const int more = static_cast<int>(lines.size()) - 1;
@@ -212,6 +240,7 @@ void TranslateLogicalLine(ModuleTranslation& t, std::span<const std::string> lin
 }  // namespace
 
 void TranslateLines(ModuleTranslation& t, const std::vector<std::string>& lines) {
+  std::string joined;
   for (size_t i = 0; i < lines.size();) {
     // The designer block is copied line by line; the gate opens behind it.
     if (t.InDesignerBlock()) {
@@ -221,7 +250,7 @@ void TranslateLines(ModuleTranslation& t, const std::vector<std::string>& lines)
     }
     size_t last = i;
     while (last + 1 < lines.size() && ContinuesOnNextLine(lines[last])) ++last;
-    TranslateLogicalLine(t, std::span<const std::string>(lines).subspan(i, last + 1 - i));
+    TranslateLogicalLine(t, std::span<const std::string>(lines).subspan(i, last + 1 - i), joined);
     i = last + 1;
   }
 }

@@ -178,9 +178,12 @@ std::string CharKinds(std::string_view line) {
   return kinds;
 }
 
+size_t CommentStart(std::string_view line) {
+  return ScanKinds(line, [](size_t, size_t, char) {});
+}
+
 std::string CodePart(std::string_view line) {
-  const size_t comment = ScanKinds(line, [](size_t, size_t, char) {});
-  return std::string(TrimView(line.substr(0, comment)));
+  return std::string(TrimView(line.substr(0, CommentStart(line))));
 }
 
 size_t FindWord(std::string_view line, std::string_view find, size_t from, const WordMatch& m,

@@ -15,6 +15,10 @@ namespace morvane {
 // Rem on). A string without its closing quote runs to the end of the line.
 std::string CharKinds(std::string_view line);
 
+// 0-based position where the comment begins (its apostrophe or Rem); npos
+// when the line has none.
+size_t CommentStart(std::string_view line);
+
 // The line without its comment, trailing blanks removed.
 std::string CodePart(std::string_view line);
 
