@@ -6,6 +6,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "platform/text_file.h"
 #include "platform/text_fold.h"
 
 namespace morvane {
@@ -95,16 +96,29 @@ ModuleCode FromExport(Lines& lines, std::string* vbName) {
   return out;
 }
 
+bool IsCodeBehindLine(std::string_view line) { return Trim(line) == "CodeBehindForm"; }
+
+// The index of the design's CodeBehindForm line, or the number of lines.
+size_t CodeBehindLine(const std::vector<std::string>& lines) {
+  size_t i = 0;
+  while (i < lines.size() && !IsCodeBehindLine(lines[i])) ++i;
+  return i;
+}
+
+// The first line of the code behind, from the line after CodeBehindForm on:
+// the Attribute lines are not part of it.
+size_t FirstCodeLine(const std::vector<std::string>& lines, size_t from) {
+  while (from < lines.size() && IsAttributeLine(lines[from])) ++from;
+  return from;
+}
+
 template <typename Lines>
 ModuleCode FromDesign(Lines& lines) {
   ModuleCode out;
   out.Type = 1;
-  size_t i = 0;
-  while (i < lines.size() && Trim(lines[i]) != "CodeBehindForm") ++i;
-  if (i == lines.size()) return out;
-  ++i;
-  while (i < lines.size() && IsAttributeLine(lines[i])) ++i;
-  AppendCode(lines, i, &out);
+  const size_t marker = CodeBehindLine(lines);
+  if (marker == lines.size()) return out;
+  AppendCode(lines, FirstCodeLine(lines, marker + 1), &out);
   return out;
 }
 
@@ -174,19 +188,54 @@ ModuleCode ModuleFromExport(std::vector<std::string>&& lines, std::string* vbNam
   return FromExport(lines, vbName);
 }
 
+std::string ModuleNameOfExport(const std::vector<std::string>& lines) {
+  std::string vbName;
+  for (size_t i = ClassHeaderLength(lines); i < lines.size() && IsAttributeLine(lines[i]); ++i) {
+    std::string name = VbNameOf(lines[i]);
+    if (!name.empty()) vbName = std::move(name);
+  }
+  return vbName;
+}
+
 bool HasCodeBehind(const std::vector<std::string>& lines) {
-  for (const auto& l : lines)
-    if (Trim(l) == "CodeBehindForm") return true;
-  return false;
+  return CodeBehindLine(lines) < lines.size();
 }
 
 ModuleCode CodeBehindFromDesign(const std::vector<std::string>& lines) { return FromDesign(lines); }
 
 ModuleCode CodeBehindFromDesign(std::vector<std::string>&& lines) { return FromDesign(lines); }
 
+ModuleCode CodeBehindFromCode(std::vector<std::string>&& lines) {
+  ModuleCode out;
+  out.Type = 1;
+  AppendCode(lines, FirstCodeLine(lines, 0), &out);
+  return out;
+}
+
+bool HasCodeBehindLines(const std::vector<std::string>& lines) {
+  const size_t marker = CodeBehindLine(lines);
+  if (marker == lines.size()) return false;
+  for (size_t i = FirstCodeLine(lines, marker + 1); i < lines.size(); ++i)
+    if (!IsMemberAttributeLine(lines[i])) return true;
+  return false;
+}
+
+size_t CodeBehindOffset(std::string_view text) {
+  constexpr std::string_view kMarker = "CodeBehindForm";
+  for (size_t at = text.find(kMarker); at != std::string_view::npos;
+       at = text.find(kMarker, at + kMarker.size())) {
+    const size_t start = text.find_last_of("\r\n", at) + 1;  // npos + 1 is 0
+    size_t end = FindLineBreak(text, at);
+    if (!IsCodeBehindLine(text.substr(start, end - start))) continue;
+    if (end == std::string_view::npos) return text.size();
+    if (text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n') ++end;
+    return end + 1;
+  }
+  return std::string_view::npos;
+}
+
 std::string CodeFileOfStub(const std::vector<std::string>& lines) {
-  size_t i = 0;
-  while (i < lines.size() && Trim(lines[i]) != "CodeBehindForm") ++i;
+  size_t i = CodeBehindLine(lines);
   std::string file;
   for (++i; i < lines.size(); ++i) {
     std::string_view t = Trim(lines[i]);

@@ -29,6 +29,9 @@ ModuleCode ModuleFromExport(const std::vector<std::string>& lines, std::string* 
 // The same, taking the lines over rather than copying them.
 ModuleCode ModuleFromExport(std::vector<std::string>&& lines, std::string* vbName);
 
+// The name ModuleFromExport gives a module export, without copying its code.
+std::string ModuleNameOfExport(const std::vector<std::string>& lines);
+
 // Whether the line is one of the Attribute lines that only a class module
 // carries (VB_GlobalNameSpace, VB_Creatable, VB_PredeclaredId, VB_Exposed).
 bool IsClassAttributeLine(std::string_view line);
@@ -41,6 +44,14 @@ size_t ClassHeaderLength(const std::vector<std::string>& lines);
 // CodeBehindForm line, without its Attribute lines. Empty when there is none.
 ModuleCode CodeBehindFromDesign(const std::vector<std::string>& lines);
 ModuleCode CodeBehindFromDesign(std::vector<std::string>&& lines);
+
+// The same from the lines that follow the CodeBehindForm line.
+ModuleCode CodeBehindFromCode(std::vector<std::string>&& lines);
+// Whether the code behind of a design text has any line.
+bool HasCodeBehindLines(const std::vector<std::string>& lines);
+// Where in a design's text the lines after its CodeBehindForm line start (the
+// text's size when that line is the last); npos when no line reads so.
+size_t CodeBehindOffset(std::string_view text);
 
 // Where a design's code lies in a file of its own, the design keeps after
 // CodeBehindForm only a comment naming that file (' See "Name.cls"). The
