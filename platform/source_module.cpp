@@ -99,7 +99,9 @@ ModuleCode FromExport(Lines& lines, std::string* vbName) {
 bool IsCodeBehindLine(std::string_view line) { return Trim(line) == "CodeBehindForm"; }
 
 // The index of the design's CodeBehindForm line, or the number of lines.
-size_t CodeBehindLine(const std::vector<std::string>& lines) {
+// `Lines` here and below is a vector of lines or a span of views of them.
+template <typename Lines>
+size_t CodeBehindLine(const Lines& lines) {
   size_t i = 0;
   while (i < lines.size() && !IsCodeBehindLine(lines[i])) ++i;
   return i;
@@ -107,7 +109,8 @@ size_t CodeBehindLine(const std::vector<std::string>& lines) {
 
 // The first line of the code behind, from the line after CodeBehindForm on:
 // the Attribute lines are not part of it.
-size_t FirstCodeLine(const std::vector<std::string>& lines, size_t from) {
+template <typename Lines>
+size_t FirstCodeLine(const Lines& lines, size_t from) {
   while (from < lines.size() && IsAttributeLine(lines[from])) ++from;
   return from;
 }
@@ -166,7 +169,10 @@ bool IsClassAttributeLine(std::string_view line) {
   return false;
 }
 
-size_t ClassHeaderLength(const std::vector<std::string>& lines) {
+namespace {
+
+template <typename Lines>
+size_t HeaderLength(const Lines& lines) {
   size_t i = 0;
   if (lines.empty() || !IStartsWith(Trim(lines[0]), "VERSION 1.0 CLASS")) return 0;
   ++i;
@@ -176,6 +182,27 @@ size_t ClassHeaderLength(const std::vector<std::string>& lines) {
   }
   return i;
 }
+
+template <typename Lines>
+std::string StubFile(const Lines& lines) {
+  size_t i = CodeBehindLine(lines);
+  std::string file;
+  for (++i; i < lines.size(); ++i) {
+    std::string_view t = Trim(lines[i]);
+    if (t.empty() || IsAttributeLine(t)) continue;
+    if (!file.empty() || !IStartsWith(t, "' See \"") || t.back() != '"') return {};
+    std::string_view named = t.substr(7, t.size() - 8);
+    if (named.empty() || named.find('"') != std::string_view::npos) return {};
+    file = std::string(named);
+  }
+  return file;
+}
+
+}  // namespace
+
+size_t ClassHeaderLength(const std::vector<std::string>& lines) { return HeaderLength(lines); }
+
+size_t ClassHeaderLength(std::span<const std::string_view> lines) { return HeaderLength(lines); }
 
 // Both shapes of a class module are read: the VBA editor's export with its
 // VERSION 1.0 CLASS header, and Access's own text of a class, which starts
@@ -188,7 +215,7 @@ ModuleCode ModuleFromExport(std::vector<std::string>&& lines, std::string* vbNam
   return FromExport(lines, vbName);
 }
 
-std::string ModuleNameOfExport(const std::vector<std::string>& lines) {
+std::string ModuleNameOfExport(std::span<const std::string_view> lines) {
   std::string vbName;
   for (size_t i = ClassHeaderLength(lines); i < lines.size() && IsAttributeLine(lines[i]); ++i) {
     std::string name = VbNameOf(lines[i]);
@@ -212,7 +239,7 @@ ModuleCode CodeBehindFromCode(std::vector<std::string>&& lines) {
   return out;
 }
 
-bool HasCodeBehindLines(const std::vector<std::string>& lines) {
+bool HasCodeBehindLines(std::span<const std::string_view> lines) {
   const size_t marker = CodeBehindLine(lines);
   if (marker == lines.size()) return false;
   for (size_t i = FirstCodeLine(lines, marker + 1); i < lines.size(); ++i)
@@ -234,18 +261,8 @@ size_t CodeBehindOffset(std::string_view text) {
   return std::string_view::npos;
 }
 
-std::string CodeFileOfStub(const std::vector<std::string>& lines) {
-  size_t i = CodeBehindLine(lines);
-  std::string file;
-  for (++i; i < lines.size(); ++i) {
-    std::string_view t = Trim(lines[i]);
-    if (t.empty() || IsAttributeLine(t)) continue;
-    if (!file.empty() || !IStartsWith(t, "' See \"") || t.back() != '"') return {};
-    std::string_view named = t.substr(7, t.size() - 8);
-    if (named.empty() || named.find('"') != std::string_view::npos) return {};
-    file = std::string(named);
-  }
-  return file;
-}
+std::string CodeFileOfStub(const std::vector<std::string>& lines) { return StubFile(lines); }
+
+std::string CodeFileOfStub(std::span<const std::string_view> lines) { return StubFile(lines); }
 
 }  // namespace morvane

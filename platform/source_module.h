@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,7 +31,7 @@ ModuleCode ModuleFromExport(const std::vector<std::string>& lines, std::string* 
 ModuleCode ModuleFromExport(std::vector<std::string>&& lines, std::string* vbName);
 
 // The name ModuleFromExport gives a module export, without copying its code.
-std::string ModuleNameOfExport(const std::vector<std::string>& lines);
+std::string ModuleNameOfExport(std::span<const std::string_view> lines);
 
 // Whether the line is one of the Attribute lines that only a class module
 // carries (VB_GlobalNameSpace, VB_Creatable, VB_PredeclaredId, VB_Exposed).
@@ -39,6 +40,7 @@ bool IsClassAttributeLine(std::string_view line);
 // The number of lines of the VBA editor's class header (VERSION 1.0 CLASS
 // and its BEGIN ... END block) at the start of a module text; 0 without one.
 size_t ClassHeaderLength(const std::vector<std::string>& lines);
+size_t ClassHeaderLength(std::span<const std::string_view> lines);
 
 // The code behind of a form or report text: the lines after the
 // CodeBehindForm line, without its Attribute lines. Empty when there is none.
@@ -48,7 +50,7 @@ ModuleCode CodeBehindFromDesign(std::vector<std::string>&& lines);
 // The same from the lines that follow the CodeBehindForm line.
 ModuleCode CodeBehindFromCode(std::vector<std::string>&& lines);
 // Whether the code behind of a design text has any line.
-bool HasCodeBehindLines(const std::vector<std::string>& lines);
+bool HasCodeBehindLines(std::span<const std::string_view> lines);
 // Where in a design's text the lines after its CodeBehindForm line start (the
 // text's size when that line is the last); npos when no line reads so.
 size_t CodeBehindOffset(std::string_view text);
@@ -58,6 +60,7 @@ size_t CodeBehindOffset(std::string_view text);
 // file name when the code behind is such a stub and nothing else; empty
 // otherwise.
 std::string CodeFileOfStub(const std::vector<std::string>& lines);
+std::string CodeFileOfStub(std::span<const std::string_view> lines);
 
 // Whether the design text has a CodeBehindForm line.
 bool HasCodeBehind(const std::vector<std::string>& lines);

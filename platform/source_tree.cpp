@@ -7,6 +7,7 @@
 #include <fstream>
 #include <map>
 #include <set>
+#include <span>
 
 #include "platform/encoding.h"
 #include "platform/source_discovery.h"
@@ -53,7 +54,7 @@ namespace {
 
 // A user form of the Visual Basic editor: "VERSION 5.00", then the designer
 // block of Microsoft Forms 2.0.
-bool IsUserForm(const std::vector<std::string>& lines) {
+bool IsUserForm(std::span<const std::string_view> lines) {
   size_t i = 0;
   while (i < lines.size() && text::Trim(lines[i]).empty()) ++i;
   return i + 1 < lines.size() && IStartsWith(text::Trim(lines[i]), "VERSION 5.00") &&
@@ -235,7 +236,8 @@ void DirectorySourceTree::ReadFile(const fs::path& file, const LayoutRule* force
     case DecodeStatus::Ok:
       break;
   }
-  std::vector<std::string> lines = SplitLines(text.Text);
+  // Views of the text, which goes into decoded_ once they are done with.
+  const std::vector<std::string_view> lines = SplitLineViews(text.Text);
   FoundFile f;
   f.File = file;
   f.Kind = ClassifyExport(lines, ext);
@@ -271,7 +273,7 @@ void DirectorySourceTree::ReadFile(const fs::path& file, const LayoutRule* force
     f.VbName = ModuleNameOfExport(lines);
   if (f.Kind == ExportKind::Query) {
     std::string note;
-    f.Query = QueryFromExport(lines, &note);
+    f.Query = QueryFromExport(std::vector<std::string>(lines.begin(), lines.end()), &note);
     if (!note.empty()) Warn(file, note);
   }
   if (f.Kind == ExportKind::Sql) f.SqlText = text.Text;
