@@ -183,11 +183,11 @@ size_t HeaderLength(const Lines& lines) {
   return i;
 }
 
+// The file a stub names, from the code behind's first line `from` on.
 template <typename Lines>
-std::string StubFile(const Lines& lines) {
-  size_t i = CodeBehindLine(lines);
+std::string StubFile(const Lines& lines, size_t from) {
   std::string file;
-  for (++i; i < lines.size(); ++i) {
+  for (size_t i = from; i < lines.size(); ++i) {
     std::string_view t = Trim(lines[i]);
     if (t.empty() || IsAttributeLine(t)) continue;
     if (!file.empty() || !IStartsWith(t, "' See \"") || t.back() != '"') return {};
@@ -239,11 +239,9 @@ ModuleCode CodeBehindFromCode(std::vector<std::string>&& lines) {
   return out;
 }
 
-bool HasCodeBehindLines(std::span<const std::string_view> lines) {
-  const size_t marker = CodeBehindLine(lines);
-  if (marker == lines.size()) return false;
-  for (size_t i = FirstCodeLine(lines, marker + 1); i < lines.size(); ++i)
-    if (!IsMemberAttributeLine(lines[i])) return true;
+bool HasCodeLines(std::span<const std::string_view> code) {
+  for (size_t i = FirstCodeLine(code, 0); i < code.size(); ++i)
+    if (!IsMemberAttributeLine(code[i])) return true;
   return false;
 }
 
@@ -261,8 +259,10 @@ size_t CodeBehindOffset(std::string_view text) {
   return std::string_view::npos;
 }
 
-std::string CodeFileOfStub(const std::vector<std::string>& lines) { return StubFile(lines); }
+std::string CodeFileOfStub(const std::vector<std::string>& lines) {
+  return StubFile(lines, CodeBehindLine(lines) + 1);
+}
 
-std::string CodeFileOfStub(std::span<const std::string_view> lines) { return StubFile(lines); }
+std::string CodeFileOfStubCode(std::span<const std::string_view> code) { return StubFile(code, 0); }
 
 }  // namespace morvane

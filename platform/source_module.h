@@ -49,8 +49,8 @@ ModuleCode CodeBehindFromDesign(std::vector<std::string>&& lines);
 
 // The same from the lines that follow the CodeBehindForm line.
 ModuleCode CodeBehindFromCode(std::vector<std::string>&& lines);
-// Whether the code behind of a design text has any line.
-bool HasCodeBehindLines(std::span<const std::string_view> lines);
+// Whether the lines after a CodeBehindForm line hold any code behind.
+bool HasCodeLines(std::span<const std::string_view> code);
 // Where in a design's text the lines after its CodeBehindForm line start (the
 // text's size when that line is the last); npos when no line reads so.
 size_t CodeBehindOffset(std::string_view text);
@@ -60,7 +60,8 @@ size_t CodeBehindOffset(std::string_view text);
 // file name when the code behind is such a stub and nothing else; empty
 // otherwise.
 std::string CodeFileOfStub(const std::vector<std::string>& lines);
-std::string CodeFileOfStub(std::span<const std::string_view> lines);
+// The same from the lines after the CodeBehindForm line.
+std::string CodeFileOfStubCode(std::span<const std::string_view> code);
 
 // Whether the design text has a CodeBehindForm line.
 bool HasCodeBehind(const std::vector<std::string>& lines);

@@ -278,8 +278,13 @@ void DirectorySourceTree::ReadFile(const fs::path& file, const LayoutRule* force
   }
   if (f.Kind == ExportKind::Sql) f.SqlText = text.Text;
   if (f.Kind == ExportKind::Form || f.Kind == ExportKind::Report) {
-    f.StubFile = CodeFileOfStub(lines);
-    f.CodeBehind = f.StubFile.empty() && HasCodeBehindLines(lines);
+    // Only the lines after CodeBehindForm are looked at again.
+    const std::string_view all = text.Text;
+    if (const size_t at = CodeBehindOffset(all); at != std::string_view::npos) {
+      const std::vector<std::string_view> code = SplitLineViews(all.substr(at));
+      f.StubFile = CodeFileOfStubCode(code);
+      f.CodeBehind = f.StubFile.empty() && HasCodeLines(code);
+    }
   }
   decoded_[file.string()] = {std::move(text.Text), !f.StubFile.empty()};
   found_.push_back(std::move(f));
