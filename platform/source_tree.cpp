@@ -50,6 +50,14 @@ bool SourceTree::LoadDesignText(AccessObjectKind kind, const std::string& name,
   return ReadExportLines(o->File, lines, err);
 }
 
+bool SourceTree::LoadDesignBytes(AccessObjectKind kind, const std::string& name, std::string* text,
+                                 std::string* err) const {
+  std::vector<std::string> lines;
+  if (!LoadDesignText(kind, name, &lines, err)) return false;
+  *text = JoinCrLf(lines);
+  return true;
+}
+
 namespace {
 
 // A user form of the Visual Basic editor: "VERSION 5.00", then the designer
@@ -132,6 +140,8 @@ class DirectorySourceTree : public SourceTree {
                   std::string* err) const override;
   bool LoadDesignText(AccessObjectKind kind, const std::string& name,
                       std::vector<std::string>* lines, std::string* err) const override;
+  bool LoadDesignBytes(AccessObjectKind kind, const std::string& name, std::string* text,
+                       std::string* err) const override;
   bool LoadMacroText(const std::string& name, std::vector<std::string>* lines,
                      std::string* err) const override;
   std::unique_ptr<MemoryCatalog> BuildCatalog() const override;
@@ -582,6 +592,22 @@ bool DirectorySourceTree::LoadDesignText(AccessObjectKind kind, const std::strin
   lines->insert(lines->end(), code.begin() + static_cast<std::ptrdiff_t>(ClassHeaderLength(code)),
                 code.end());
   return true;
+}
+
+// A design whose text holds its own code is given as it was read; the others
+// are put together from their lines.
+bool DirectorySourceTree::LoadDesignBytes(AccessObjectKind kind, const std::string& name,
+                                          std::string* text, std::string* err) const {
+  const SourceObject* o = Find(kind, name);
+  if (o && o->CodeFile.empty()) {
+    auto it = decoded_.find(o->File.string());
+    if (it != decoded_.end() && !it->second.Stub &&
+        (kind == AccessObjectKind::Form || kind == AccessObjectKind::Report)) {
+      *text = it->second.Text;
+      return true;
+    }
+  }
+  return SourceTree::LoadDesignBytes(kind, name, text, err);
 }
 
 bool DirectorySourceTree::LoadMacroText(const std::string& name, std::vector<std::string>* lines,
