@@ -115,16 +115,6 @@ size_t FirstCodeLine(const Lines& lines, size_t from) {
   return from;
 }
 
-template <typename Lines>
-ModuleCode FromDesign(Lines& lines) {
-  ModuleCode out;
-  out.Type = 1;
-  const size_t marker = CodeBehindLine(lines);
-  if (marker == lines.size()) return out;
-  AppendCode(lines, FirstCodeLine(lines, marker + 1), &out);
-  return out;
-}
-
 }  // namespace
 
 bool IsProcedureHeader(std::string_view line) {
@@ -227,10 +217,6 @@ std::string ModuleNameOfExport(std::span<const std::string_view> lines) {
 bool HasCodeBehind(const std::vector<std::string>& lines) {
   return CodeBehindLine(lines) < lines.size();
 }
-
-ModuleCode CodeBehindFromDesign(const std::vector<std::string>& lines) { return FromDesign(lines); }
-
-ModuleCode CodeBehindFromDesign(std::vector<std::string>&& lines) { return FromDesign(lines); }
 
 ModuleCode CodeBehindFromCode(std::vector<std::string>&& lines) {
   ModuleCode out;

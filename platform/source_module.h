@@ -42,12 +42,8 @@ bool IsClassAttributeLine(std::string_view line);
 size_t ClassHeaderLength(const std::vector<std::string>& lines);
 size_t ClassHeaderLength(std::span<const std::string_view> lines);
 
-// The code behind of a form or report text: the lines after the
-// CodeBehindForm line, without its Attribute lines. Empty when there is none.
-ModuleCode CodeBehindFromDesign(const std::vector<std::string>& lines);
-ModuleCode CodeBehindFromDesign(std::vector<std::string>&& lines);
-
-// The same from the lines that follow the CodeBehindForm line.
+// The code behind of a form or report from the lines that follow its
+// CodeBehindForm line, without their Attribute lines.
 ModuleCode CodeBehindFromCode(std::vector<std::string>&& lines);
 // Whether the lines after a CodeBehindForm line hold any code behind.
 bool HasCodeLines(std::span<const std::string_view> code);
