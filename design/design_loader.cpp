@@ -16,7 +16,7 @@ namespace morvane {
 
 class DesignLoader {
  public:
-  static std::unique_ptr<FormDesign> Load(const std::vector<std::string>& lines,
+  static std::unique_ptr<FormDesign> Load(std::span<const std::string_view> lines,
                                           const std::string& file, const std::string& name,
                                           std::string* err);
 
@@ -163,13 +163,20 @@ class DesignLoader {
   std::vector<PendingSection> pending_;
 };
 
-std::unique_ptr<FormDesign> LoadDesign(const std::vector<std::string>& lines,
+std::unique_ptr<FormDesign> LoadDesign(std::span<const std::string_view> lines,
                                        const std::string& file, const std::string& name,
                                        std::string* err) {
   return DesignLoader::Load(lines, file, name, err);
 }
 
-std::unique_ptr<FormDesign> DesignLoader::Load(const std::vector<std::string>& lines,
+std::unique_ptr<FormDesign> LoadDesign(const std::vector<std::string>& lines,
+                                       const std::string& file, const std::string& name,
+                                       std::string* err) {
+  const std::vector<std::string_view> views(lines.begin(), lines.end());
+  return DesignLoader::Load(views, file, name, err);
+}
+
+std::unique_ptr<FormDesign> DesignLoader::Load(std::span<const std::string_view> lines,
                                                const std::string& file, const std::string& name,
                                                std::string* err) {
   ExportDocument doc;

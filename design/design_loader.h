@@ -5,7 +5,9 @@
 
 #include <filesystem>
 #include <memory>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "design/form_design.h"
@@ -15,6 +17,9 @@ namespace morvane {
 // From the lines of an export (already Windows-1252). `file` names the
 // export in messages; `name` is the object's name (the text does not hold
 // it). Null with "<file>:<line>: <message>" when the text cannot be read.
+std::unique_ptr<FormDesign> LoadDesign(std::span<const std::string_view> lines,
+                                       const std::string& file, const std::string& name,
+                                       std::string* err);
 std::unique_ptr<FormDesign> LoadDesign(const std::vector<std::string>& lines,
                                        const std::string& file, const std::string& name,
                                        std::string* err);

@@ -4,6 +4,7 @@
 
 #include "design/design_loader.h"
 #include "platform/encoding.h"
+#include "platform/text_file.h"
 #include "platform/text_fold.h"
 
 namespace morvane {
@@ -27,7 +28,7 @@ DesignStore::DesignStore(const SourceTree& tree)
         // Messages of the designs are Windows-1252 text, as their names are.
         out->File = Utf8ToWindows1252(object->File.string());
         out->Name = object->Name;
-        return tree.LoadDesignText(kind, object->Name, &out->Lines, err);
+        return tree.LoadDesignBytes(kind, object->Name, &out->Text, err);
       }) {}
 
 DesignStore::DesignStore(LineSource source) : source_(std::move(source)) {}
@@ -51,8 +52,11 @@ const FormDesign* DesignStore::Open(AccessObjectKind kind, const std::string& na
                             : readErr;
     } else {
       const std::string& file = text.File;
-      entry.Design =
-          LoadDesign(text.Lines, file, text.Name.empty() ? name : text.Name, &entry.Error);
+      // Views of the text spare a copy of each of its lines.
+      const std::vector<std::string_view> lines =
+          text.Lines.empty() ? SplitLineViews(text.Text)
+                             : std::vector<std::string_view>(text.Lines.begin(), text.Lines.end());
+      entry.Design = LoadDesign(lines, file, text.Name.empty() ? name : text.Name, &entry.Error);
       if (entry.Design) {
         bool isReport = entry.Design->IsReport();
         if (isReport != (kind == AccessObjectKind::Report)) {

@@ -19,6 +19,7 @@ class DesignStore {
   // An object's export as the store needs it.
   struct ExportText {
     std::vector<std::string> Lines;  // Windows-1252
+    std::string Text;                // or the whole text, which the lines are split from
     std::string File;                // named in messages
     std::string Name;                // the object's own spelling; empty: as asked
   };

@@ -25,8 +25,9 @@ struct Block {
 
 // The line from its first character that is no blank or tab.
 std::string_view Trimmed(std::string_view line) {
-  const size_t b = line.find_first_not_of(" \t");
-  return b == std::string_view::npos ? std::string_view() : line.substr(b);
+  size_t b = 0;
+  while (b < line.size() && (line[b] == ' ' || line[b] == '\t')) ++b;
+  return line.substr(b);
 }
 
 // Blanks off both ends, as TrimBlanks does, without a copy.
@@ -60,11 +61,10 @@ bool SplitProperty(std::string_view t, std::string* key, std::string* value) {
 void MoveLongProperties(ConversionSession& s, const std::string& formName,
                         std::vector<std::string>& lines) {
   std::vector<Block> blocks;
-  std::vector<std::string> kept;
-  kept.reserve(lines.size());
+  size_t kept = 0;        // lines [0, kept) stay, in their order
   int propertyDepth = 0;  // inside BeginProperty ... EndProperty
-  for (auto& line : lines) {
-    const std::string_view t = Trimmed(line);
+  for (size_t i = 0; i < lines.size(); ++i) {
+    const std::string_view t = Trimmed(lines[i]);
     if (StartsWithNoCase(t, "BeginProperty")) ++propertyDepth;
     if (StartsWithNoCase(t, "EndProperty") && propertyDepth > 0) --propertyDepth;
     if (propertyDepth == 0 && StartsWithNoCase(t, "Begin ")) {
@@ -76,16 +76,18 @@ void MoveLongProperties(ConversionSession& s, const std::string& formName,
                         {}});
     } else if (propertyDepth == 0 && EqualsNoCase(t, "End") && !blocks.empty()) {
       const Block& b = blocks.back();
-      const std::string target =
-          b.name.empty() ? "Me" : "Me." + b.name + (b.index.empty() ? "" : "(" + b.index + ")");
-      for (const auto& [key, value] : b.moved) {
-        std::vector<std::string> expr = VbStringLines(value);
-        expr.front() = target + "." + key + " = " + expr.front();
-        std::string statement;
-        for (const auto& piece : expr) statement += (statement.empty() ? "" : "\r\n") + piece;
-        AddHint(s, FormLoadLineHint{statement});
-        AddHint(s, ReportRowHint{formName, kReasonReview, target + "." + key, 0,
-                                 "too long for the form file; set in Form_Load", ""});
+      if (!b.moved.empty()) {
+        const std::string target =
+            b.name.empty() ? "Me" : "Me." + b.name + (b.index.empty() ? "" : "(" + b.index + ")");
+        for (const auto& [key, value] : b.moved) {
+          std::vector<std::string> expr = VbStringLines(value);
+          expr.front() = target + "." + key + " = " + expr.front();
+          std::string statement;
+          for (const auto& piece : expr) statement += (statement.empty() ? "" : "\r\n") + piece;
+          AddHint(s, FormLoadLineHint{statement});
+          AddHint(s, ReportRowHint{formName, kReasonReview, target + "." + key, 0,
+                                   "too long for the form file; set in Form_Load", ""});
+        }
       }
       blocks.pop_back();
     } else if (propertyDepth == 0 && !blocks.empty()) {
@@ -93,14 +95,15 @@ void MoveLongProperties(ConversionSession& s, const std::string& formName,
       const size_t eq = t.find('=');
       if (eq != std::string_view::npos && EqualsNoCase(TrimmedBlanks(t.substr(0, eq)), "Index"))
         blocks.back().index = TrimBlanks(t.substr(eq + 1));
-      if (line.size() > kLongest && SplitProperty(t, &key, &value)) {
+      if (lines[i].size() > kLongest && SplitProperty(t, &key, &value)) {
         blocks.back().moved.emplace_back(key, value);
         continue;
       }
     }
-    kept.push_back(std::move(line));
+    if (kept != i) lines[kept] = std::move(lines[i]);
+    ++kept;
   }
-  lines = std::move(kept);
+  lines.resize(kept);
 }
 
 }  // namespace morvane

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <span>
 #include <string>
 
 #include "platform/text_fold.h"
@@ -31,7 +32,7 @@ std::string_view Trim(std::string_view text) {
 }
 
 struct Cursor {
-  const std::vector<std::string>& lines;
+  std::span<const std::string_view> lines;
   std::string_view file;
   std::string* err;
 
@@ -154,7 +155,7 @@ void AddProperty(std::vector<ExportProperty>* props, ExportProperty p) {
 
 class Parser {
  public:
-  Parser(const std::vector<std::string>& lines, std::string_view file, std::string* err)
+  Parser(std::span<const std::string_view> lines, std::string_view file, std::string* err)
       : c_{lines, file, err} {}
 
   bool Run(ExportDocument* doc) {
@@ -215,7 +216,7 @@ class Parser {
     doc->Code.reserve(doc->Code.size() + (c_.lines.size() - i - 1));
     for (size_t k = i + 1; k < c_.lines.size(); ++k) {
       if (c_.lines[k].size() > kMaxExportLineLength) return LongLine(k);
-      doc->Code.push_back(c_.lines[k]);
+      doc->Code.emplace_back(c_.lines[k]);
     }
     return true;
   }
@@ -260,7 +261,7 @@ class Parser {
     prop->Kind = ExportValueKind::Text;
     if (!QuotedPiece(*i, v, &prop->Value)) return false;
     while (*i + 1 < c_.lines.size()) {
-      const std::string& next = c_.lines[*i + 1];
+      const std::string_view next = c_.lines[*i + 1];
       if (next.size() > kMaxExportLineLength) return LongLine(*i + 1);
       std::string_view n = Trim(next);
       if (n.empty() || n[0] != '"') break;
@@ -377,10 +378,16 @@ bool DecodeQuotedPiece(std::string_view text, std::string* out, size_t* end) {
   return false;
 }
 
-bool ParseExport(const std::vector<std::string>& lines, std::string_view file, ExportDocument* out,
-                 std::string* err) {
+bool ParseExport(std::span<const std::string_view> lines, std::string_view file,
+                 ExportDocument* out, std::string* err) {
   *out = ExportDocument();
   return Parser(lines, file, err).Run(out);
+}
+
+bool ParseExport(const std::vector<std::string>& lines, std::string_view file, ExportDocument* out,
+                 std::string* err) {
+  const std::vector<std::string_view> views(lines.begin(), lines.end());
+  return ParseExport(views, file, out, err);
 }
 
 }  // namespace morvane

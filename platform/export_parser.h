@@ -4,6 +4,7 @@
 // already Windows-1252; builds a plain tree that the design records read.
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -56,6 +57,8 @@ inline constexpr int kMaxExportDepth = 64;
 
 // Parses the lines of one export. On failure returns false and sets `err` to
 // "<file>:<line>: <message>"; `out` is then unspecified.
+bool ParseExport(std::span<const std::string_view> lines, std::string_view file,
+                 ExportDocument* out, std::string* err);
 bool ParseExport(const std::vector<std::string>& lines, std::string_view file, ExportDocument* out,
                  std::string* err);
 

@@ -16,17 +16,15 @@ namespace morvane {
 
 namespace {
 
-bool StartsWith(const std::string& s, const char* prefix) { return s.rfind(prefix, 0) == 0; }
-
-std::string Trimmed(const std::string& s) { return std::string(text::Trim(s)); }
+using text::Trim;
 
 // A Sub, Function or Property header, with its optional scope words.
-bool IsProcedureHeader(const std::string& raw) {
-  std::string s = Trimmed(raw);
-  for (const char* scope : {"Public ", "Private ", "Friend ", "Static "}) {
-    if (text::IStartsWith(s, scope)) s = Trimmed(s.substr(std::char_traits<char>::length(scope)));
+bool IsProcedureHeader(std::string_view raw) {
+  std::string_view s = Trim(raw);
+  for (std::string_view scope : {"Public ", "Private ", "Friend ", "Static "}) {
+    if (text::IStartsWith(s, scope)) s = Trim(s.substr(scope.size()));
   }
-  if (text::IStartsWith(s, "Static ")) s = Trimmed(s.substr(7));
+  if (text::IStartsWith(s, "Static ")) s = Trim(s.substr(7));
   return text::IStartsWith(s, "Sub ") || text::IStartsWith(s, "Function ") ||
          text::IStartsWith(s, "Property ");
 }
@@ -42,7 +40,7 @@ int DeclarationLineCount(std::span<const std::string> code) {
     }
   if (first == code.size()) return static_cast<int>(code.size());
   size_t n = first;
-  while (n > 0 && Trimmed(code[n - 1]).rfind('\'', 0) == 0) --n;
+  while (n > 0 && Trim(code[n - 1]).starts_with('\'')) --n;
   return static_cast<int>(n);
 }
 
@@ -51,20 +49,20 @@ int DeclarationLineCount(std::span<const std::string> code) {
 size_t CodeStart(const std::vector<std::string>& lines) {
   size_t i = 0;
   while (i < lines.size()) {
-    const std::string t = Trimmed(lines[i]);
-    if (StartsWith(t, "VERSION ") || StartsWith(t, "Object =") || StartsWith(t, "Object=") ||
-        StartsWith(t, "Attribute ")) {
+    const std::string_view t = Trim(lines[i]);
+    if (t.starts_with("VERSION ") || t.starts_with("Object =") || t.starts_with("Object=") ||
+        t.starts_with("Attribute ")) {
       ++i;
     } else if (t == "BEGIN") {  // class header, closed by "END" or "End"
       while (i < lines.size() &&
-             !(Trimmed(lines[i]).size() == 3 && text::IStartsWith(Trimmed(lines[i]), "end")))
+             !(Trim(lines[i]).size() == 3 && text::IStartsWith(Trim(lines[i]), "end")))
         ++i;
       ++i;
-    } else if (StartsWith(t, "Begin ") && i < lines.size()) {  // designer block
+    } else if (t.starts_with("Begin ") && i < lines.size()) {  // designer block
       int depth = 0;
       for (; i < lines.size(); ++i) {
-        const std::string d = Trimmed(lines[i]);
-        if (StartsWith(d, "Begin ") || d == "Begin" || StartsWith(d, "BeginProperty ")) ++depth;
+        const std::string_view d = Trim(lines[i]);
+        if (d.starts_with("Begin ") || d == "Begin" || d.starts_with("BeginProperty ")) ++depth;
         if (d == "End" || d == "EndProperty") --depth;
         if (depth == 0) break;
       }
@@ -92,13 +90,13 @@ std::string ProjectIdentifier(const std::string& name) {
 std::vector<std::string> ObjectLines(const std::vector<std::string>& lines) {
   std::vector<std::string> objects;
   for (const auto& l : lines) {
-    std::string t = Trimmed(l);
-    if (StartsWith(t, "Begin ") || StartsWith(t, "Attribute ")) break;
+    std::string_view t = Trim(l);
+    if (t.starts_with("Begin ") || t.starts_with("Attribute ")) break;
     // VB writes "Object = ", the form writer "Object=".
-    if (!StartsWith(t, "Object")) continue;
-    std::string value = Trimmed(t.substr(6));
-    if (value.empty() || value.front() != '=') continue;
-    value = Trimmed(value.substr(1));
+    if (!t.starts_with("Object")) continue;
+    std::string_view assigned = Trim(t.substr(6));
+    if (assigned.empty() || assigned.front() != '=') continue;
+    std::string value(Trim(assigned.substr(1)));
     value.erase(std::remove(value.begin(), value.end(), '"'), value.end());
     if (std::find(objects.begin(), objects.end(), value) == objects.end()) objects.push_back(value);
   }
@@ -107,11 +105,12 @@ std::vector<std::string> ObjectLines(const std::vector<std::string>& lines) {
 
 std::string AttributeName(const std::vector<std::string>& lines) {
   for (const auto& l : lines) {
-    std::string t = Trimmed(l);
-    if (StartsWith(t, "Attribute VB_Name")) {
+    std::string_view t = Trim(l);
+    if (t.starts_with("Attribute VB_Name")) {
       size_t q1 = t.find('"');
       size_t q2 = t.rfind('"');
-      if (q1 != std::string::npos && q2 > q1) return t.substr(q1 + 1, q2 - q1 - 1);
+      if (q1 != std::string_view::npos && q2 > q1)
+        return std::string(t.substr(q1 + 1, q2 - q1 - 1));
     }
   }
   return "";
@@ -183,20 +182,20 @@ const ProjectComponent* ProjectModel::Add(const std::filesystem::path& file, Tex
   c.File = file;
   c.Kind = ComponentKind::Module;
   for (size_t i = 0; i < lines.size() && i < 40; ++i) {
-    std::string t = Trimmed(lines[i]);
-    if (StartsWith(t, "VERSION 1.0 CLASS")) {
+    std::string_view t = Trim(lines[i]);
+    if (t.starts_with("VERSION 1.0 CLASS")) {
       c.Kind = ComponentKind::Class;
       break;
     }
-    if (StartsWith(t, "Begin VB.Form") || StartsWith(t, "Begin VB.MDIForm")) {
+    if (t.starts_with("Begin VB.Form") || t.starts_with("Begin VB.MDIForm")) {
       c.Kind = ComponentKind::Form;
       break;
     }
-    if (StartsWith(t, "Begin VB.UserControl")) {
+    if (t.starts_with("Begin VB.UserControl")) {
       c.Kind = ComponentKind::UserControl;
       break;
     }
-    if (StartsWith(t, "Begin {")) {
+    if (t.starts_with("Begin {")) {
       c.Kind = ComponentKind::Designer;
       break;
     }

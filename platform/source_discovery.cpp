@@ -95,7 +95,7 @@ int HexValue(char c) {
   return -1;
 }
 
-bool HasKeyLine(const std::vector<std::string>& lines, std::string_view key) {
+bool HasKeyLine(std::span<const std::string_view> lines, std::string_view key) {
   for (const auto& l : lines) {
     std::string_view t = Trim(l);
     if (IStartsWith(t, key) && Trim(t.substr(key.size())).substr(0, 1) == "=") return true;
@@ -105,7 +105,7 @@ bool HasKeyLine(const std::vector<std::string>& lines, std::string_view key) {
 
 // A macro saved with no actions: its "Version =" line and at most its
 // column settings.
-bool IsEmptyMacro(const std::vector<std::string>& lines, size_t first) {
+bool IsEmptyMacro(std::span<const std::string_view> lines, size_t first) {
   if (!IStartsWith(Trim(lines[first]), "Version =")) return false;
   for (size_t k = first + 1; k < lines.size(); ++k) {
     std::string_view t = Trim(lines[k]);
@@ -114,7 +114,7 @@ bool IsEmptyMacro(const std::vector<std::string>& lines, size_t first) {
   return true;
 }
 
-bool HasSqlMemo(const std::vector<std::string>& lines) {
+bool HasSqlMemo(std::span<const std::string_view> lines) {
   for (const auto& l : lines)
     if (IStartsWith(Trim(l), "dbMemo \"SQL\"")) return true;
   return false;
@@ -122,7 +122,7 @@ bool HasSqlMemo(const std::vector<std::string>& lines) {
 
 }  // namespace
 
-ExportKind ClassifyExport(const std::vector<std::string>& lines, std::string_view extension) {
+ExportKind ClassifyExport(std::span<const std::string_view> lines, std::string_view extension) {
   size_t i = 0;
   while (i < lines.size() && Trim(lines[i]).empty()) ++i;
   if (i == lines.size()) return ExportKind::None;

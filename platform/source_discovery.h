@@ -4,6 +4,7 @@
 #pragma once
 
 #include <filesystem>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,7 +26,7 @@ enum class ExportKind {
 
 // The kind of an export by its decoded lines; `extension` (lower case, with
 // the dot) only tells SQL text apart from other text.
-ExportKind ClassifyExport(const std::vector<std::string>& lines, std::string_view extension);
+ExportKind ClassifyExport(std::span<const std::string_view> lines, std::string_view extension);
 
 // The object name a file name gives: known export extensions removed, %xx
 // escapes decoded, UTF-8 turned into Windows-1252. Prefixes stay.

@@ -6,6 +6,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "platform/text_file.h"
 #include "platform/text_fold.h"
 
 namespace morvane {
@@ -95,17 +96,23 @@ ModuleCode FromExport(Lines& lines, std::string* vbName) {
   return out;
 }
 
+bool IsCodeBehindLine(std::string_view line) { return Trim(line) == "CodeBehindForm"; }
+
+// The index of the design's CodeBehindForm line, or the number of lines.
+// `Lines` here and below is a vector of lines or a span of views of them.
 template <typename Lines>
-ModuleCode FromDesign(Lines& lines) {
-  ModuleCode out;
-  out.Type = 1;
+size_t CodeBehindLine(const Lines& lines) {
   size_t i = 0;
-  while (i < lines.size() && Trim(lines[i]) != "CodeBehindForm") ++i;
-  if (i == lines.size()) return out;
-  ++i;
-  while (i < lines.size() && IsAttributeLine(lines[i])) ++i;
-  AppendCode(lines, i, &out);
-  return out;
+  while (i < lines.size() && !IsCodeBehindLine(lines[i])) ++i;
+  return i;
+}
+
+// The first line of the code behind, from the line after CodeBehindForm on:
+// the Attribute lines are not part of it.
+template <typename Lines>
+size_t FirstCodeLine(const Lines& lines, size_t from) {
+  while (from < lines.size() && IsAttributeLine(lines[from])) ++from;
+  return from;
 }
 
 }  // namespace
@@ -152,7 +159,10 @@ bool IsClassAttributeLine(std::string_view line) {
   return false;
 }
 
-size_t ClassHeaderLength(const std::vector<std::string>& lines) {
+namespace {
+
+template <typename Lines>
+size_t HeaderLength(const Lines& lines) {
   size_t i = 0;
   if (lines.empty() || !IStartsWith(Trim(lines[0]), "VERSION 1.0 CLASS")) return 0;
   ++i;
@@ -162,6 +172,27 @@ size_t ClassHeaderLength(const std::vector<std::string>& lines) {
   }
   return i;
 }
+
+// The file a stub names, from the code behind's first line `from` on.
+template <typename Lines>
+std::string StubFile(const Lines& lines, size_t from) {
+  std::string file;
+  for (size_t i = from; i < lines.size(); ++i) {
+    std::string_view t = Trim(lines[i]);
+    if (t.empty() || IsAttributeLine(t)) continue;
+    if (!file.empty() || !IStartsWith(t, "' See \"") || t.back() != '"') return {};
+    std::string_view named = t.substr(7, t.size() - 8);
+    if (named.empty() || named.find('"') != std::string_view::npos) return {};
+    file = std::string(named);
+  }
+  return file;
+}
+
+}  // namespace
+
+size_t ClassHeaderLength(const std::vector<std::string>& lines) { return HeaderLength(lines); }
+
+size_t ClassHeaderLength(std::span<const std::string_view> lines) { return HeaderLength(lines); }
 
 // Both shapes of a class module are read: the VBA editor's export with its
 // VERSION 1.0 CLASS header, and Access's own text of a class, which starts
@@ -174,29 +205,50 @@ ModuleCode ModuleFromExport(std::vector<std::string>&& lines, std::string* vbNam
   return FromExport(lines, vbName);
 }
 
+std::string ModuleNameOfExport(std::span<const std::string_view> lines) {
+  std::string vbName;
+  for (size_t i = ClassHeaderLength(lines); i < lines.size() && IsAttributeLine(lines[i]); ++i) {
+    std::string name = VbNameOf(lines[i]);
+    if (!name.empty()) vbName = std::move(name);
+  }
+  return vbName;
+}
+
 bool HasCodeBehind(const std::vector<std::string>& lines) {
-  for (const auto& l : lines)
-    if (Trim(l) == "CodeBehindForm") return true;
+  return CodeBehindLine(lines) < lines.size();
+}
+
+ModuleCode CodeBehindFromCode(std::vector<std::string>&& lines) {
+  ModuleCode out;
+  out.Type = 1;
+  AppendCode(lines, FirstCodeLine(lines, 0), &out);
+  return out;
+}
+
+bool HasCodeLines(std::span<const std::string_view> code) {
+  for (size_t i = FirstCodeLine(code, 0); i < code.size(); ++i)
+    if (!IsMemberAttributeLine(code[i])) return true;
   return false;
 }
 
-ModuleCode CodeBehindFromDesign(const std::vector<std::string>& lines) { return FromDesign(lines); }
-
-ModuleCode CodeBehindFromDesign(std::vector<std::string>&& lines) { return FromDesign(lines); }
+size_t CodeBehindOffset(std::string_view text) {
+  constexpr std::string_view kMarker = "CodeBehindForm";
+  for (size_t at = text.find(kMarker); at != std::string_view::npos;
+       at = text.find(kMarker, at + kMarker.size())) {
+    const size_t start = text.find_last_of("\r\n", at) + 1;  // npos + 1 is 0
+    size_t end = FindLineBreak(text, at);
+    if (!IsCodeBehindLine(text.substr(start, end - start))) continue;
+    if (end == std::string_view::npos) return text.size();
+    if (text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n') ++end;
+    return end + 1;
+  }
+  return std::string_view::npos;
+}
 
 std::string CodeFileOfStub(const std::vector<std::string>& lines) {
-  size_t i = 0;
-  while (i < lines.size() && Trim(lines[i]) != "CodeBehindForm") ++i;
-  std::string file;
-  for (++i; i < lines.size(); ++i) {
-    std::string_view t = Trim(lines[i]);
-    if (t.empty() || IsAttributeLine(t)) continue;
-    if (!file.empty() || !IStartsWith(t, "' See \"") || t.back() != '"') return {};
-    std::string_view named = t.substr(7, t.size() - 8);
-    if (named.empty() || named.find('"') != std::string_view::npos) return {};
-    file = std::string(named);
-  }
-  return file;
+  return StubFile(lines, CodeBehindLine(lines) + 1);
 }
+
+std::string CodeFileOfStubCode(std::span<const std::string_view> code) { return StubFile(code, 0); }
 
 }  // namespace morvane

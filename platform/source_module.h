@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,6 +30,9 @@ ModuleCode ModuleFromExport(const std::vector<std::string>& lines, std::string* 
 // The same, taking the lines over rather than copying them.
 ModuleCode ModuleFromExport(std::vector<std::string>&& lines, std::string* vbName);
 
+// The name ModuleFromExport gives a module export, without copying its code.
+std::string ModuleNameOfExport(std::span<const std::string_view> lines);
+
 // Whether the line is one of the Attribute lines that only a class module
 // carries (VB_GlobalNameSpace, VB_Creatable, VB_PredeclaredId, VB_Exposed).
 bool IsClassAttributeLine(std::string_view line);
@@ -36,17 +40,24 @@ bool IsClassAttributeLine(std::string_view line);
 // The number of lines of the VBA editor's class header (VERSION 1.0 CLASS
 // and its BEGIN ... END block) at the start of a module text; 0 without one.
 size_t ClassHeaderLength(const std::vector<std::string>& lines);
+size_t ClassHeaderLength(std::span<const std::string_view> lines);
 
-// The code behind of a form or report text: the lines after the
-// CodeBehindForm line, without its Attribute lines. Empty when there is none.
-ModuleCode CodeBehindFromDesign(const std::vector<std::string>& lines);
-ModuleCode CodeBehindFromDesign(std::vector<std::string>&& lines);
+// The code behind of a form or report from the lines that follow its
+// CodeBehindForm line, without their Attribute lines.
+ModuleCode CodeBehindFromCode(std::vector<std::string>&& lines);
+// Whether the lines after a CodeBehindForm line hold any code behind.
+bool HasCodeLines(std::span<const std::string_view> code);
+// Where in a design's text the lines after its CodeBehindForm line start (the
+// text's size when that line is the last); npos when no line reads so.
+size_t CodeBehindOffset(std::string_view text);
 
 // Where a design's code lies in a file of its own, the design keeps after
 // CodeBehindForm only a comment naming that file (' See "Name.cls"). The
 // file name when the code behind is such a stub and nothing else; empty
 // otherwise.
 std::string CodeFileOfStub(const std::vector<std::string>& lines);
+// The same from the lines after the CodeBehindForm line.
+std::string CodeFileOfStubCode(std::span<const std::string_view> code);
 
 // Whether the design text has a CodeBehindForm line.
 bool HasCodeBehind(const std::vector<std::string>& lines);

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <map>
 #include <set>
+#include <span>
 
 #include "platform/encoding.h"
 #include "platform/source_discovery.h"
@@ -49,11 +50,19 @@ bool SourceTree::LoadDesignText(AccessObjectKind kind, const std::string& name,
   return ReadExportLines(o->File, lines, err);
 }
 
+bool SourceTree::LoadDesignBytes(AccessObjectKind kind, const std::string& name, std::string* text,
+                                 std::string* err) const {
+  std::vector<std::string> lines;
+  if (!LoadDesignText(kind, name, &lines, err)) return false;
+  *text = JoinCrLf(lines);
+  return true;
+}
+
 namespace {
 
 // A user form of the Visual Basic editor: "VERSION 5.00", then the designer
 // block of Microsoft Forms 2.0.
-bool IsUserForm(const std::vector<std::string>& lines) {
+bool IsUserForm(std::span<const std::string_view> lines) {
   size_t i = 0;
   while (i < lines.size() && text::Trim(lines[i]).empty()) ++i;
   return i + 1 < lines.size() && IStartsWith(text::Trim(lines[i]), "VERSION 5.00") &&
@@ -131,6 +140,8 @@ class DirectorySourceTree : public SourceTree {
                   std::string* err) const override;
   bool LoadDesignText(AccessObjectKind kind, const std::string& name,
                       std::vector<std::string>* lines, std::string* err) const override;
+  bool LoadDesignBytes(AccessObjectKind kind, const std::string& name, std::string* text,
+                       std::string* err) const override;
   bool LoadMacroText(const std::string& name, std::vector<std::string>* lines,
                      std::string* err) const override;
   std::unique_ptr<MemoryCatalog> BuildCatalog() const override;
@@ -166,8 +177,15 @@ class DirectorySourceTree : public SourceTree {
   std::vector<std::string> warnings_;
   // The decoded text of every export, read once while the tree is read; the
   // loaders split it again instead of reading the file a second time.
-  std::map<std::string, std::string> decoded_;
+  struct DecodedExport {
+    std::string Text;
+    bool Stub = false;  // a design whose code behind only names its code file
+  };
+  std::map<std::string, DecodedExport> decoded_;
   bool ReadLines(const fs::path& file, std::vector<std::string>* lines, std::string* err) const;
+  bool IsStub(const fs::path& design, const std::vector<std::string>& lines) const;
+  bool CodeBehindLines(const SourceObject& o, std::vector<std::string>* code,
+                       std::string* err) const;
 };
 
 // Forced layouts admit only the files their shape holds.
@@ -228,7 +246,8 @@ void DirectorySourceTree::ReadFile(const fs::path& file, const LayoutRule* force
     case DecodeStatus::Ok:
       break;
   }
-  std::vector<std::string> lines = SplitLines(text.Text);
+  // Views of the text, which goes into decoded_ once they are done with.
+  const std::vector<std::string_view> lines = SplitLineViews(text.Text);
   FoundFile f;
   f.File = file;
   f.Kind = ClassifyExport(lines, ext);
@@ -261,18 +280,23 @@ void DirectorySourceTree::ReadFile(const fs::path& file, const LayoutRule* force
   }
   f.Stem = NameFromFileName(file);
   if (f.Kind == ExportKind::StandardModule || f.Kind == ExportKind::ClassModule)
-    ModuleFromExport(lines, &f.VbName);
+    f.VbName = ModuleNameOfExport(lines);
   if (f.Kind == ExportKind::Query) {
     std::string note;
-    f.Query = QueryFromExport(lines, &note);
+    f.Query = QueryFromExport(std::vector<std::string>(lines.begin(), lines.end()), &note);
     if (!note.empty()) Warn(file, note);
   }
   if (f.Kind == ExportKind::Sql) f.SqlText = text.Text;
   if (f.Kind == ExportKind::Form || f.Kind == ExportKind::Report) {
-    f.StubFile = CodeFileOfStub(lines);
-    f.CodeBehind = f.StubFile.empty() && CodeBehindFromDesign(lines).CountOfLines() > 0;
+    // Only the lines after CodeBehindForm are looked at again.
+    const std::string_view all = text.Text;
+    if (const size_t at = CodeBehindOffset(all); at != std::string_view::npos) {
+      const std::vector<std::string_view> code = SplitLineViews(all.substr(at));
+      f.StubFile = CodeFileOfStubCode(code);
+      f.CodeBehind = f.StubFile.empty() && HasCodeLines(code);
+    }
   }
-  decoded_[file.string()] = std::move(text.Text);
+  decoded_[file.string()] = {std::move(text.Text), !f.StubFile.empty()};
   found_.push_back(std::move(f));
 }
 
@@ -481,7 +505,46 @@ bool DirectorySourceTree::ReadLines(const fs::path& file, std::vector<std::strin
                                     std::string* err) const {
   auto it = decoded_.find(file.string());
   if (it == decoded_.end()) return ReadExportLines(file, lines, err);
-  *lines = SplitLines(it->second);
+  *lines = SplitLines(it->second.Text);
+  return true;
+}
+
+// Whether the design's code behind is a stub naming its code file, as read
+// when the tree was read.
+bool DirectorySourceTree::IsStub(const fs::path& design,
+                                 const std::vector<std::string>& lines) const {
+  auto it = decoded_.find(design.string());
+  return it != decoded_.end() ? it->second.Stub : !CodeFileOfStub(lines).empty();
+}
+
+// The lines a form's or report's code behind is read from: the code file's
+// module text (class header left out), none for a stub that only names the
+// file, else the lines after the design's CodeBehindForm line, which are
+// split off the design's text alone.
+bool DirectorySourceTree::CodeBehindLines(const SourceObject& o, std::vector<std::string>* code,
+                                          std::string* err) const {
+  code->clear();
+  if (!o.CodeFile.empty()) {
+    if (!ReadLines(o.CodeFile, code, err)) return false;
+    code->erase(code->begin(),
+                code->begin() + static_cast<std::ptrdiff_t>(ClassHeaderLength(*code)));
+    return true;
+  }
+  auto it = decoded_.find(o.File.string());
+  if (it != decoded_.end()) {
+    const std::string_view text = it->second.Text;
+    const size_t at = CodeBehindOffset(text);
+    if (!it->second.Stub && at != std::string_view::npos) *code = SplitLines(text.substr(at));
+    return true;
+  }
+  std::vector<std::string> lines;
+  if (!ReadExportLines(o.File, &lines, err)) return false;
+  if (!CodeFileOfStub(lines).empty()) return true;
+  auto marker = std::find_if(lines.begin(), lines.end(), [](const std::string& l) {
+    return text::Trim(l) == "CodeBehindForm";
+  });
+  if (marker != lines.end())
+    code->assign(std::make_move_iterator(marker + 1), std::make_move_iterator(lines.end()));
   return true;
 }
 
@@ -500,8 +563,8 @@ bool DirectorySourceTree::LoadModule(AccessObjectKind kind, const std::string& n
     *out = ModuleFromExport(std::move(lines), nullptr);
     return true;
   }
-  if (!LoadDesignText(kind, name, &lines, err)) return false;
-  *out = CodeBehindFromDesign(std::move(lines));
+  if (!CodeBehindLines(*o, &lines, err)) return false;
+  *out = CodeBehindFromCode(std::move(lines));
   return true;
 }
 
@@ -515,7 +578,7 @@ bool DirectorySourceTree::LoadDesignText(AccessObjectKind kind, const std::strin
     return false;
   }
   if (!ReadLines(o->File, lines, err)) return false;
-  const bool stub = !CodeFileOfStub(*lines).empty();
+  const bool stub = IsStub(o->File, *lines);
   if (o->CodeFile.empty() && !stub) return true;
   // The code behind is the code file's module text (class header left out);
   // a stub that only names the file is never taken as code.
@@ -529,6 +592,22 @@ bool DirectorySourceTree::LoadDesignText(AccessObjectKind kind, const std::strin
   lines->insert(lines->end(), code.begin() + static_cast<std::ptrdiff_t>(ClassHeaderLength(code)),
                 code.end());
   return true;
+}
+
+// A design whose text holds its own code is given as it was read; the others
+// are put together from their lines.
+bool DirectorySourceTree::LoadDesignBytes(AccessObjectKind kind, const std::string& name,
+                                          std::string* text, std::string* err) const {
+  const SourceObject* o = Find(kind, name);
+  if (o && o->CodeFile.empty()) {
+    auto it = decoded_.find(o->File.string());
+    if (it != decoded_.end() && !it->second.Stub &&
+        (kind == AccessObjectKind::Form || kind == AccessObjectKind::Report)) {
+      *text = it->second.Text;
+      return true;
+    }
+  }
+  return SourceTree::LoadDesignBytes(kind, name, text, err);
 }
 
 bool DirectorySourceTree::LoadMacroText(const std::string& name, std::vector<std::string>* lines,

@@ -64,6 +64,11 @@ class SourceTree {
   // file as it is.
   virtual bool LoadDesignText(AccessObjectKind kind, const std::string& name,
                               std::vector<std::string>* lines, std::string* err) const;
+  // The same text in one piece, each line ended by CR LF where a line end
+  // was added; splitting it gives the lines above. This implementation
+  // joins them.
+  virtual bool LoadDesignBytes(AccessObjectKind kind, const std::string& name, std::string* text,
+                               std::string* err) const;
   // A macro's saved text, converted to Windows-1252 lines.
   virtual bool LoadMacroText(const std::string& name, std::vector<std::string>* lines,
                              std::string* err) const = 0;

@@ -25,8 +25,11 @@ size_t FindLineBreak(std::string_view text, size_t from) {
   return std::string_view::npos;
 }
 
-std::vector<std::string> SplitLines(std::string_view text) {
-  std::vector<std::string> lines;
+namespace {
+
+template <typename Line>
+std::vector<Line> Split(std::string_view text) {
+  std::vector<Line> lines;
   const size_t n = text.size();
   size_t start = 0;
   for (size_t i = FindLineBreak(text, 0); i != std::string_view::npos;
@@ -37,6 +40,14 @@ std::vector<std::string> SplitLines(std::string_view text) {
   }
   if (start < n) lines.emplace_back(text.substr(start));
   return lines;
+}
+
+}  // namespace
+
+std::vector<std::string> SplitLines(std::string_view text) { return Split<std::string>(text); }
+
+std::vector<std::string_view> SplitLineViews(std::string_view text) {
+  return Split<std::string_view>(text);
 }
 
 std::string JoinCrLf(const std::vector<std::string>& lines) {

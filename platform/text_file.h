@@ -15,6 +15,8 @@ size_t FindLineBreak(std::string_view text, size_t from = 0);
 // Splits text at CR LF, LF or lone CR. A final line end does not start an
 // extra empty line.
 std::vector<std::string> SplitLines(std::string_view text);
+// The same lines as views into `text`, which must outlive them.
+std::vector<std::string_view> SplitLineViews(std::string_view text);
 
 // Joins lines with CR LF after each one.
 std::string JoinCrLf(const std::vector<std::string>& lines);

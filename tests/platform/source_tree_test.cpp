@@ -3,10 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 
 #include "platform/source_module.h"
 #include "platform/source_query.h"
+#include "platform/text_file.h"
+#include "platform/text_fold.h"
 #include "support/temp_dir.h"
 
 namespace morvane {
@@ -426,6 +429,39 @@ TEST(SourceTreeTest, ModulesAsTheVbaEditorShowsThem) {
   EXPECT_EQ(code.Type, 1);
   EXPECT_FALSE(tree->LoadModule(AccessObjectKind::Module, "Nope", &code, &err));
   EXPECT_NE(err.find("Nope"), std::string::npos);
+}
+
+// The code behind is split off the design's text alone: the lines found
+// there are those that follow the CodeBehindForm line of the whole text.
+TEST(SourceTreeTest, CodeBehindStartsAfterTheFirstCodeBehindFormLine) {
+  const std::pair<const char*, std::string> cases[] = {
+      {"CR LF", "Begin Form\r\nEnd\r\nCodeBehindForm\r\nOption Explicit\r\n"},
+      {"lone CR and LF", "End\rCodeBehindForm\nA\rB\n\nC"},
+      {"blanks around", "End\r\n \tCodeBehindForm \r\n\r\nSub X()\r\n"},
+      {"named in a caption first", "Caption =\"CodeBehindForm\"\r\nCodeBehindForm\r\nDim a"},
+      {"last line", "End\r\nCodeBehindForm"},
+      {"last line with its end", "End\r\nCodeBehindForm\r\n"},
+      {"at the very start", "CodeBehindForm\nDim a\n"},
+      {"twice", "CodeBehindForm\r\nDim a\r\nCodeBehindForm\r\nDim b\r\n"},
+      {"none", "Begin Form\r\nCaption =\"CodeBehindForms\"\r\nEnd\r\n"},
+  };
+  for (const auto& [label, text] : cases) {
+    const std::vector<std::string> lines = SplitLines(text);
+    const size_t marker = static_cast<size_t>(
+        std::find_if(lines.begin(), lines.end(),
+                     [](const std::string& l) { return text::Trim(l) == "CodeBehindForm"; }) -
+        lines.begin());
+    const size_t at = CodeBehindOffset(text);
+    if (marker == lines.size()) {
+      EXPECT_EQ(at, std::string_view::npos) << label;
+      continue;
+    }
+    ASSERT_NE(at, std::string_view::npos) << label;
+    EXPECT_EQ(SplitLines(std::string_view(text).substr(at)),
+              std::vector<std::string>(lines.begin() + static_cast<std::ptrdiff_t>(marker) + 1,
+                                       lines.end()))
+        << label;
+  }
 }
 
 TEST(SourceTreeTest, DeclarationLinesEndWhereTheFirstProcedureStarts) {
