@@ -177,6 +177,13 @@ const ProjectComponent* ProjectModel::Find(const std::string& name) const {
 }
 
 const ProjectComponent* ProjectModel::Add(const std::filesystem::path& file, TextDocument text) {
+  ProjectComponent c = Describe(file, text);
+  c.Text = std::make_shared<TextDocument>(std::move(text));
+  return Add(std::move(c));
+}
+
+ProjectComponent ProjectModel::Describe(const std::filesystem::path& file,
+                                        const TextDocument& text) {
   const std::vector<std::string>& lines = text.Lines();
   ProjectComponent c;
   c.File = file;
@@ -203,7 +210,10 @@ const ProjectComponent* ProjectModel::Add(const std::filesystem::path& file, Tex
   c.Name = AttributeName(lines);
   if (c.Name.empty()) c.Name = file.stem().string();
   c.Objects = ObjectLines(lines);
-  c.Text = std::make_shared<TextDocument>(std::move(text));
+  return c;
+}
+
+const ProjectComponent* ProjectModel::Add(ProjectComponent c) {
   for (auto& existing : components_) {
     if (existing.Name == c.Name) {
       existing = std::move(c);

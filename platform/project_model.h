@@ -71,6 +71,10 @@ class ProjectModel {
   // a .bas is a class. A component with the same name replaces the earlier
   // one in place.
   const ProjectComponent* Add(const std::filesystem::path& file, TextDocument text);
+  // The component `text` makes, as Add would add it, without its text: for
+  // a file written from that text elsewhere.
+  static ProjectComponent Describe(const std::filesystem::path& file, const TextDocument& text);
+  const ProjectComponent* Add(ProjectComponent component);
   // Adds a file that is already on disk. Null when it cannot be read.
   const ProjectComponent* AddFile(const std::filesystem::path& file);
   void Remove(const std::string& name);

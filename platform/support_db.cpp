@@ -5,6 +5,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -216,26 +217,32 @@ bool SupportDatabase::AddReportOutput(const ReportOutputRow& row) {
 }
 
 bool SupportDatabase::AddReportOutputs(const ReportOutputRow* const* rows, size_t count) {
-  // Whole batches go in through one statement of kBatch rows: running a
-  // statement costs about what a row costs, so a module's hundreds of rows
-  // take a fraction of the time. The rows are numbered in the order given
-  // either way.
+  // Up to kBatch rows go in through one statement: running a statement
+  // costs several times what a row costs (the table's numbering is read and
+  // written once a statement), so a module's hundreds of rows take a
+  // fraction of the time. The rows are numbered in the order given.
   constexpr size_t kBatch = 32;
-  static const std::string batch = [] {
-    std::string sql =
+  // The statement of n + 1 rows, made once for every n.
+  static const std::array<std::string, kBatch> statements = [] {
+    std::array<std::string, kBatch> sql;
+    std::string text =
         "INSERT INTO tblReportOutput (ModuleName, ReasonID, CodeLine, LineNumber, "
         "TranslatedLine, Routine) VALUES (?,?,?,?,?,?)";
-    for (size_t i = 1; i < kBatch; ++i) sql += ",(?,?,?,?,?,?)";
+    for (size_t n = 0; n < kBatch; ++n) {
+      sql[n] = text;
+      text += ",(?,?,?,?,?,?)";
+    }
     return sql;
   }();
-  for (; count >= kBatch; rows += kBatch, count -= kBatch) {
-    sqlite3_stmt* st = Kept(batch.c_str());
+  while (count > 0) {
+    const size_t n = std::min(count, kBatch);
+    sqlite3_stmt* st = Kept(statements[n - 1].c_str());
     if (!st) return false;
     // The rows outlive the statement's run, so their text is not copied.
     const auto text = [st](int i, const std::string& v) {
       sqlite3_bind_text(st, i, v.data(), static_cast<int>(v.size()), SQLITE_STATIC);
     };
-    for (size_t r = 0; r < kBatch; ++r) {
+    for (size_t r = 0; r < n; ++r) {
       const ReportOutputRow& row = *rows[r];
       const int at = static_cast<int>(r * 6);
       text(at + 1, row.ModuleName);
@@ -248,9 +255,9 @@ bool SupportDatabase::AddReportOutputs(const ReportOutputRow* const* rows, size_
     const bool done = sqlite3_step(st) == SQLITE_DONE;
     sqlite3_reset(st);
     if (!done) return false;
+    rows += n;
+    count -= n;
   }
-  for (size_t i = 0; i < count; ++i)
-    if (!AddReportOutput(*rows[i])) return false;
   return true;
 }
 

@@ -330,7 +330,7 @@ class ModuleTranslations {
     // Filled by the thread when its translation stands; the file is then
     // written, or `WriteError` says why not.
     bool Translated = false;
-    TextDocument Text;  // translated and indented
+    ProjectComponent Component;  // without its text, which is written
     std::vector<DeferredRow> Rows;
     std::array<bool, 21> ListControlsUsed{};
     std::vector<ProjectFinding> Findings;
@@ -377,9 +377,12 @@ class ModuleTranslations {
         SilentIndent(text);
         m.Findings = CheckComponentText(m.Path, text.Lines());
         m.WriteFailed = !copy_.Output->Write(m.Path, text.Bytes(), &m.WriteError);
-        m.Text = std::move(text);
+        m.Component = ProjectModel::Describe(m.Path, text);
         m.ListControlsUsed = copy_.ListControlsUsed;
         m.Translated = true;
+        // The texts are not needed again: they are let go here, off the
+        // run's thread.
+        m.Source = TextDocument();
       }
     } catch (...) {
       // Whatever is not translated here the modules step translates itself,
@@ -408,9 +411,8 @@ void ConvertModulesStep(ConversionSession& s, Converters& c, RunSummary& summary
       AddDeferredRows(s, m.Rows);
       for (size_t k = 0; k < m.ListControlsUsed.size(); ++k)
         if (m.ListControlsUsed[k]) s.ListControlsUsed[k] = true;
-      const ProjectComponent* component = s.ActiveProject->Add(m.Path, std::move(m.Text));
+      s.ActiveProject->Add(std::move(m.Component));
       RecordCheckFindings(s, m.Findings);
-      s.ActiveProject->Written(component->Name);
       if (!m.WriteFailed)
         ++summary.Modules;
       else
