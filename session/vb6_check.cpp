@@ -367,7 +367,9 @@ std::optional<std::string> ExpressionProblem(std::string_view code) {
       i = j;
     }
   }
-  // "As MSForms!Label": a type's name never holds "!".
+  // "As MSForms!Label": a type's name never holds "!", which most lines
+  // do not hold at all.
+  if (code.find('!') == std::string_view::npos) return std::nullopt;
   for (size_t p = FindAs(code, 0); p != std::string::npos; p = FindAs(code, p + 1)) {
     size_t end = p + 4;
     while (end < code.size() && (IsNameChar(code[end]) || code[end] == '.' || code[end] == '!'))
