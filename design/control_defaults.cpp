@@ -125,6 +125,11 @@ uint64_t PropertySchema::FoldedHash(std::string_view name) {
   return h;
 }
 
+bool IsEventPropertyName(std::string_view name) {
+  return text::IStartsWith(name, "On") || text::IStartsWith(name, "Before") ||
+         text::IStartsWith(name, "After");
+}
+
 const PropertyDefault* PropertySchema::Find(std::string_view name) const {
   if (slots_.empty()) return nullptr;
   const uint64_t hash = FoldedHash(name);
@@ -190,7 +195,12 @@ bool ParseControlDefaults(std::string_view text, std::vector<PropertySchema>* ou
     while (size < 2 * schema.properties_.size()) size *= 2;
     schema.slots_.assign(size, 0);
     schema.hashes_.clear();
+    schema.eventsDefaultEmpty_ = true;
     for (size_t i = 0; i < schema.properties_.size(); ++i) {
+      const PropertyDefault& d = schema.properties_[i];
+      const bool emptyText =
+          (d.Kind == PropertyKind::Text || d.Kind == PropertyKind::Event) && d.Value.empty();
+      if (IsEventPropertyName(d.Name) && !emptyText) schema.eventsDefaultEmpty_ = false;
       const uint64_t hash = PropertySchema::FoldedHash(schema.properties_[i].Name);
       schema.hashes_.push_back(hash);
       size_t slot = hash & (size - 1);

@@ -26,6 +26,9 @@ class PropertySchema {
   // not have it.
   const PropertyDefault* Find(std::string_view name) const;
   const std::vector<PropertyDefault>& Properties() const { return properties_; }
+  // Whether every property the type has under an event's name reads as
+  // empty when the text leaves it out, as Access's event defaults do.
+  bool EventsDefaultEmpty() const { return eventsDefaultEmpty_; }
 
  private:
   friend bool ParseControlDefaults(std::string_view, std::vector<PropertySchema>*, std::string*);
@@ -38,7 +41,12 @@ class PropertySchema {
   // Open addressing over properties_: each slot holds a position plus one,
   // or 0 when empty; a power of two in size, at most half full.
   std::vector<uint32_t> slots_;
+  bool eventsDefaultEmpty_ = true;
 };
+
+// Whether a property name is an event's: On..., Before... or After...,
+// without regard to case.
+bool IsEventPropertyName(std::string_view name);
 
 // The schema of a block type ("TextBox", "Form", "GroupedCheckBox", ...)
 // from the compiled-in table; null for a type the table does not describe.

@@ -38,12 +38,6 @@ const ExportProperty* FindEmbeddedMacro(const ExportBlock& block, std::string_vi
   return nullptr;
 }
 
-// Event properties are named On..., Before... or After....
-bool IsEventName(std::string_view name) {
-  return text::IStartsWith(name, "On") || text::IStartsWith(name, "Before") ||
-         text::IStartsWith(name, "After");
-}
-
 }  // namespace
 
 std::optional<double> DesignNumber(std::string_view v) {
@@ -97,6 +91,18 @@ bool DesignObject::HoldsEmbeddedMacros(const ExportBlock* block) {
     if (p.Kind == ExportValueKind::Block && text::IEndsWith(p.Key, kEmbeddedMacroSuffix))
       return true;
   return false;
+}
+
+bool DesignObject::MayReadEvents() const {
+  if (hasMacros_) return true;
+  auto writesEvent = [](const ExportBlock* block) {
+    if (!block) return false;
+    for (const ExportProperty& p : block->Properties)
+      if (IsEventPropertyName(p.Key)) return true;
+    return false;
+  };
+  return writesEvent(block_) || writesEvent(defaults_) ||
+         (schema_ && !schema_->EventsDefaultEmpty());
 }
 
 bool DesignObject::IsWritten(std::string_view name) const {
@@ -172,9 +178,9 @@ std::optional<DesignObject::Value> DesignObject::Resolve(std::string_view name) 
   auto v = Stored(name);
   // An event whose action is an embedded macro names that macro; the text
   // may leave the event out or mark it "[Embedded Macro]".
-  if (hasMacros_ && IsEventName(name) &&
-      (!v || (v->kind == Value::Kind::Text &&
-              (v->text().empty() || v->text() == kEmbeddedMacroMark)))) {
+  if (hasMacros_ && IsEventPropertyName(name) &&
+      (!v ||
+       (v->kind == Value::Kind::Text && (v->text().empty() || v->text() == kEmbeddedMacroMark)))) {
     const ExportProperty* m = FindEmbeddedMacro(*block_, name);
     if (m && m->Kind == ExportValueKind::Block)
       return Value::Of(Value::Kind::Text, MacroOwner() + "." + std::string(name));

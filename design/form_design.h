@@ -60,6 +60,11 @@ class DesignObject {
   bool IsNull(std::string_view name) const;
   // Whether the text writes the property itself.
   bool IsWritten(std::string_view name) const;
+  // False when every event property (On..., Before..., After...) reads as
+  // empty: neither the object's text nor its default-control block writes
+  // one, it carries no embedded macro, and its type's table gives none a
+  // value. A reader of many events asks this once instead of each event.
+  bool MayReadEvents() const;
 
   // The Name property, read once when the design is loaded.
   const std::string& Name() const { return name_; }

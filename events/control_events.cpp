@@ -5,10 +5,11 @@
 
 #include <utility>
 
+#include "design/control_defaults.h"
 #include "design/form_design.h"
+#include "session/analysis_writers.h"
 #include "session/conversion_session.h"
 #include "session/naming.h"
-#include "session/analysis_writers.h"
 
 namespace morvane {
 
@@ -88,9 +89,12 @@ ControlEventWriter::ControlEventWriter(const EventCode& code, const DesignObject
     : code_(code),
       control_(control),
       vbName_(std::move(vbName)),
-      safeAccessName_(SafeName(control.Name())) {}
+      safeAccessName_(SafeName(control.Name())),
+      mayReadEvents_(control.MayReadEvents()) {}
 
 std::string ControlEventWriter::Value(std::string_view property) const {
+  // Most controls have no events; one look at the control answers for all.
+  if (!mayReadEvents_ && IsEventPropertyName(property)) return std::string();
   return control_.Text(property).value_or("");
 }
 

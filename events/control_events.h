@@ -66,6 +66,7 @@ class ControlEventWriter {
   const DesignObject& control_;
   std::string vbName_;
   std::string safeAccessName_;
+  bool mayReadEvents_;  // false when every event of the control reads as empty
 };
 
 void ButtonCode(const ControlEventWriter& w);

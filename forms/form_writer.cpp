@@ -132,14 +132,19 @@ bool FormWriter::ConvertForm(const std::string& formName, std::string* err) {
   t_.OwnerFormName = formName;
   WriteForm(formName, false, 1, false);
 
-  std::string text = t_.HeaderText + "\r\n" + t_.BodyText;
+  // The parts go into the text one after the other, as one file of them
+  // would read, without joining them first.
+  TextDocument& text = state.Text;
+  auto add = [&text](std::initializer_list<std::string_view> pieces) {
+    for (std::string_view piece : pieces) text.Append(piece);
+  };
+  add({t_.HeaderText, "\r\n", t_.BodyText});
   for (int n = 1; n <= 4; ++n)
-    if (!t_.SectionText[n].empty()) text += "\r\n" + t_.SectionText[n] + "\r\nEnd";
-  if (!t_.PageTabHead.empty()) text += "\r\n" + t_.PageTabHead;
-  if (!t_.PageTabBody.empty()) text += "\r\n" + t_.PageTabBody;
-  if (!t_.PageTabHead.empty()) text += "\r\nEnd";
-  text += "\r\nEnd\r\n";
-  state.Text = TextDocument::FromBytes(text);
+    if (!t_.SectionText[n].empty()) add({"\r\n", t_.SectionText[n], "\r\nEnd"});
+  if (!t_.PageTabHead.empty()) add({"\r\n", t_.PageTabHead});
+  if (!t_.PageTabBody.empty()) add({"\r\n", t_.PageTabBody});
+  if (!t_.PageTabHead.empty()) add({"\r\nEnd"});
+  add({"\r\nEnd\r\n"});
   MoveLongProperties(s_, formName, state.Text.Lines());
   return true;
 }

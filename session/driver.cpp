@@ -153,15 +153,18 @@ std::string BlockText(const std::vector<std::string>& lines) {
 
 void AddFormPropertyCode(ConversionSession& s, FormConverter& forms, const std::string& name,
                          const ProjectComponent& component) {
-  CodeModule code = component.Code();
   const FormState& f = s.Form();
+  const bool filters = f.UsesFilter || f.UsesFilterOn || f.UsesOrderBy || f.UsesOrderByOn;
+  // Most forms take none of these properties: their code is not looked at.
+  if (!f.UsesOpenArgs && !filters) return;
+  CodeModule code = component.Code();
   for (const auto& block : PropertyBlocks(component.Name)) {
     if (!(f.*block.flag)) continue;
     code.AddFromString(block.declaration);
     code.InsertLines(code.CountOfLines() + 1, BlockText(block.let));
     code.InsertLines(code.CountOfLines() + 1, BlockText(block.get));
   }
-  if (f.UsesFilter || f.UsesFilterOn || f.UsesOrderBy || f.UsesOrderByOn) {
+  if (filters) {
     std::string source = forms.RecordSource(s, name);
     std::string sql =
         ToLower(source.substr(0, 7)) == "select " ? source : "Select * From [" + source + "]";

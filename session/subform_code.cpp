@@ -16,6 +16,7 @@ namespace {
 
 constexpr std::string_view kSectionMark = "'MORVANE Form Code for ";
 constexpr std::string_view kSectionEnd = "'MORVANE End Form Code for ";
+static_assert(kSectionMark[0] == '\'' && kSectionEnd[0] == '\'', "the marks are comments");
 
 struct Section {
   std::string Form;
@@ -95,6 +96,10 @@ void SeparateSubformProcedures(ConversionSession& s, const std::string& formName
   std::vector<std::string>& lines = s.Form().Text.Lines();
   std::vector<Section> sections;
   for (size_t i = 0; i < lines.size(); ++i) {
+    // Both marks are comments: other lines are passed over without a
+    // trimmed copy.
+    const size_t first = lines[i].find_first_not_of(' ');
+    if (first == std::string::npos || lines[i][first] != '\'') continue;
     const std::string t = TrimBlanks(lines[i]);
     if (t.starts_with(kSectionMark)) {
       sections.push_back({t.substr(kSectionMark.size()), i, lines.size()});

@@ -157,6 +157,58 @@ TEST(FormDesign, UnsetCaptionIsNull) {
   EXPECT_EQ(f->Section(0), nullptr);
 }
 
+// A control reads its events from its own text, the form's default-control
+// block or an embedded macro; only when none of them has one may a reader of
+// many events take them all as empty.
+TEST(FormDesign, WhetherAControlMayReadEvents) {
+  auto f = Load(R"txt(Begin Form
+    Begin
+        Begin CommandButton
+            OnClick ="[Event Procedure]"
+        End
+        Begin Section
+            Name ="Detail"
+            Begin
+                Begin TextBox
+                    Name ="txtPlain"
+                    ControlSource ="City"
+                End
+                Begin TextBox
+                    Name ="txtOwn"
+                    afterupdate ="=Recalc()"
+                End
+                Begin CommandButton
+                    Name ="cmdFromDefaults"
+                End
+                Begin Label
+                    Name ="lblMacro"
+                    OnDblClickEmMacro = Begin
+                        Version =196611
+                    End
+                End
+            End
+        End
+    End
+End
+)txt",
+                "frmEvents");
+  struct Row {
+    const char* control;
+    bool mayRead;
+  };
+  for (const Row& r : {Row{"txtPlain", false}, Row{"txtOwn", true}, Row{"cmdFromDefaults", true},
+                       Row{"lblMacro", true}}) {
+    const ControlDesign* c = f->Control(r.control);
+    ASSERT_NE(c, nullptr) << r.control;
+    EXPECT_EQ(c->MayReadEvents(), r.mayRead) << r.control;
+    if (!r.mayRead) {
+      for (const char* e : {"OnClick", "BeforeUpdate", "AfterUpdate", "OnExit"})
+        EXPECT_EQ(c->Text(e).value_or(""), "") << r.control << " " << e;
+    }
+  }
+  EXPECT_EQ(f->Control("cmdFromDefaults")->Text("OnClick"), "[Event Procedure]");
+}
+
 TEST_F(CustomersForm, Sections) {
   ASSERT_EQ(form_->Sections().size(), 3u);
   const SectionDesign* header = form_->Section(1);
