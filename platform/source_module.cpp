@@ -214,10 +214,6 @@ std::string ModuleNameOfExport(std::span<const std::string_view> lines) {
   return vbName;
 }
 
-bool HasCodeBehind(const std::vector<std::string>& lines) {
-  return CodeBehindLine(lines) < lines.size();
-}
-
 ModuleCode CodeBehindFromCode(std::vector<std::string>&& lines) {
   ModuleCode out;
   out.Type = 1;

@@ -59,9 +59,6 @@ std::string CodeFileOfStub(const std::vector<std::string>& lines);
 // The same from the lines after the CodeBehindForm line.
 std::string CodeFileOfStubCode(std::span<const std::string_view> code);
 
-// Whether the design text has a CodeBehindForm line.
-bool HasCodeBehind(const std::vector<std::string>& lines);
-
 // The value of an `Attribute VB_Name = "..."` line, or empty.
 std::string VbNameOf(std::string_view line);
 
